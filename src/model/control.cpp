@@ -1,0 +1,53 @@
+#include "model/control.h"
+
+namespace lw {
+
+const char* controlKindName(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::TextBox: return "TextBox";
+        case ControlKind::Label: return "Label";
+        case ControlKind::CheckLabel: return "CheckLabel";
+        case ControlKind::Shape: return "Shape";
+        case ControlKind::Line: return "Line";
+        case ControlKind::Picture: return "PictureBox";
+        case ControlKind::Image: return "Image";
+        case ControlKind::Frame: return "Frame";
+        case ControlKind::OptionButton: return "OptionButton";
+        case ControlKind::ComboBox: return "ComboBox";
+        case ControlKind::ListBox: return "ListBox";
+        case ControlKind::CommandButton: return "CommandButton";
+        case ControlKind::TabControl: return "TabStrip";
+        case ControlKind::Grid: return "Grid";
+    }
+    return "Control";
+}
+
+std::string Control::key() const {
+    if (index == kNoIndex) return name;
+    return name + "(" + std::to_string(index) + ")";
+}
+
+const std::string& Control::shownText() const {
+    switch (kind) {
+        case ControlKind::TextBox:
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox: return text;
+        default: return caption;
+    }
+}
+
+bool Control::canTakeFocus() const {
+    switch (kind) {
+        case ControlKind::TextBox:
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox:
+        case ControlKind::CommandButton:
+        case ControlKind::OptionButton:
+        case ControlKind::TabControl:
+        case ControlKind::Grid:
+        case ControlKind::Picture: return visible && enabled;
+        default: return false;
+    }
+}
+
+}  // namespace lw

@@ -1,0 +1,95 @@
+#pragma once
+// A control of a form with the properties the program's logic reads and writes.
+// Properties are the single source of truth; every view mirrors them.
+
+#include <string>
+#include <vector>
+
+#include "model/color.h"
+
+namespace lw {
+
+class Form;
+
+enum class ControlKind {
+    TextBox,
+    Label,
+    CheckLabel,  // a small label that acts as a check box: Caption "X" or empty
+    Shape,
+    Line,
+    Picture,
+    Image,
+    Frame,
+    OptionButton,
+    ComboBox,
+    ListBox,
+    CommandButton,
+    TabControl,
+    Grid,
+};
+
+const char* controlKindName(ControlKind kind);
+
+constexpr int kNoIndex = -1;
+
+enum class Alignment { Left = 0, Right = 1, Center = 2 };
+
+struct Control {
+    ControlKind kind = ControlKind::Label;
+    std::string name;
+    int index = kNoIndex;  // kNoIndex for a control that is not in a control array
+    Form* form = nullptr;
+
+    std::string text;
+    std::string caption;
+    std::string tag;
+    std::string toolTipText;
+
+    bool locked = false;
+    bool enabled = true;
+    bool visible = true;
+    bool tabStop = true;
+    bool multiLine = false;
+    bool wordWrap = false;
+    bool isDefault = false;  // a command button pressed by Enter
+
+    int tabIndex = 0;
+    int maxLength = 0;  // 0: no limit
+    int selStart = 0;
+    int selLength = 0;
+    int alignment = 0;  // 0 left, 1 right, 2 center
+
+    Color backColor = kWhite;
+    Color foreColor = kBlack;
+    Color borderColor = kBlack;
+    bool opaque = true;      // BackStyle: false lets the form show through
+    int borderStyle = 1;     // 0 none, 1 solid, 2 dash, 3 dot
+    int borderWidth = 1;
+
+    int left = 0;  // twips
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    int x2 = 0;  // lines: the second end point; left/top hold the first
+    int y2 = 0;
+
+    std::string fontName = "Tahoma";
+    double fontSize = 8.25;
+    bool fontBold = false;
+    bool fontItalic = false;
+
+    std::vector<std::string> items;  // combo and list boxes
+    int listIndex = -1;
+    bool value = false;  // option buttons
+    std::string picture;  // picture file or icon name
+
+    // "Text1(5)" for an element of a control array, else the bare name.
+    std::string key() const;
+    bool isTextBox() const { return kind == ControlKind::TextBox; }
+    // The value a check compares: Text for text boxes and lists, Caption for the others.
+    const std::string& shownText() const;
+    // A control can take the focus from code or a click.
+    bool canTakeFocus() const;
+};
+
+}  // namespace lw

@@ -1,0 +1,61 @@
+#pragma once
+// The process-wide values of the program: what outlives a form, under the names the program knows them by.
+
+#include <array>
+#include <string>
+
+#include "model/color.h"
+
+namespace lw {
+
+class Form;
+
+struct Globals {
+    // Start-up and process flags.
+    std::string CommandWords;
+    bool bDebug = false;
+    bool bStartup = false;
+    bool bQuitting = false;
+    std::string ComputerNameUC;
+    std::string UserNameUC;
+
+    // Paths and file types of the edition.
+    std::string FormsInfFile;
+    std::string SSMCInfFile;
+    std::string K1HelpInfFile;
+    std::string PicturesFolder;
+    std::string UserInfFile;
+    std::string UserGuideFile;
+    std::string FileExtension;
+    std::string FileFilter;  // description, NUL, pattern, NUL
+    std::string LastOpenFolder;
+    std::string LastSaveFolder;
+
+    std::array<Color, 10> LegendColors{};
+    std::string LastFieldKey;
+    // Rows TP1, TP2, OP1..OP7: slot, Text1 index of the birth date, Text2 index of the age.
+    std::array<std::array<std::string, 3>, 9> PersonTable{};
+
+    // The form that the shared procedures work on, and the values of it read from the catalogue.
+    Form* CurrentForm = nullptr;
+    std::string FormKey;
+    std::string CurrentFileName;
+    std::string FormRecord;
+    std::string SaveResult;
+
+    // The tax year: Last Year, This Year, Next Year and "20XX".
+    std::array<std::string, 4> TaxYears{};
+    int TaxYearIndex = 1;
+
+    // Rates of the tax year in force, as text.
+    std::string FilingStatus;
+    std::string SSRate;
+    std::string SSMax;
+    std::string MCInitRate;
+    std::string MCChgRateAfter;
+    std::string MCRateAfter;
+    std::string MCPartBPremium;
+    std::string MCPartBIncome;
+};
+
+}  // namespace lw

@@ -1,0 +1,25 @@
+#include "model/program.h"
+
+#include <stdexcept>
+
+namespace lw {
+
+namespace {
+Program* current = nullptr;
+}
+
+Program::Program(UiPort& ui_, PlatformPort& platform_) : ui(ui_), platform(platform_), desktop(ui_) {
+    if (current) throw std::logic_error("a program is already running in this process");
+    current = this;
+}
+
+Program::~Program() { current = nullptr; }
+
+Program& program() {
+    if (!current) throw std::logic_error("no program is running");
+    return *current;
+}
+
+bool hasProgram() { return current != nullptr; }
+
+}  // namespace lw
