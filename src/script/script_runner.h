@@ -1,0 +1,65 @@
+#pragma once
+// Plays an operator from a script against the whole program, with no window on the screen.
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "script/script_session.h"
+
+namespace lw {
+class Program;
+class Control;
+class Form;
+}  // namespace lw
+
+namespace lw::script {
+
+class ScriptUi;
+class ScriptPlatform;
+
+struct ScriptError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+class ScriptRunner {
+public:
+    ScriptRunner(std::ostream& out, std::string executableFolder);
+    ~ScriptRunner();
+
+    // Runs the whole script; returns the exit status: 0 all held, 1 a check failed, 2 the script cannot run.
+    int run(std::istream& script);
+
+private:
+    void execute(const std::vector<std::string>& words);
+    void setUp(const std::vector<std::string>& words);
+    void start();
+    void act(const std::vector<std::string>& words);
+    void queueAnswer(const std::vector<std::string>& words);
+    void check(const std::vector<std::string>& words);
+    void showValue(const std::vector<std::string>& words);
+    void afterAction();
+
+    Form& inputForm() const;
+    Control& control(const std::string& reference) const;
+    std::string property(const Control& control, const std::string& name) const;
+    std::string global(const std::string& name) const;
+    std::string path(const std::string& word) const;
+    void expectThat(bool held, const std::string& got);
+    void requireRunning(const std::string& what) const;
+
+    std::ostream& out_;
+    Session session_;
+    std::unique_ptr<ScriptUi> ui_;
+    std::unique_ptr<ScriptPlatform> platform_;
+    std::unique_ptr<Program> program_;
+    bool started_ = false;
+    int line_ = 0;
+    std::string lineText_;
+    int passed_ = 0;
+    int failed_ = 0;
+};
+
+}  // namespace lw::script

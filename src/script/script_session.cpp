@@ -1,0 +1,16 @@
+#include "script/script_session.h"
+
+namespace lw::script {
+
+std::optional<QueuedAnswer> Session::takeAnswer(const std::string& kind) {
+    for (auto it = answers.begin(); it != answers.end(); ++it) {
+        if (it->kind == kind) {
+            QueuedAnswer answer = *it;
+            answers.erase(it);
+            return answer;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace lw::script

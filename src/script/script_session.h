@@ -1,0 +1,69 @@
+#pragma once
+// What the script has set up and queued, and what the program has shown: shared by the runner and its ports.
+
+#include <deque>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <QImage>
+
+#include "model/date_time.h"
+
+namespace lw::script {
+
+struct QueuedAnswer {
+    int line = 0;
+    std::string kind;  // "answer", "file", "filesave", "k1", "report"
+    std::vector<std::string> words;  // in the code page
+};
+
+struct ShownBox {
+    std::string title;
+    int number = 800;
+    std::string text;
+    std::string answer;
+};
+
+struct ShownReport {
+    std::string module;
+    std::string number;
+    std::string description;
+};
+
+struct Session {
+    std::ostream* out = nullptr;
+
+    // Set-up.
+    std::string root;
+    std::string edition = "Ledgerwick_Venturo";
+    std::string args;
+    std::string user = "TESTER";
+    std::string computer = "TESTPC";
+    std::optional<DateTime> today;
+    std::vector<std::string> printers;
+    bool running = false;
+    std::string executableFolder;
+    std::string printTo;
+
+    // Answers waiting for their boxes and dialogs.
+    std::deque<QueuedAnswer> answers;
+
+    // What the program has shown.
+    std::vector<ShownBox> boxes;
+    std::size_t boxesSeen = 0;  // boxes shown before the last message check
+    std::optional<ShownBox> lastBox;
+    std::vector<ShownReport> reports;
+    std::optional<std::string> lastDialog;
+    std::optional<QImage> clipboardPicture;
+    std::string clipboardText;
+    bool ended = false;
+
+    // A fault of the script found while the program was running (an answer naming no button).
+    std::optional<std::pair<int, std::string>> scriptError;
+
+    std::optional<QueuedAnswer> takeAnswer(const std::string& kind);
+};
+
+}  // namespace lw::script

@@ -1,0 +1,125 @@
+#include "script/script_ui.h"
+
+#include "diagnostics/message_box.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+#include "ui/clipboard_picture.h"
+
+namespace lw::script {
+
+namespace {
+
+std::string forOutput(const std::string& cp1252) {
+    std::string utf8 = text::cp1252ToUtf8(cp1252);
+    std::string out;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        if (utf8[i] == '\r' && i + 1 < utf8.size() && utf8[i + 1] == '\n') continue;
+        if (utf8[i] == '\r' || utf8[i] == '\n')
+            out += "\\n";
+        else
+            out.push_back(utf8[i]);
+    }
+    return out;
+}
+
+Control* visibleButton(Form& form, const std::string& caption) {
+    for (const auto& control : form.controls()) {
+        if (control->kind == ControlKind::CommandButton && control->visible && control->caption == caption)
+            return control.get();
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void ScriptUi::runModal(Form& form) {
+    if (text::equalsNoCase(form.name(), "F9_MBX")) return answerMessageBox(form);
+    if (text::equalsNoCase(form.name(), "F8_ErrLog")) return answerErrorReport(form);
+    *session_.out << "form " << form.name() << " closed: the script has no answers for it\n";
+}
+
+void ScriptUi::pressButton(Form& form, const std::string& caption, int line) {
+    Control* button = visibleButton(form, caption);
+    if (!button) {
+        if (!session_.scriptError)
+            session_.scriptError = {line, "the box has no button \"" + text::cp1252ToUtf8(caption) + "\""};
+        return;
+    }
+    program().desktop.click(*button);
+}
+
+void ScriptUi::answerMessageBox(Form& box) {
+    const MessageBoxRecord& shown = currentMessageBox();
+    ShownBox record{text::cp1252ToUtf8(shown.caption), shown.number, text::cp1252ToUtf8(shown.message), ""};
+
+    int line = 0;
+    std::string caption;
+    if (auto answer = session_.takeAnswer("answer")) {
+        line = answer->line;
+        caption = answer->words.empty() ? "" : answer->words[0];
+    } else {
+        // With no queued answer the default button is pressed; a default that no button bears leaves the first.
+        Control* fallback = box.find("cmd" + std::to_string(shown.defaultButton));
+        if (!fallback || !fallback->visible) fallback = box.find("cmd1");
+        caption = fallback ? fallback->caption : "";
+    }
+    record.answer = text::cp1252ToUtf8(caption);
+    *session_.out << "box \"" << forOutput(shown.caption) << "\"";
+    if (shown.number != 800) *session_.out << " #" << shown.number;
+    *session_.out << ": " << forOutput(shown.message) << " -> " << record.answer << "\n";
+    session_.boxes.push_back(record);
+    session_.lastBox = record;
+    pressButton(box, caption, line);
+}
+
+void ScriptUi::answerErrorReport(Form& report) {
+    auto label = [&](int index) {
+        Control* c = report.find("Label2", index);
+        return c ? c->caption : std::string();
+    };
+    ShownReport shown{label(1), label(3), label(4)};
+    session_.reports.push_back(shown);
+    *session_.out << "report \"" << forOutput(report.caption) << "\" module " << forOutput(shown.module)
+                  << " error " << forOutput(shown.number) << ": " << forOutput(shown.description);
+
+    auto answer = session_.takeAnswer("report");
+    if (!answer) {
+        *session_.out << " -> Exit\n";
+        pressButton(report, "Exit", 0);
+        return;
+    }
+    std::string description = answer->words.empty() ? "" : answer->words[0];
+    bool clip = answer->words.size() > 1 && text::equalsNoCase(answer->words[1], "clip");
+    *session_.out << " -> " << (clip ? "Copy to Clipboard" : "Exit") << "\n";
+    if (Control* box = report.find("Text1")) {
+        program().desktop.click(*box);
+        for (char c : description) program().desktop.typeCharacter(c);
+    }
+    if (clip) {
+        if (Control* button = report.find("cmdClip")) program().desktop.click(*button);
+    }
+    // The report stays open after a copy; the operator leaves it with Exit.
+    if (report.isLoaded()) pressButton(report, "Exit", answer->line);
+}
+
+void ScriptUi::copyPictureToClipboard(Form& form) {
+    session_.clipboardPicture = ui::renderForm(form);
+    *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width() << "x"
+                  << session_.clipboardPicture->height() << "\n";
+}
+
+bool ScriptUi::openDocument(const std::string& path) {
+    *session_.out << "open document " << text::cp1252ToUtf8(path) << "\n";
+    return true;
+}
+
+void ScriptUi::quit() {
+    session_.ended = true;
+    throw ProgramEnded{};
+}
+
+void ScriptUi::inputRefused(const std::string& why) { *session_.out << "input refused: " << why << "\n"; }
+
+}  // namespace lw::script

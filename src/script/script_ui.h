@@ -1,0 +1,29 @@
+#pragma once
+// The screen as the script plays it: boxes and dialogs answered from the queue, the clipboard in memory.
+
+#include "model/ports.h"
+#include "script/script_session.h"
+
+namespace lw::script {
+
+class ScriptUi : public UiPort {
+public:
+    explicit ScriptUi(Session& session) : session_(session) {}
+
+    void runModal(Form& form) override;
+    void copyPictureToClipboard(Form& form) override;
+    std::string clipboardText() override { return session_.clipboardText; }
+    void setClipboardText(const std::string& text) override { session_.clipboardText = text; }
+    bool openDocument(const std::string& path) override;
+    void quit() override;
+    void inputRefused(const std::string& why) override;
+
+private:
+    void answerMessageBox(Form& box);
+    void answerErrorReport(Form& report);
+    void pressButton(Form& form, const std::string& caption, int line);
+
+    Session& session_;
+};
+
+}  // namespace lw::script

@@ -1,0 +1,50 @@
+#include "script/script_words.h"
+
+namespace lw::script {
+
+std::vector<std::string> splitWords(const std::string& line) {
+    std::vector<std::string> words;
+    std::size_t i = 0;
+    const std::size_t n = line.size();
+    auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    while (i < n && blank(line[i])) ++i;
+    if (i == n || line[i] == '#') return words;
+    while (i < n) {
+        while (i < n && blank(line[i])) ++i;
+        if (i == n) break;
+        std::string word;
+        if (line[i] == '"') {
+            ++i;
+            bool closed = false;
+            while (i < n) {
+                char c = line[i++];
+                if (c == '"') {
+                    closed = true;
+                    break;
+                }
+                if (c != '\\') {
+                    word.push_back(c);
+                    continue;
+                }
+                if (i == n) throw SyntaxError("a backslash ends the line");
+                char e = line[i++];
+                switch (e) {
+                    case '"': word.push_back('"'); break;
+                    case '\\': word.push_back('\\'); break;
+                    case 'r': word.push_back('\r'); break;
+                    case 'n': word.push_back('\n'); break;
+                    case 't': word.push_back('\t'); break;
+                    default: throw SyntaxError(std::string("unknown escape \\") + e);
+                }
+            }
+            if (!closed) throw SyntaxError("a quoted word is not closed");
+            if (i < n && !blank(line[i])) throw SyntaxError("a quoted word runs into the next one");
+        } else {
+            while (i < n && !blank(line[i])) word.push_back(line[i++]);
+        }
+        words.push_back(std::move(word));
+    }
+    return words;
+}
+
+}  // namespace lw::script

@@ -1,0 +1,42 @@
+#pragma once
+// F0_MDI, the frame: menu bar, the panel of command buttons and the colour legend, and the one child form.
+
+#include <string>
+
+#include "model/form.h"
+
+namespace lw {
+
+class F0_MDI : public Form {
+public:
+    F0_MDI();
+
+    // Members that other parts of the program read.
+    std::string VersionMajor;
+    std::string VersionFull;
+    std::string DevAppFolder;
+    std::string DevSharedFolder;
+    std::string DevFormsFolder;
+    std::string DevInfFolder;
+    std::string IconFile;
+    std::string TaxFormsFolder;
+    bool bTaskbarHidden = false;
+
+    void onLoad() override;
+    void onClick(Control& control, MouseButton button) override;
+    void onMenu(const std::string& itemName) override;
+    void onQueryUnload(bool& cancel) override;
+    void onUnload(bool& cancel) override;
+
+    // Enables the menu items and buttons whose forms and commands the program has.
+    void refreshCommands();
+
+private:
+    void buildMenus();
+    void buildPanel();
+};
+
+constexpr int kCommandButtonCount = 11;
+constexpr int kLegendCount = 10;
+
+}  // namespace lw

@@ -1,0 +1,13 @@
+#pragma once
+// Bringing the frame up and down: the same for the window and the script runner.
+
+namespace lw {
+
+class F0_MDI;
+
+// Creates the frame, makes it the desktop's frame and runs its start-up. Returns null when the program ended.
+F0_MDI* loadFrame();
+// The close box of the frame: every form is asked and unloaded, and the program ends.
+void closeFrame();
+
+}  // namespace lw

@@ -1,0 +1,77 @@
+#include "shell/paths.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace lw {
+
+std::string joinPath(const std::string& folder, const std::string& name) {
+    if (folder.empty()) return name;
+    if (folder.back() == '/') return folder + name;
+    return folder + "/" + name;
+}
+
+std::string infFilesFolder(const std::string& root) { return joinPath(root, "LedgerwickInfFiles"); }
+
+Edition venturoEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor) {
+    return Edition{"Venturo",
+                   joinPath(infFilesFolder(root), "Venturo/UserVenturo.inf"),
+                   joinPath(appFolder, "Ledgerwick_V" + versionMajor + "_Venturo_UserGuide.pdf"),
+                   joinPath(appFolder, "Venturo.ICO"),
+                   joinPath(root, "VenturoForms"),
+                   ".venturo",
+                   "Venturo Form Files (*.venturo)",
+                   "*.venturo"};
+}
+
+Edition othAgcyEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor) {
+    // The extension keeps its capital F while the dialog pattern stays lower case.
+    return Edition{"OthAgcy",
+                   joinPath(infFilesFolder(root), "OthAgcy/UserOthAgcy.inf"),
+                   joinPath(appFolder, "Ledgerwick_V" + versionMajor + "_OthAgcy_UserGuide.pdf"),
+                   joinPath(appFolder, "OthAgcy.ICO"),
+                   joinPath(root, "TaxFormsLW"),
+                   ".taxForm",
+                   "Tax Form Files (*.taxform)",
+                   "*.taxform"};
+}
+
+std::string fileFilter(const std::string& description, const std::string& pattern) {
+    std::string filter = description;
+    filter.push_back('\0');
+    filter += pattern;
+    filter.push_back('\0');
+    return filter;
+}
+
+bool folderExists(const std::string& path) {
+    std::error_code ec;
+    // An empty name stands for the current folder, which always exists.
+    if (path.empty()) return true;
+    return fs::is_directory(path, ec);
+}
+
+bool fileExists(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && fs::is_regular_file(path, ec);
+}
+
+void installShippedInfFiles(const std::string& appFolder, const std::string& targetFolder) {
+    static const char* const shipped[] = {"Forms.inf", "SSMC.inf", "K1Help.inf"};
+    for (const char* name : shipped) {
+        std::string source = joinPath(appFolder, name);
+        std::string target = joinPath(targetFolder, name);
+        std::error_code ec;
+        if (!fs::is_regular_file(source, ec) || fs::exists(target, ec)) continue;
+        fs::create_directories(targetFolder, ec);
+        if (ec) return;  // a folder we cannot make leaves the files missing; their reads give empty values
+        std::string temporary = target + ".installing";
+        fs::copy_file(source, temporary, fs::copy_options::overwrite_existing, ec);
+        if (!ec) fs::rename(temporary, target, ec);
+        if (ec) fs::remove(temporary, ec);
+    }
+}
+
+}  // namespace lw

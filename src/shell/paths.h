@@ -1,0 +1,34 @@
+#pragma once
+// The program's fixed places. What the program knows as the machine's disk is the root folder
+// of the platform; every fixed location lies beneath it.
+
+#include <string>
+
+namespace lw {
+
+struct Edition {
+    std::string name;             // "Venturo" or "OthAgcy"
+    std::string userInfFile;      // the user INF file of the edition
+    std::string guideFile;
+    std::string iconFile;
+    std::string defaultFormsFolder;
+    std::string fileExtension;
+    std::string filterDescription;
+    std::string filterPattern;
+};
+
+// Joins folder and name with one separator.
+std::string joinPath(const std::string& folder, const std::string& name);
+
+std::string infFilesFolder(const std::string& root);
+Edition venturoEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor);
+Edition othAgcyEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor);
+std::string fileFilter(const std::string& description, const std::string& pattern);
+
+bool folderExists(const std::string& path);
+bool fileExists(const std::string& path);
+
+// Places the shipped INF files into a folder that lacks them, as an installer would.
+void installShippedInfFiles(const std::string& appFolder, const std::string& targetFolder);
+
+}  // namespace lw

@@ -1,0 +1,227 @@
+// Start-up of the frame: the single-instance test, the edition, every path and folder, the remembered folders.
+#include <cmath>
+#include <cstdint>
+#include <filesystem>
+
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "diagnostics/version.h"
+#include "model/program.h"
+#include "shell/frame_form.h"
+#include "shell/paths.h"
+#include "shell/startup.h"
+#include "store/inf_store.h"
+#include "text/case.h"
+
+namespace lw {
+
+namespace {
+
+constexpr int kEnvironmentBuffer = 30;
+constexpr const char* kDevelopmentTreeMarker = "O:\\OneDrive\\All_Projects";
+
+Globals& g() { return program().g; }
+PlatformPort& platform() { return program().platform; }
+
+void pause(int ms) { platform().sleep(ms); }
+
+// The classic environment call with a fixed buffer: a value that does not fit leaves the buffer as it was.
+std::string environmentInBuffer(const std::string& name) {
+    const std::string untouched(kEnvironmentBuffer, ' ');
+    std::optional<std::string> value = platform().environment(name);
+    if (!value) return "";
+    std::size_t returned = value->size() < static_cast<std::size_t>(kEnvironmentBuffer) ? value->size()
+                                                                                           : value->size() + 1;
+    std::string buffer = value->size() < static_cast<std::size_t>(kEnvironmentBuffer) ? *value : untouched;
+    auto kept = static_cast<std::size_t>(static_cast<std::int16_t>(returned));
+    return buffer.substr(0, std::min(kept, buffer.size()));
+}
+
+std::string removeWordNoCase(std::string text, const std::string& word) {
+    for (std::size_t at = text::findNoCase(text, word); at != std::string::npos; at = text::findNoCase(text, word))
+        text.erase(at, word.size());
+    return text;
+}
+
+}  // namespace
+
+std::string readUserInf(const std::string& key) {
+    return store::ReadINF(g().UserNameUC, key, "", g().UserInfFile);
+}
+
+void writeUserInf(const std::string& key, const std::string& value) {
+    store::SaveINF(g().UserNameUC, key, value, g().UserInfFile);
+}
+
+void SaveInfFolders(const std::string& InfFile, const std::string& DefaultFolder) {
+    for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
+        if (store::ReadINF(g().UserNameUC, key, "", InfFile).empty())
+            store::SaveINF(g().UserNameUC, key, DefaultFolder, InfFile);
+    }
+}
+
+void MDI_Setup_TaxFormsFolder(F0_MDI& frame) {
+    const std::string root = platform().rootFolder();
+    std::string byDefault = text::endsWithNoCase(g().UserInfFile, "UserVenturo.inf") ? joinPath(root, "VenturoForms")
+                                                                                     : joinPath(root, "TaxFormsLW");
+    frame.TaxFormsFolder = readUserInf("TaxFormsFolder");
+    if (frame.TaxFormsFolder.empty()) {
+        frame.TaxFormsFolder = byDefault;
+        writeUserInf("TaxFormsFolder", byDefault);
+    }
+}
+
+void MDI_Setup_Common() {
+    const std::string infFolder = infFilesFolder(platform().rootFolder());
+    g().FormsInfFile = joinPath(infFolder, "Forms.inf");
+    g().SSMCInfFile = joinPath(infFolder, "SSMC.inf");
+    g().K1HelpInfFile = joinPath(infFolder, "K1Help.inf");
+    g().PicturesFolder = platform().executableFolder();
+}
+
+namespace {
+
+// The two editions set themselves up line for line alike, each from its own table of places.
+void setUpEdition(F0_MDI& frame, const Edition& edition) {
+    g().UserInfFile = edition.userInfFile;
+    g().UserGuideFile = edition.guideFile;
+    frame.IconFile = edition.iconFile;
+    if (text::containsNoCase(platform().executableFolder(), kDevelopmentTreeMarker))
+        frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
+    SaveInfFolders(g().UserInfFile, edition.defaultFormsFolder);
+    g().FileExtension = edition.fileExtension;
+    g().FileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
+    MDI_Setup_TaxFormsFolder(frame);
+}
+
+// Taken under any executable name but the two editions': the program runs against the development tree.
+void setUpTestPath(F0_MDI& frame) {
+    const std::string root = platform().rootFolder();
+    frame.DevFormsFolder = frame.DevAppFolder + "/Forms";
+    frame.DevInfFolder = frame.DevAppFolder + "/InfFiles";
+    g().PicturesFolder = frame.DevSharedFolder + "/Pictures";
+    g().FormsInfFile = frame.DevInfFolder + "/Forms.inf";
+    g().SSMCInfFile = frame.DevInfFolder + "/SSMC.inf";
+    g().K1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
+    installShippedInfFiles(platform().executableFolder(), frame.DevInfFolder);
+
+    std::string answer = MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other",
+                                "", "", 9);
+    bool venturo = answer == "Venturo";
+    Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.VersionMajor)
+                              : othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor);
+    frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
+    frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
+    g().UserInfFile = edition.userInfFile;
+    g().FileExtension = edition.fileExtension;
+    g().FileFilter = fileFilter(venturo ? "Tax Form Files (*.venturo)" : "Tax Form Files (*.taxform)",
+                                edition.filterPattern);
+    g().UserGuideFile = frame.DevAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.VersionMajor + "_" +
+                        edition.name + "_UserGuide.pdf";
+    // The editions would also fix the forms folder here; the test path leaves it empty.
+    SaveInfFolders(g().UserInfFile, edition.defaultFormsFolder);
+}
+
+}  // namespace
+
+void MDI_Setup(F0_MDI& frame) {
+    runGuarded("F0_MDI:MDI_Setup", [&] {
+        pause(500);
+        frame.VersionMajor = versionMajorText();
+        frame.VersionFull = versionFullText();
+        g().CommandWords = platform().commandLine();
+        g().ComputerNameUC = text::toUpper(environmentInBuffer("ComputerName"));
+        g().UserNameUC = text::toUpper(environmentInBuffer("UserName"));
+        if (text::containsNoCase(g().CommandWords, "debug")) {
+            g().bDebug = true;
+            g().CommandWords = text::trim(removeWordNoCase(g().CommandWords, "debug"));
+        }
+        const std::string root = platform().rootFolder();
+        frame.DevAppFolder = joinPath(root, "Apps/Ledgerwick_" + frame.VersionMajor);
+        frame.DevSharedFolder = joinPath(root, "Apps/Ledgerwick_Shared");
+
+        const std::string exe = platform().executableName();
+        if (text::equalsNoCase(exe, "Ledgerwick_Venturo")) {
+            MDI_Setup_Common();
+            setUpEdition(frame, venturoEdition(root, platform().executableFolder(), frame.VersionMajor));
+        } else if (text::equalsNoCase(exe, "Ledgerwick_OthAgcy")) {
+            MDI_Setup_Common();
+            setUpEdition(frame, othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor));
+        } else {
+            setUpTestPath(frame);
+        }
+        frame.icon = frame.IconFile;
+        if (!frame.TaxFormsFolder.empty() && !folderExists(frame.TaxFormsFolder)) {
+            std::error_code ec;
+            std::filesystem::create_directories(frame.TaxFormsFolder, ec);
+            if (ec) throw AppError(err::kPathNotFound, "Path not found: " + frame.TaxFormsFolder + " (" +
+                                                           ec.message() + ")");
+        }
+        if (MenuItem* guide = frame.findMenu("mnuControlGuide")) guide->visible = fileExists(g().UserGuideFile);
+        std::vector<Control*> legend = frame.arrayOf("txtLegend");
+        for (std::size_t i = 1; i < legend.size() && i < g().LegendColors.size(); ++i)
+            g().LegendColors[i] = legend[i]->backColor;
+    });
+}
+
+namespace {
+
+// A remembered folder that is gone is forgotten, in memory and in the file.
+void forgetVanishedFolder(const char* key, std::string& folder) {
+    if (folderExists(folder)) return;
+    writeUserInf(key, "");
+    pause(250);
+    folder.clear();
+}
+
+void fillPersonTable() {
+    static const char* const rows[9][3] = {
+        {"TP1", "2", "0"},   {"TP2", "5", "1"},   {"OP1", "8", "2"},   {"OP2", "12", "3"}, {"OP3", "16", "4"},
+        {"OP4", "20", "5"}, {"OP5", "24", "6"}, {"OP6", "28", "7"}, {"OP7", "32", "8"},
+    };
+    for (int r = 0; r < 9; ++r)
+        for (int c = 0; c < 3; ++c) g().PersonTable[r][c] = rows[r][c];
+}
+
+}  // namespace
+
+void Frame_Form_Load(F0_MDI& frame) {
+    runGuarded("F0_MDI:FormLoad", [&] {
+        g().CurrentForm = &frame;
+        if (platform().earlierInstanceRunning()) {
+            MA_MBX("F0_MDI:FormLoad", 800,
+                   "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
+                   "Ledgerwick ICON on the Taskbar to restore.",
+                   "OK", false, "", "", "", 1);
+            std::string title = frame.caption;
+            frame.caption.clear();
+            platform().activateEarlierInstance(title);
+            program().ui.quit();
+            return;
+        }
+        g().bStartup = true;
+        frame.top = 0;
+        frame.height = 11020;
+        frame.width = 16500;
+        double centred = platform().screenWidthTwips() / 2.0 - frame.width / 2.0;
+        frame.left = centred < 0 ? 0 : static_cast<int>(std::nearbyint(centred));
+        frame.top = 0;
+
+        installShippedInfFiles(platform().executableFolder(), infFilesFolder(platform().rootFolder()));
+        MDI_Setup(frame);
+
+        g().LastOpenFolder = readUserInf("LastOpenFolder");
+        pause(250);
+        g().LastSaveFolder = readUserInf("LastSaveFolder");
+        pause(250);
+        forgetVanishedFolder("LastOpenFolder", g().LastOpenFolder);
+        forgetVanishedFolder("LastSaveFolder", g().LastSaveFolder);
+
+        openFirstChild(frame);
+
+        g().bStartup = false;
+        fillPersonTable();
+    });
+}
+
+}  // namespace lw
