@@ -23,6 +23,9 @@ private:
     std::string source_;
 };
 
+// Thrown by a driver whose program ends at once: it passes through every error tail to the driver.
+struct ProgramEnded {};
+
 inline bool isDataError(int number) { return number >= 800 && number <= 899; }
 
 // Run-time faults keep the numbers the operator would recognise from the classic runtime.

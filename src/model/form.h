@@ -41,6 +41,7 @@ public:
     std::string fontName = "Tahoma";
     double fontSize = 8.25;
     bool isChild = true;  // hosted in the frame; false for the frame and the modal boxes
+    std::string icon;     // icon file of the window, empty for the default
     std::vector<MenuItem> menus;
 
     Control& add(ControlKind kind, const std::string& name, int index = kNoIndex);
