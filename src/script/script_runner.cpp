@@ -210,6 +210,7 @@ void ScriptRunner::execute(const std::vector<std::string>& words) {
         return start();
     }
     if (isAnswerCommand(command)) return queueAnswer(words);
+    if (command == "write" || command == "remove" || command == "mkdir") return prepareFile(words);
     if (!started_) start();
     if (command == "expect") return check(words);
     if (command == "show" || command == "dump" || command == "save-clipboard" || command == "print-to")
@@ -238,8 +239,7 @@ void ScriptRunner::setUp(const std::vector<std::string>& words) {
     if (command == "today") session_.today = parseToday(words);
 }
 
-void ScriptRunner::start() {
-    started_ = true;
+void ScriptRunner::ensureRoot() {
     if (session_.root.empty()) {
         std::string pattern = (std::filesystem::temp_directory_path() / "ledgerwick-script-XXXXXX").string();
         if (!mkdtemp(pattern.data())) throw ScriptError("cannot make a temporary root folder");
@@ -248,6 +248,33 @@ void ScriptRunner::start() {
     std::error_code ec;
     std::filesystem::create_directories(session_.root, ec);
     if (ec) throw ScriptError("cannot make the root folder " + session_.root + ": " + ec.message());
+}
+
+// Lays out files as a test needs them: a user INF file of an earlier run, a file where a folder belongs.
+void ScriptRunner::prepareFile(const std::vector<std::string>& words) {
+    ensureRoot();
+    need(words, 2, (words[0] + " PATH").c_str());
+    std::filesystem::path target = path(words[1]);
+    std::error_code ec;
+    if (words[0] == "remove") {
+        std::filesystem::remove_all(target, ec);
+    } else if (words[0] == "mkdir") {
+        std::filesystem::create_directories(target, ec);
+    } else {
+        need(words, 3, "write PATH \"CONTENT\"");
+        if (target.has_parent_path()) std::filesystem::create_directories(target.parent_path(), ec);
+        std::ofstream file(target, std::ios::binary | std::ios::trunc);
+        std::string bytes = codePage(words[2]);
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        if (!file) throw ScriptError("cannot write " + words[1]);
+        return;
+    }
+    if (ec) throw ScriptError("cannot " + words[0] + " " + words[1] + ": " + ec.message());
+}
+
+void ScriptRunner::start() {
+    started_ = true;
+    ensureRoot();
     out_ << "start " << session_.edition << " in " << session_.root << "\n";
     ui_ = std::make_unique<ScriptUi>(session_);
     platform_ = std::make_unique<ScriptPlatform>(session_);
@@ -532,6 +559,20 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
                           "\"" + all + "\"");
     }
     if (!program_) throw ScriptError("the program is not running");
+    if (what == "menu") {
+        need(words, 4, "expect menu ITEM.Enabled|Visible|Caption VALUE");
+        auto dot = words[2].find('.');
+        if (dot == std::string::npos) throw ScriptError("expect menu needs ITEM.PROP");
+        auto* frame = program_->desktop.frame();
+        MenuItem* item = frame ? frame->findMenu(words[2].substr(0, dot)) : nullptr;
+        if (!item) throw ScriptError("no menu item " + words[2].substr(0, dot));
+        std::string prop = words[2].substr(dot + 1);
+        std::string value = text::equalsNoCase(prop, "Enabled")   ? flag(item->enabled)
+                            : text::equalsNoCase(prop, "Visible") ? flag(item->visible)
+                            : text::equalsNoCase(prop, "Caption") ? utf8(item->caption)
+                                                                  : throw ScriptError("unknown menu property " + prop);
+        return expectThat(value == words[3], "\"" + value + "\"");
+    }
     if (what == "form") {
         need(words, 3, "expect form NAME");
         Form* active = program_->desktop.activeChild();

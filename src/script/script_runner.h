@@ -36,6 +36,8 @@ private:
     void execute(const std::vector<std::string>& words);
     void setUp(const std::vector<std::string>& words);
     void start();
+    void ensureRoot();
+    void prepareFile(const std::vector<std::string>& words);
     void act(const std::vector<std::string>& words);
     void queueAnswer(const std::vector<std::string>& words);
     void check(const std::vector<std::string>& words);
