@@ -43,8 +43,9 @@ void Desktop::runPending() {
     destroyUnloaded();
 }
 
+// An unloaded form is destroyed only when no handler of it can still be on the stack.
 void Desktop::destroyUnloaded() {
-    if (depth_ == 0) unloaded_.clear();
+    if (depth_ == 0 && modalDepth_ == 0) unloaded_.clear();
 }
 
 Form& Desktop::load(std::unique_ptr<Form> owned) {
@@ -99,16 +100,30 @@ void Desktop::unload(Form& form) {
     destroyUnloaded();
 }
 
+// A modal box runs an event loop of its own: input inside it is handled as at the top level, while
+// what the interrupted handler left pending waits until the box is gone.
 void Desktop::showModal(Form& form) {
     modal_.push_back(&form);
-    ++depth_;
+    const int savedDepth = depth_;
+    Control* savedFocus = pendingFocus_;
+    std::vector<SentKey> savedKeys;
+    savedKeys.swap(sentKeys_);
+    pendingFocus_ = nullptr;
+    depth_ = 0;
+    ++modalDepth_;
+    auto restore = [&] {
+        --modalDepth_;
+        depth_ = savedDepth;
+        if (!pendingFocus_) pendingFocus_ = savedFocus;
+        sentKeys_.insert(sentKeys_.begin(), savedKeys.begin(), savedKeys.end());
+    };
     try {
         ui_.runModal(form);
     } catch (...) {
-        --depth_;
+        restore();
         throw;
     }
-    --depth_;
+    restore();
     // A box that its driver left open is closed, so that the caller never waits on it.
     if (form.isLoaded()) unload(form);
     if (depth_ == 0) runPending();

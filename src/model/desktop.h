@@ -79,6 +79,7 @@ private:
     Control* pendingFocus_ = nullptr;
     std::vector<SentKey> sentKeys_;
     int depth_ = 0;
+    int modalDepth_ = 0;
 };
 
 }  // namespace lw

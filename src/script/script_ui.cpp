@@ -51,8 +51,10 @@ void ScriptUi::pressButton(Form& form, const std::string& caption, int line) {
 }
 
 void ScriptUi::answerMessageBox(Form& box) {
-    const MessageBoxRecord& shown = currentMessageBox();
-    ShownBox record{text::cp1252ToUtf8(shown.caption), shown.number, text::cp1252ToUtf8(shown.message), ""};
+    auto* mbx = dynamic_cast<F9_MBX*>(&box);
+    if (!mbx) return;
+    const MessageBoxRecord shown = mbx->record();
+    ShownBox record{text::cp1252ToUtf8(shown.title), shown.number, text::cp1252ToUtf8(shown.message), ""};
 
     int line = 0;
     std::string caption;
@@ -61,12 +63,12 @@ void ScriptUi::answerMessageBox(Form& box) {
         caption = answer->words.empty() ? "" : answer->words[0];
     } else {
         // With no queued answer the default button is pressed; a default that no button bears leaves the first.
-        Control* fallback = box.find("cmd" + std::to_string(shown.defaultButton));
-        if (!fallback || !fallback->visible) fallback = box.find("cmd1");
+        Control* fallback = mbx->defaultButtonControl();
+        if (!fallback) fallback = mbx->button(1);
         caption = fallback ? fallback->caption : "";
     }
     record.answer = text::cp1252ToUtf8(caption);
-    *session_.out << "box \"" << forOutput(shown.caption) << "\"";
+    *session_.out << "box \"" << forOutput(shown.title) << "\"";
     if (shown.number != 800) *session_.out << " #" << shown.number;
     *session_.out << ": " << forOutput(shown.message) << " -> " << record.answer << "\n";
     session_.boxes.push_back(record);
