@@ -1,0 +1,76 @@
+#pragma once
+// F8_ErrLog, the report form of a Program Error: it shows what failed and where, takes the operator's
+// description, and copies itself to the clipboard as a picture for an e-mail to the program's keeper.
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "model/form.h"
+
+namespace lw {
+
+// Where the operator sends error reports; the instructions of the report form name it.
+constexpr const char* kErrorReportAddress = "support@ledgerwick.example";
+
+// The seven instruction lines joined by CR LF; "&&" is how a caption shows one "&".
+std::string errorReportInstructions();
+
+class F8_ErrLog : public Form {
+public:
+    static constexpr int kDescriptionMaxLength = 300;
+    static constexpr int kCopyPauseMs = 500;
+
+    F8_ErrLog();
+
+    // Filled by Error_Logger before the form is loaded.
+    std::string F8_App;
+    std::string F8_Module;
+    std::string F8_Form;
+    std::string F8_ErrNo;
+    std::string F8_ErrDesc;
+
+    Control& Frame3;                 // information about the error
+    std::array<Control*, 5> Label1;  // the captions "Program:" .. "Date/Time:"
+    std::array<Control*, 6> Label2;  // program, module, form, number, description, date and time
+    Control& Frame2;                 // the operator's description
+    Control& Text1;
+    Control& Frame1;  // instructions
+    Control& Label5;
+    Control& cmdClip;
+    Control& cmdExit;
+    Control& cmdClearAndCopyForDocument;
+
+    void onLoad() override;
+    void onKeyPress(Control& control, int& keyAscii) override;
+    void onUnload(bool& cancel) override;
+    void onClick(Control& control, MouseButton button) override;
+
+    void cmdClip_Click();
+    void cmdExit_Click();
+    void cmdClearAndCopyForDocument_Click();
+};
+
+// One report as it was shown, for the drivers that report or check it.
+struct ErrorReportRecord {
+    std::string program;
+    std::string module;
+    std::string form;
+    std::string number;
+    std::string description;
+    std::string dateTime;
+    std::string operatorText;  // what the operator typed into Text1
+};
+
+// The last report form that was closed, and callbacks run as each one closes.
+const std::optional<ErrorReportRecord>& lastErrorReport();
+int addErrorReportObserver(std::function<void(const ErrorReportRecord&)> observer);
+void removeErrorReportObserver(int id);
+void resetErrorReports();
+
+// Shows a filled report form modally and records it; Error_Logger's way of showing it.
+void showErrorReport(std::unique_ptr<F8_ErrLog> form);
+
+}  // namespace lw

@@ -1,0 +1,293 @@
+#include "diagnostics/message_box.h"
+
+#include <cctype>
+#include <memory>
+
+#include "diagnostics/error_tail.h"
+#include "diagnostics/observers.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "text/case.h"
+
+namespace lw {
+
+namespace {
+
+constexpr int kNoNumberShown = 800;
+const char* const kActivateLabel = "F9_MBX:Form_Activate";
+const char* const kCallLabel = "M2_VenturoCommon:MA_MBX";
+
+MessageBoxState& state() {
+    static MessageBoxState instance;
+    return instance;
+}
+
+std::optional<MessageBoxRecord>& lastRecord() {
+    static std::optional<MessageBoxRecord> instance;
+    return instance;
+}
+
+ObserverList<MessageBoxRecord>& observers() {
+    static ObserverList<MessageBoxRecord> instance;
+    return instance;
+}
+
+std::string joinLines(const std::vector<std::string>& lines) {
+    std::string joined;
+    for (size_t i = 0; i < lines.size(); ++i) {
+        if (i > 0) joined += '\r';
+        joined += lines[i];
+    }
+    return joined;
+}
+
+const char* iconPicture(MessageBoxIcon icon) {
+    return icon == MessageBoxIcon::Exclamation ? "exclamation" : "information";
+}
+
+}  // namespace
+
+MessageBoxState& messageBoxState() { return state(); }
+
+const std::optional<MessageBoxRecord>& lastMessageBox() { return lastRecord(); }
+
+int addMessageBoxObserver(std::function<void(const MessageBoxRecord&)> observer) {
+    return observers().add(std::move(observer));
+}
+
+void removeMessageBoxObserver(int id) { observers().remove(id); }
+
+void resetMessageBoxes() {
+    state() = MessageBoxState{};
+    lastRecord().reset();
+}
+
+std::string breakLongMessageLine(const std::string& line) {
+    const int length = static_cast<int>(line.size());
+    if (length <= F9_MBX::kLineBreakColumn) return line;
+    // Looking back from the end for a blank at a 1-based position within the first 50 characters.
+    for (int position = length; position >= 1; --position) {
+        if (position <= F9_MBX::kLineBreakColumn && line[position - 1] == ' ')
+            return line.substr(0, position - 1) + "\r" + line.substr(position);
+    }
+    // The search reads position 0 of the line, which the runtime refuses.
+    throw AppError(err::kInvalidProcedureCall, "Invalid procedure call or argument", kActivateLabel);
+}
+
+F9_MBX::F9_MBX()
+    : Form("F9_MBX"),
+      lblMessage(add(ControlKind::Label, "lblMessage")),
+      imgVBInformation(add(ControlKind::Image, "imgVBInformation")),
+      Text1(add(ControlKind::TextBox, "Text1")),
+      cmd1(add(ControlKind::CommandButton, "cmd1")),
+      cmd2(add(ControlKind::CommandButton, "cmd2")),
+      cmd3(add(ControlKind::CommandButton, "cmd3")),
+      cmd4(add(ControlKind::CommandButton, "cmd4")),
+      cmdDummy(add(ControlKind::CommandButton, "cmdDummy")) {
+    isChild = false;
+    width = kDesignWidth;
+    height = kDesignHeight;
+
+    lblMessage.caption = "*";
+    lblMessage.left = kLabelLeft;
+    lblMessage.top = kLabelTop;
+    lblMessage.width = kLabelWidth;
+    lblMessage.height = kLabelDesignHeight;
+    lblMessage.opaque = false;
+
+    imgVBInformation.picture = iconPicture(MessageBoxIcon::Information);
+    imgVBInformation.left = 180;
+    imgVBInformation.top = kLabelTop;
+    imgVBInformation.width = 480;
+    imgVBInformation.height = 480;
+
+    Text1.left = kLabelLeft;
+    Text1.top = kTextTop;
+    Text1.width = kLabelWidth;
+    Text1.height = kTextHeight;
+
+    Control* buttons[] = {&cmd1, &cmd2, &cmd3, &cmd4};
+    for (int i = 0; i < 4; ++i) {
+        Control& b = *buttons[i];
+        b.caption = std::to_string(i + 1);
+        b.left = kFirstButtonLeft + i * (kButtonWidth + kButtonGap);
+        b.top = kButtonTop;
+        b.width = kButtonWidth;
+        b.height = kButtonHeight;
+        b.backColor = kButtonFace;
+    }
+    // Outside the client area: the button only keeps its place in the Controls collection.
+    cmdDummy.caption = "";
+    cmdDummy.left = -2 * kButtonWidth;
+    cmdDummy.top = kButtonTop;
+    cmdDummy.width = kButtonWidth;
+    cmdDummy.height = kButtonHeight;
+    cmdDummy.tabStop = false;
+    cmdDummy.backColor = kButtonFace;
+}
+
+void F9_MBX::onLoad() {
+    lblMessageDesignHeight = lblMessage.height;
+    // The box keeps its own copy: a box opened while this one is being laid out must not change it.
+    request_ = state();
+    imgVBInformation.picture = iconPicture(request_.icon);
+}
+
+void F9_MBX::activateOnce() {
+    if (Desktop* d = desktop()) d->dispatch([this] { onActivate(); });
+}
+
+void F9_MBX::onActivate() {
+    // Activation lays the box out by growing it; a second activation must not grow it again.
+    if (activated_) return;
+    activated_ = true;
+
+    Control* buttons[] = {&cmd1, &cmd2, &cmd3, &cmd4};
+    for (int i = 0; i < 4; ++i) {
+        if (request_.captions[i].empty())
+            buttons[i]->visible = false;
+        else
+            buttons[i]->caption = request_.captions[i];
+    }
+
+    if (request_.showText) {
+        Text1.visible = true;
+        Text1.text = request_.answerText;
+    } else {
+        Text1.visible = false;
+    }
+
+    std::vector<std::string> lines = text::split(text::replaceAll(request_.message, "\r\n", "\r"), "\r");
+    for (std::string& line : lines) {
+        line = text::trim(line);
+        if (static_cast<int>(line.size()) <= kLineBreakColumn) continue;
+        // A long line with no blank to break at is reported, and shown unbroken.
+        runGuarded(kActivateLabel, [&] { line = breakLongMessageLine(line); });
+    }
+    const std::string shown = joinLines(lines);
+    const int lineCount = static_cast<int>(text::split(shown, "\r").size());
+
+    const int labelHeight = lblMessageDesignHeight * lineCount + kLabelPadding;
+    const int growth = labelHeight - lblMessageDesignHeight;
+    height += growth;
+    Text1.top = lblMessage.top + labelHeight + 100;
+    for (Control* b : buttons) b->top += growth;
+    lblMessage.caption = shown;
+    // Our label does not size itself to its caption: it takes the height the lines need.
+    lblMessage.height = labelHeight;
+
+    colourButtons();
+}
+
+void F9_MBX::colourButtons() {
+    for (const auto& control : controls()) {
+        Control& c = *control;
+        if (c.kind != ControlKind::CommandButton || !c.visible || c.name.empty()) continue;
+        const unsigned char last = static_cast<unsigned char>(c.name.back());
+        // A name that ends in no digit, as cmdDummy's, names no button number.
+        if (!std::isdigit(last)) continue;
+        const bool isDefaultButton = (last - '0') == request_.defaultButton;
+        c.backColor = isDefaultButton ? kDefaultButtonColor : kOtherButtonColor;
+        c.isDefault = isDefaultButton;
+    }
+}
+
+void F9_MBX::onClick(Control& control, MouseButton) {
+    if (&control == &cmd1) pressNumbered(1);
+    if (&control == &cmd2) pressNumbered(2);
+    if (&control == &cmd3) pressNumbered(3);
+    if (&control == &cmd4) pressNumbered(4);
+}
+
+void F9_MBX::pressNumbered(int number) {
+    MessageBoxState& shared = state();
+    shared.answer = button(number)->caption;
+    // Only the first two buttons confirm an input.
+    if (number <= 2 && request_.showText) shared.answerText = Text1.text;
+    unload();
+}
+
+Control* F9_MBX::button(int number) const {
+    switch (number) {
+        case 1:
+            return &cmd1;
+        case 2:
+            return &cmd2;
+        case 3:
+            return &cmd3;
+        case 4:
+            return &cmd4;
+        default:
+            return nullptr;
+    }
+}
+
+Control* F9_MBX::buttonWithCaption(const std::string& caption) const {
+    for (int n = 1; n <= 4; ++n) {
+        Control* b = button(n);
+        if (b->visible && b->caption == caption) return b;
+    }
+    return nullptr;
+}
+
+Control* F9_MBX::defaultButtonControl() const {
+    Control* b = button(request_.defaultButton);
+    return b && b->visible ? b : nullptr;
+}
+
+MessageBoxRecord F9_MBX::record() const {
+    MessageBoxRecord r;
+    r.title = caption;
+    r.number = request_.number;
+    r.message = request_.message;
+    r.shownText = lblMessage.caption;
+    r.buttons = request_.captions;
+    r.defaultButton = request_.defaultButton;
+    r.showText = request_.showText;
+    r.icon = request_.icon;
+    r.answer = state().answer;
+    r.answerText = request_.showText ? state().answerText : request_.answerText;
+    return r;
+}
+
+std::string showMessageBox(const std::string& caption, int msgNumber, const std::string& message,
+                           const std::array<std::string, 4>& captions, bool showText, int defaultButton,
+                           MessageBoxIcon icon) {
+    MessageBoxState& shared = state();
+    runGuarded(kCallLabel, [&] {
+        shared.captions = captions;
+        shared.title = caption;
+        shared.number = msgNumber;
+        shared.message = msgNumber == kNoNumberShown
+                             ? message
+                             : "Message Number: " + std::to_string(msgNumber) + "\r\n" + message;
+        shared.showText = showText;
+        shared.defaultButton = defaultButton;
+        shared.icon = icon;
+        // A box closed without a button answers with no caption rather than the last box's answer.
+        shared.answer.clear();
+
+        Desktop& desktop = program().desktop;
+        auto owned = std::make_unique<F9_MBX>();
+        owned->caption = caption;
+        F9_MBX& box = static_cast<F9_MBX&>(desktop.load(std::move(owned)));
+        box.activateOnce();
+        MessageBoxRecord record = box.record();
+        // The box is gone once showModal returns: only the shared answer is read after it.
+        desktop.showModal(box);
+        record.answer = shared.answer;
+        if (showText) record.answerText = shared.answerText;
+        lastRecord() = record;
+        observers().notify(record);
+    });
+    return shared.answer;
+}
+
+std::string MA_MBX(const std::string& Caption, int MsgNumber, const std::string& Message,
+                   const std::string& Cmd1, bool ShowText, const std::string& Cmd2, const std::string& Cmd3,
+                   const std::string& Cmd4, int DefaultButton) {
+    return showMessageBox(Caption, MsgNumber, Message, {Cmd1, Cmd2, Cmd3, Cmd4}, ShowText, DefaultButton,
+                          MessageBoxIcon::Information);
+}
+
+}  // namespace lw
