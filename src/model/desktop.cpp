@@ -121,6 +121,8 @@ void Desktop::showModal(Form& form) {
         ui_.runModal(form);
     } catch (...) {
         restore();
+        modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
+        if (form.isLoaded()) unload(form);
         throw;
     }
     restore();
@@ -238,9 +240,12 @@ void Desktop::pressKey(int keyCode, int shift, int keyAscii) {
     if (!control || !control->form) return;
     Form& form = *control->form;
     dispatch([&] {
-        int code = keyCode;
-        form.onKeyDown(*control, code, shift);
-        if (code == 0 || keys::isFunctionKey(code) || focus() != control) return;
+        // A character with no key of its own (punctuation typed or sent) comes without a KeyDown.
+        if (keyCode != 0) {
+            int code = keyCode;
+            form.onKeyDown(*control, code, shift);
+            if (code == 0 || keys::isFunctionKey(code) || focus() != control) return;
+        }
         if (keyAscii != 0) {
             int ascii = keyAscii;
             form.onKeyPress(*control, ascii);
@@ -267,14 +272,16 @@ void Desktop::pressKey(int keyCode, int shift, int keyAscii) {
             }
             return;
         }
-        if (control->isTextBox()) editKey(*control, code, shift);
+        if (control->isTextBox()) editKey(*control, keyCode, shift);
     });
 }
 
 void Desktop::typeCharacter(char c) {
     unsigned char byte = static_cast<unsigned char>(c);
-    int keyCode = byte;
+    // Letters and digits have key codes of their own; other characters reach KeyPress alone.
+    int keyCode = 0;
     if (byte >= 'a' && byte <= 'z') keyCode = byte - 'a' + 'A';
+    if ((byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') || byte == ' ') keyCode = byte;
     if (byte == '\r' || byte == '\n') keyCode = keys::kEnter;
     pressKey(keyCode, 0, byte == '\n' ? keys::kEnter : byte);
 }

@@ -139,3 +139,14 @@ TEST_F(KeyTest, AKeySentByTheProgramFollowsTheRunningHandler) {
 
 }  // namespace
 }  // namespace lw
+
+namespace lw {
+namespace {
+
+TEST_F(KeyTest, PunctuationWhoseCodeWouldBeAFunctionKeyIsStillTyped) {
+    type("{|}~");
+    EXPECT_EQ(field->text, "{|}~");
+}
+
+}  // namespace
+}  // namespace lw
