@@ -1,0 +1,222 @@
+#include "ui/form_view.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QToolButton>
+#include <QToolTip>
+#include <algorithm>
+
+#include "model/program.h"
+#include "ui/command_icons.h"
+#include "ui/form_painter.h"
+#include "ui/qt_text.h"
+
+namespace lw::ui {
+
+namespace {
+
+std::vector<FormView*>& allViews() {
+    static std::vector<FormView*> views;
+    return views;
+}
+
+}  // namespace
+
+FormView::FormView(Form& form, QWidget* parent) : QWidget(parent), form_(&form) {
+    setObjectName(QString::fromStdString(form.name()));
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_InputMethodEnabled, true);
+    setAttribute(Qt::WA_OpaquePaintEvent, true);
+    allViews().push_back(this);
+    refresh();
+}
+
+FormView::~FormView() {
+    auto& views = allViews();
+    views.erase(std::remove(views.begin(), views.end(), this), views.end());
+}
+
+std::vector<FormView*> FormView::viewsOf(const Form& form) {
+    std::vector<FormView*> found;
+    for (FormView* view : allViews())
+        if (view->form_ == &form) found.push_back(view);
+    return found;
+}
+
+QString FormView::objectNameOf(const Control& control) {
+    QString name = toQString(control.name);
+    if (control.index != kNoIndex) name += QLatin1Char('_') + QString::number(control.index);
+    return name;
+}
+
+QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
+
+void FormView::detach() {
+    form_ = nullptr;
+    editors_.clear();
+    controlOfWidget_.clear();
+    hide();
+}
+
+bool FormView::isModelFocus(const Control& control) const {
+    return hasProgram() && program().desktop.focus() == &control;
+}
+
+QWidget* FormView::createEditor(Control& control) {
+    QWidget* editor = nullptr;
+    switch (control.kind) {
+        case ControlKind::TextBox:
+            if (control.multiLine) {
+                auto* box = new QPlainTextEdit(this);
+                box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+                box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+                box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+                box->setAcceptDrops(false);
+                box->viewport()->installEventFilter(this);
+                box->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);
+                controlOfWidget_.insert(box->viewport(), &control);
+                connect(box, &QPlainTextEdit::cursorPositionChanged, this,
+                        [this, &control] { takeSelection(control); });
+                connect(box, &QPlainTextEdit::selectionChanged, this,
+                        [this, &control] { takeSelection(control); });
+                editor = box;
+            } else {
+                auto* line = new QLineEdit(this);
+                line->setAcceptDrops(false);
+                line->setDragEnabled(false);
+                connect(line, &QLineEdit::cursorPositionChanged, this,
+                        [this, &control] { takeSelection(control); });
+                connect(line, &QLineEdit::selectionChanged, this,
+                        [this, &control] { takeSelection(control); });
+                editor = line;
+            }
+            break;
+        case ControlKind::ComboBox: {
+            auto* combo = new QComboBox(this);
+            connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, &control](int row) {
+                if (!form_ || row < 0 || row >= static_cast<int>(control.items.size())) return;
+                const std::string entry = control.items[static_cast<size_t>(row)];
+                forwardInput([&] { program().desktop.choose(control, entry); });
+            });
+            editor = combo;
+            break;
+        }
+        case ControlKind::CommandButton:
+            if (!control.picture.empty()) {
+                auto* tool = new QToolButton(this);
+                tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+                tool->setIcon(commandIcon(control.picture));
+                connect(tool, &QToolButton::clicked, this, [this, &control] {
+                    if (form_) forwardInput([&] { program().desktop.click(control); });
+                });
+                editor = tool;
+            } else {
+                auto* push = new QPushButton(this);
+                push->setAutoDefault(false);
+                connect(push, &QPushButton::clicked, this, [this, &control] {
+                    if (form_) forwardInput([&] { program().desktop.click(control); });
+                });
+                editor = push;
+            }
+            break;
+        case ControlKind::OptionButton: {
+            auto* option = new QRadioButton(this);
+            option->setAutoExclusive(false);
+            connect(option, &QRadioButton::clicked, this, [this, &control] {
+                if (form_) forwardInput([&] { program().desktop.click(control); });
+            });
+            editor = option;
+            break;
+        }
+        default:
+            return nullptr;
+    }
+    editor->setObjectName(objectNameOf(control));
+    // Only the model moves the focus; a click asks the model first.
+    editor->setFocusPolicy(Qt::NoFocus);
+    editor->setContextMenuPolicy(Qt::PreventContextMenu);
+    editor->installEventFilter(this);
+    editors_.insert(&control, editor);
+    controlOfWidget_.insert(editor, &control);
+    editor->show();
+    return editor;
+}
+
+void FormView::refresh() {
+    if (!form_) return;
+    refreshing_ = true;
+    const QSize size = formSize(*form_, kScreenScale);
+    if (this->size() != size) setFixedSize(size);
+    for (const auto& owned : form_->controls()) {
+        Control& control = *owned;
+        if (!hasEditor(control.kind)) continue;
+        QWidget* editor = editors_.value(&control, nullptr);
+        if (!editor) editor = createEditor(control);
+        if (editor) mirror(control, editor);
+    }
+    update();
+    placeFocus();
+    refreshing_ = false;
+}
+
+void FormView::placeFocus() {
+    if (!form_ || !hasProgram()) return;
+    Desktop& desktop = program().desktop;
+    Control* focus = desktop.focus();
+    QWidget* target = nullptr;
+    if (focus && focus->form == form_) {
+        target = editors_.value(focus, nullptr);
+        if (!target || !target->isVisible()) target = this;
+    } else if (!focus && desktop.inputForm() == form_) {
+        target = this;
+    }
+    if (!target || window()->focusWidget() == target) return;
+    target->setFocus(Qt::OtherFocusReason);
+    // A tall form scrolls to the field the model moved to.
+    QWidget* viewport = parentWidget();
+    if (auto* area = qobject_cast<QScrollArea*>(viewport ? viewport->parentWidget() : nullptr))
+        if (target != this) area->ensureWidgetVisible(target);
+}
+
+void FormView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!form_) {
+        painter.fillRect(rect(), palette().window());
+        return;
+    }
+    FormPainter(kScreenScale).paintForm(painter, *form_, true);
+}
+
+Control* FormView::controlAt(QPoint point) const {
+    if (!form_) return nullptr;
+    const std::vector<const Control*> order = paintOrder(*form_);
+    for (auto it = order.rbegin(); it != order.rend(); ++it) {
+        const Control* control = *it;
+        if (!control->visible || hasEditor(control->kind)) continue;
+        if (control->kind == ControlKind::Shape || control->kind == ControlKind::Line) continue;
+        if (controlRect(*control, kScreenScale).contains(point)) return const_cast<Control*>(control);
+    }
+    return nullptr;
+}
+
+bool FormView::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && form_) {
+        auto* help = static_cast<QHelpEvent*>(event);
+        Control* control = controlAt(help->pos());
+        if (control && !control->toolTipText.empty())
+            QToolTip::showText(help->globalPos(), toQString(control->toolTipText), this);
+        else
+            QToolTip::hideText();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+}  // namespace lw::ui

@@ -1,0 +1,64 @@
+#pragma once
+// A model form on the screen: its static controls painted, its boxes and buttons as real editors whose
+// input goes to the model, which alone decides what they then show.
+
+#include <QHash>
+#include <QWidget>
+#include <vector>
+
+#include "model/form.h"
+#include "ui/input_bridge.h"
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace lw::ui {
+
+class FormView : public QWidget, public Refreshable {
+    Q_OBJECT
+public:
+    explicit FormView(Form& form, QWidget* parent = nullptr);
+    ~FormView() override;
+
+    Form* form() const { return form_; }
+    // Copies every control's properties to its widget and puts Qt's focus where the model has it.
+    void refresh() override;
+    // The form has been unloaded: the view lets go of it and shows nothing more.
+    void detach();
+
+    QWidget* editorOf(const Control& control) const;
+    // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
+    static QString objectNameOf(const Control& control);
+    static std::vector<FormView*> viewsOf(const Form& form);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+
+private:
+    QWidget* createEditor(Control& control);
+    void mirror(Control& control, QWidget* editor);
+    void mirrorText(Control& control, QWidget* editor);
+    void placeFocus();
+    void takeSelection(Control& control);
+    bool isModelFocus(const Control& control) const;
+    Control* controlAt(QPoint point) const;
+
+    // Input, each returning whether the event was used up.
+    bool forwardKey(Control* control, QKeyEvent* event);
+    bool forwardTextMouse(Control& control, QEvent* event);
+    bool forwardComboMouse(Control& control, QEvent* event);
+    void forwardCommitted(const QString& text);
+
+    Form* form_;
+    QHash<const Control*, QWidget*> editors_;
+    QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
+    bool refreshing_ = false;
+};
+
+}  // namespace lw::ui

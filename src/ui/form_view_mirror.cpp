@@ -1,0 +1,149 @@
+// Copying the model's properties to the editors: only what differs is set, so a refresh after every key
+// costs little and never disturbs the operator's caret.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTextDocument>
+#include <QToolButton>
+#include <algorithm>
+
+#include "model/program.h"
+#include "ui/form_painter.h"
+#include "ui/form_view.h"
+#include "ui/qt_text.h"
+
+namespace lw::ui {
+
+namespace {
+
+void setWhenDifferent(QWidget* w, const QString& tip) {
+    if (w->toolTip() != tip) w->setToolTip(tip);
+}
+
+}  // namespace
+
+void FormView::mirror(Control& control, QWidget* editor) {
+    const QRect rect = controlRect(control, kScreenScale);
+    if (editor->geometry() != rect) editor->setGeometry(rect);
+    if (editor->isHidden() == control.visible) editor->setVisible(control.visible);
+    if (editor->isEnabled() != control.enabled) editor->setEnabled(control.enabled);
+    setWhenDifferent(editor, toQString(control.toolTipText));
+    const QFont font = controlFont(control, kScreenScale);
+    if (editor->font() != font) editor->setFont(font);
+
+    QPalette palette = editor->palette();
+    const QColor back = toQColor(control.backColor);
+    const QColor fore = toQColor(control.foreColor);
+    switch (control.kind) {
+        case ControlKind::TextBox:
+        case ControlKind::ComboBox:
+            palette.setColor(QPalette::Base, back);
+            palette.setColor(QPalette::Active, QPalette::Text, fore);
+            palette.setColor(QPalette::Inactive, QPalette::Text, fore);
+            if (control.kind == ControlKind::ComboBox) {
+                palette.setColor(QPalette::Button, back);
+                palette.setColor(QPalette::Active, QPalette::ButtonText, fore);
+                palette.setColor(QPalette::Inactive, QPalette::ButtonText, fore);
+            }
+            break;
+        case ControlKind::OptionButton:
+            palette.setColor(QPalette::Window, back);
+            palette.setColor(QPalette::Active, QPalette::WindowText, fore);
+            palette.setColor(QPalette::Inactive, QPalette::WindowText, fore);
+            editor->setAutoFillBackground(control.opaque);
+            break;
+        default:
+            break;
+    }
+    if (palette != editor->palette()) editor->setPalette(palette);
+    mirrorText(control, editor);
+}
+
+void FormView::mirrorText(Control& control, QWidget* editor) {
+    const Qt::Alignment horizontal = control.alignment == 1   ? Qt::AlignRight
+                                     : control.alignment == 2 ? Qt::AlignHCenter
+                                                              : Qt::AlignLeft;
+    if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+        const QString text = toQString(control.text);
+        // The model holds the limit on typing; a longer text set by the program is still shown whole.
+        const int limit = control.maxLength > 0 ? std::max<int>(control.maxLength, text.size()) : 32767;
+        if (line->maxLength() != limit) line->setMaxLength(limit);
+        if (line->text() != text) line->setText(text);
+        if (line->isReadOnly() != control.locked) line->setReadOnly(control.locked);
+        if (line->alignment() != (horizontal | Qt::AlignVCenter))
+            line->setAlignment(horizontal | Qt::AlignVCenter);
+        if (line->hasFrame() != (control.borderStyle != 0)) line->setFrame(control.borderStyle != 0);
+        const int size = static_cast<int>(text.size());
+        const int start = std::clamp(control.selStart, 0, size);
+        const int length = std::clamp(control.selLength, 0, size - start);
+        const int shownStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+        const int shownLength = static_cast<int>(line->selectedText().size());
+        if (shownStart != start || shownLength != length) {
+            if (length > 0)
+                line->setSelection(start, length);
+            else
+                line->setCursorPosition(start);
+        }
+    } else if (auto* box = qobject_cast<QPlainTextEdit*>(editor)) {
+        const QString text = withLineFeeds(control.text);
+        if (box->toPlainText() != text) box->setPlainText(text);
+        if (box->isReadOnly() != control.locked) box->setReadOnly(control.locked);
+        if (box->document()->defaultTextOption().alignment() != horizontal) {
+            QTextOption option = box->document()->defaultTextOption();
+            option.setAlignment(horizontal);
+            box->document()->setDefaultTextOption(option);
+        }
+        const QFrame::Shape frame = control.borderStyle != 0 ? QFrame::StyledPanel : QFrame::NoFrame;
+        if (box->frameShape() != frame) box->setFrameShape(frame);
+        const int start = editorPosition(control.text, control.selStart);
+        const int end = editorPosition(control.text, control.selStart + std::max(0, control.selLength));
+        QTextCursor cursor = box->textCursor();
+        if (cursor.selectionStart() != start || cursor.selectionEnd() != end) {
+            cursor.setPosition(start);
+            cursor.setPosition(end, QTextCursor::KeepAnchor);
+            box->setTextCursor(cursor);
+        }
+    } else if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+        QStringList items;
+        for (const std::string& item : control.items) items << toQString(item);
+        QStringList shown;
+        for (int i = 0; i < combo->count(); ++i) shown << combo->itemText(i);
+        const QSignalBlocker block(combo);
+        if (shown != items) {
+            combo->clear();
+            combo->addItems(items);
+        }
+        int index = control.listIndex;
+        if (index < 0 || index >= items.size()) index = items.indexOf(toQString(control.text));
+        if (combo->currentIndex() != index) combo->setCurrentIndex(index);
+        if (combo->placeholderText() != toQString(control.text))
+            combo->setPlaceholderText(toQString(control.text));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(editor)) {
+        const QString caption = toQString(control.caption);
+        if (button->text() != caption) button->setText(caption);
+        if (auto* option = qobject_cast<QRadioButton*>(button)) {
+            const QSignalBlocker block(option);
+            if (option->isChecked() != control.value) option->setChecked(control.value);
+        }
+        if (auto* tool = qobject_cast<QToolButton*>(button)) {
+            const int iconSide = std::clamp(tool->height() - tool->fontMetrics().height() - 12, 12, 32);
+            if (tool->iconSize() != QSize(iconSide, iconSide)) tool->setIconSize(QSize(iconSide, iconSide));
+        }
+    }
+}
+
+void FormView::takeSelection(Control& control) {
+    if (refreshing_ || !form_ || !isModelFocus(control)) return;
+    // The operator's mouse chose a caret or a selection: the model keeps it, with no event.
+    if (auto* line = qobject_cast<QLineEdit*>(editors_.value(&control))) {
+        control.selStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+        control.selLength = static_cast<int>(line->selectedText().size());
+    } else if (auto* box = qobject_cast<QPlainTextEdit*>(editors_.value(&control))) {
+        const QTextCursor cursor = box->textCursor();
+        control.selStart = modelPosition(control.text, cursor.selectionStart());
+        control.selLength = modelPosition(control.text, cursor.selectionEnd()) - control.selStart;
+    }
+}
+
+}  // namespace lw::ui

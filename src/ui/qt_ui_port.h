@@ -1,0 +1,49 @@
+#pragma once
+// The screen of the window program: modal boxes as dialogs, the child form in the frame, the clipboard.
+
+#include <QPointer>
+#include <string>
+
+#include "model/ports.h"
+#include "ui/frame_window.h"
+
+namespace lw::ui {
+
+class QtUiPort : public UiPort {
+public:
+    QtUiPort();
+    ~QtUiPort() override;
+
+    // The frame window that hosts child forms and shows refusals in its status line. It may come after
+    // the first child form has been loaded: it then shows the desktop's active child.
+    void setFrameWindow(FrameWindow* window);
+    FrameWindow* frameWindow() const { return frame_; }
+
+    void runModal(Form& form) override;
+    void formLoaded(Form& form) override;
+    void formUnloaded(Form& form) override;
+    void childActivated(Form& form) override;
+    void refresh() override;
+    void copyPictureToClipboard(Form& form) override;
+    std::string clipboardText() override;
+    void setClipboardText(const std::string& text) override;
+    bool openDocument(const std::string& path) override;
+    // Ends Qt's loops, nested ones too, and throws ProgramEnded through the model to the driver.
+    void quit() override;
+    void inputRefused(const std::string& why) override;
+
+    // Prints the form on the named printer (the current one when none has the name).
+    bool printForm(Form& form, const std::string& printerName);
+
+    // The last refusal shown, for the tests.
+    const std::string& lastRefusal() const { return lastRefusal_; }
+
+    // The most a paste takes from the clipboard.
+    static constexpr std::size_t kPasteLimit = 64 * 1024;
+
+private:
+    QPointer<FrameWindow> frame_;
+    std::string lastRefusal_;
+};
+
+}  // namespace lw::ui
