@@ -152,10 +152,8 @@ int modelKeyCode(int qtKey, Qt::KeyboardModifiers modifiers) {
         default:
             break;
     }
-    if (int code = symbolKeyCode(qtKey)) return code;
-    // Letters with accents and other keys of a national layout: the character's own upper-case code.
-    if (qtKey > 0 && qtKey < 256) return qtKey;
-    return 0;
+    // A key of a national layout has no classic code: its character reaches KeyPress alone.
+    return symbolKeyCode(qtKey);
 }
 
 std::optional<ModelKey> modelKey(const QKeyEvent& event) {
@@ -200,10 +198,6 @@ std::optional<ModelKey> modelKey(const QKeyEvent& event) {
     if (!bytes || bytes->empty()) return std::nullopt;
     key.keyAscii = static_cast<unsigned char>((*bytes)[0]);
     key.more = bytes->substr(1);
-    // A key of no known code is known by its character, as the model's own typing does; a code of 0
-    // would read as a key its handler swallowed.
-    if (key.keyCode == 0)
-        key.keyCode = key.keyAscii >= 'a' && key.keyAscii <= 'z' ? key.keyAscii - 32 : key.keyAscii;
     return key;
 }
 

@@ -52,7 +52,10 @@ TEST(KeyMap, TabMovesTheFocus) {
 TEST(KeyMap, CharactersOutsideTheCodePageAreRefused) {
     QKeyEvent omega(QEvent::KeyPress, 0x03A9, Qt::NoModifier, QStringLiteral("\u03a9"));
     EXPECT_FALSE(modelKey(omega).has_value());
-    EXPECT_EQ(keyOf(Qt::Key_periodcentered, Qt::NoModifier, QStringLiteral("\u00b7")).keyAscii, 0xB7);
+    ModelKey dot = keyOf(Qt::Key_periodcentered, Qt::NoModifier, QStringLiteral("\u00b7"));
+    EXPECT_EQ(dot.keyAscii, 0xB7);
+    // A key with no classic code of its own gives its character to KeyPress alone.
+    EXPECT_EQ(dot.keyCode, 0);
 }
 
 }  // namespace
