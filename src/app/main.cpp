@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
         if (!frame) return 0;
         lw::ui::FrameWindow window(*frame);
         ui.setFrameWindow(&window);
+        window.setCloseHandler(lw::closeFrame);
         window.show();
         return app.exec();
     } catch (const lw::ProgramEnded&) {

@@ -257,7 +257,9 @@ void Desktop::pressKey(int keyCode, int shift, int keyAscii) {
                     if (!selected.empty()) ui_.setClipboardText(selected);
                     if (ascii == keys::kCtrlX && !control->locked) editText(*control, "");
                 } else if (ascii == keys::kCtrlV) {
-                    editText(*control, ui_.clipboardText());
+                    // An empty clipboard pastes nothing and leaves the selection standing.
+                    std::string pasted = ui_.clipboardText();
+                    if (!pasted.empty()) editText(*control, pasted);
                 } else if (ascii == keys::kBackspace) {
                     editKey(*control, keys::kBackspace, 0);
                 } else if (ascii == keys::kEnter) {

@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     }
     // Pictures for the clipboard are drawn off-screen; no display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/tmp");
     QApplication app(argc, argv);
     std::string folder = QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString();
     lw::script::ScriptRunner runner(std::cout, folder);

@@ -43,6 +43,20 @@ std::string codePage(const std::string& utf8) {
 
 std::string utf8(const std::string& cp1252) { return text::cp1252ToUtf8(cp1252); }
 
+// Line ends shown as \r and \n, so that a failure stays on one line of the output.
+std::string escapeLineEnds(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        if (c == '\r')
+            out += "\\r";
+        else if (c == '\n')
+            out += "\\n";
+        else
+            out.push_back(c);
+    }
+    return out;
+}
+
 std::string flag(bool value) { return value ? "True" : "False"; }
 
 std::string number(double value) {
@@ -529,13 +543,23 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
         std::string value = utf8(store::ReadINF(codePage(words[3]), codePage(words[4]), "", path(words[2])));
         return expectThat(value == words[5], "\"" + value + "\"");
     }
+    if (what == "any-message") {
+        need(words, 3, "expect any-message \"PART\"");
+        bool held = false;
+        for (std::size_t i = session_.boxesSeen; i < session_.boxes.size(); ++i)
+            held = held || contains(session_.boxes[i].text, words[2]);
+        std::size_t shown = session_.boxes.size() - session_.boxesSeen;
+        session_.boxesSeen = session_.boxes.size();
+        return expectThat(held, std::to_string(shown) + " boxes, none with that text");
+    }
     if (what == "message" || what == "no-message") {
         bool shownSince = session_.boxes.size() > session_.boxesSeen;
-        std::string last = shownSince ? session_.boxes.back().text : "";
+        std::string last = shownSince ? escapeLineEnds(session_.boxes.back().text) : "";
         session_.boxesSeen = session_.boxes.size();
         if (what == "no-message") return expectThat(!shownSince, "a box \"" + last + "\"");
         need(words, 3, "expect message \"PART\"");
-        return expectThat(shownSince && contains(last, words[2]), shownSince ? "\"" + last + "\"" : "no box");
+        return expectThat(shownSince && contains(session_.boxes.back().text, words[2]),
+                          shownSince ? "\"" + last + "\"" : "no box");
     }
     if (what == "title") {
         need(words, 3, "expect title \"PART\"");
