@@ -40,9 +40,9 @@ constexpr LegendSpec kLegend[kLegendCount] = {
 constexpr int kPanelWidth = 1680;
 constexpr int kButtonLeft = 120;
 constexpr int kButtonWidth = 1440;
-constexpr int kButtonHeight = 660;
-constexpr int kButtonGap = 60;
-constexpr int kLegendHeight = 300;
+constexpr int kButtonHeight = 555;
+constexpr int kButtonGap = 30;
+constexpr int kLegendHeight = 270;
 
 }  // namespace
 
@@ -92,6 +92,7 @@ void F0_MDI::buildPanel() {
         legend.height = kLegendHeight;
         top += kLegendHeight;
     }
+    panel.height = top + 120;
 }
 
 void F0_MDI::buildMenus() {

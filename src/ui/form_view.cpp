@@ -152,7 +152,7 @@ QWidget* FormView::createEditor(Control& control) {
 void FormView::refresh() {
     if (!form_) return;
     refreshing_ = true;
-    const QSize size = formSize(*form_, kScreenScale);
+    const QSize size = extent_.isValid() ? extent_ : formSize(*form_, kScreenScale);
     if (this->size() != size) setFixedSize(size);
     for (const auto& owned : form_->controls()) {
         Control& control = *owned;

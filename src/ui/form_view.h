@@ -23,6 +23,8 @@ public:
     Form* form() const { return form_; }
     // Copies every control's properties to its widget and puts Qt's focus where the model has it.
     void refresh() override;
+    // Shows only the top-left part of the form, as the frame's panel shows picLegends alone.
+    void setExtent(const QSize& pixels) { extent_ = pixels; }
     // The form has been unloaded: the view lets go of it and shows nothing more.
     void detach();
 
@@ -41,6 +43,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
+    QSize extent_;
     QWidget* createEditor(Control& control);
     void mirror(Control& control, QWidget* editor);
     void mirrorText(Control& control, QWidget* editor);

@@ -127,7 +127,7 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
             if (option->isChecked() != control.value) option->setChecked(control.value);
         }
         if (auto* tool = qobject_cast<QToolButton*>(button)) {
-            const int iconSide = std::clamp(tool->height() - tool->fontMetrics().height() - 12, 12, 32);
+            const int iconSide = std::clamp(tool->height() - tool->fontMetrics().height() - 6, 12, 32);
             if (tool->iconSize() != QSize(iconSide, iconSide)) tool->setIconSize(QSize(iconSide, iconSide));
         }
     }

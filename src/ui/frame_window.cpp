@@ -52,6 +52,8 @@ FrameWindow::FrameWindow(Form& frame, QWidget* parent) : QMainWindow(parent), fr
     if (const Control* legends = frame.find("picLegends")) {
         panel_ = new FormView(frame);
         panel_->setObjectName(QStringLiteral("picLegends"));
+        panel_->setExtent(QSize(toPixels(legends->width, kScreenScale), toPixels(legends->height, kScreenScale)));
+        panel_->refresh();
         panelArea_ = new QScrollArea(central);
         panelArea_->setObjectName(QStringLiteral("picLegendsArea"));
         panelArea_->setFrameShape(QFrame::NoFrame);
