@@ -81,8 +81,9 @@ void FormPainter::paintLabel(QPainter& p, const Control& c, const QRect& r) cons
     // A label is its caption and, when opaque, its back colour; boxes around text are shapes of their own.
     if (c.opaque) p.fillRect(r, toQColor(c.backColor));
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
+    // As on any label, "&&" shows one "&" and a single "&" marks an access key.
     p.drawText(r.adjusted(px(1), 0, -px(1), 0), Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap,
-               withLineFeeds(c.caption));
+               withoutAccessMarks(withLineFeeds(c.caption)));
 }
 
 void FormPainter::paintCheckLabel(QPainter& p, const Control& c, const QRect& r) const {
