@@ -43,6 +43,24 @@ struct Globals {
     std::string FormRecord;
     std::string SaveResult;
 
+    // Values of the catalogue for the form on the screen, refreshed whenever a form opens.
+    std::string FormTitle;
+    std::string RecordPrefix;
+    std::string SSNIndex;
+    std::string NameAddrIndex;
+    std::string NameOnlyIndex;
+    std::string DOBIndex;
+    std::string MedicareClaimNoIndex;
+    std::string MedicareNoIndex;
+    std::string EINIndex;
+    std::string OtherInfo;
+    int FocusOnStartup = 0;
+    int FocusAfterTPButton = 0;
+
+    // The printer chosen on the configuration form, and the file name template of the four.
+    std::string PrinterName;
+    std::string FileNameFormat;
+
     // The tax year: Last Year, This Year, Next Year and "20XX".
     std::array<std::string, 4> TaxYears{};
     int TaxYearIndex = 1;

@@ -1,0 +1,33 @@
+#pragma once
+// The shared life of every form of the catalogue: set-up, captions with the tax year, placing in the
+// frame (one form at a time), clearing, and the yearly re-dating.
+
+#include "model/form.h"
+
+namespace lw {
+
+// First statement of every catalogue form's Load: CurrentForm, the catalogue values, looks and captions.
+void Form_Common_Init(Form& frm);
+// Fonts, colours and field set-up of CurrentForm; also run after printing to restore its look.
+void Form_Init_Reset();
+// Writes the tax year in force into the labels of CurrentForm and reads its long texts.
+void Form_Init_Captions();
+// Sizes the border shape to all the controls of its form.
+void Form_Size_Border(Control& myBorder);
+// Places a form in the frame, unloading every other child; the configuration form stays while its rates
+// are bad. Loads the form first when it is not loaded.
+void Form_Position(Form& frm);
+// Opens a form of the catalogue by name: creates it when needed and places it.
+Form* Form_Open(const std::string& formName);
+bool Form_HasTaxYear();
+// The Change Tax Yr button: the next year of the cycle, for every form.
+void Year_Change(Form& frm);
+// Re-checks the dates of CurrentForm against the year in force; the first bad one keeps its error.
+void Year_Check();
+void Form_Clear();
+
+// The check labels of the forms: "X" or empty.
+void Check_Toggle(Control& chk);
+void Check_TogglePair(Control& chk, Control& partner);
+
+}  // namespace lw
