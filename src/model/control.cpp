@@ -37,6 +37,7 @@ const std::string& Control::shownText() const {
 }
 
 bool Control::canTakeFocus() const {
+    if (!focusable) return false;
     switch (kind) {
         case ControlKind::TextBox:
         case ControlKind::ComboBox:

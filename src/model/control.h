@@ -52,6 +52,7 @@ struct Control {
     bool multiLine = false;
     bool wordWrap = false;
     bool isDefault = false;  // a command button pressed by Enter
+    bool focusable = true;   // false keeps a field from ever taking the focus, by click, tab or code
 
     int tabIndex = 0;
     int maxLength = 0;  // 0: no limit

@@ -11,7 +11,7 @@
 #include "model/program.h"
 #include "script/script_platform.h"
 #include "script/script_ui.h"
-#include "script/script_words.h"
+#include "text/words.h"
 #include "shell/form_registry.h"
 #include "shell/frame_form.h"
 #include "shell/frame_window_model.h"
@@ -183,7 +183,7 @@ int ScriptRunner::run(std::istream& script) {
         if (!raw.empty() && raw.back() == '\r') raw.pop_back();
         lineText_ = raw;
         try {
-            std::vector<std::string> words = splitWords(raw);
+            std::vector<std::string> words = text::splitWords(raw);
             if (words.empty()) continue;
             lineText_ = raw.substr(raw.find_first_not_of(" \t"));
             execute(words);
@@ -192,7 +192,7 @@ int ScriptRunner::run(std::istream& script) {
                 session_.scriptError.reset();
                 throw ScriptError(why + (line ? " (answer of line " + std::to_string(line) + ")" : ""));
             }
-        } catch (const SyntaxError& e) {
+        } catch (const text::WordsError& e) {
             out_ << "ERROR line " << line_ << ": " << e.what() << "\n";
             status = 2;
             break;

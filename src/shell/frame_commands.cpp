@@ -3,6 +3,7 @@
 #include "diagnostics/error_tail.h"
 #include "model/app_error.h"
 #include "model/program.h"
+#include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/frame_form.h"
 #include "shell/menu_table.h"
@@ -32,8 +33,7 @@ void MDI_Quit() {
 
 void openFormFromMenu(const std::string& formName) {
     g().CurrentFileName.clear();
-    if (program().desktop.findForm(formName)) return;
-    if (auto form = createForm(formName)) program().desktop.load(std::move(form));
+    Form_Open(formName);
 }
 
 void cmdBtn_Click(F0_MDI& frame, Control& button) {

@@ -10,7 +10,9 @@ namespace lw {
 // This Year: the calendar year of today, except that January and February still count as the year before.
 int thisTaxYear(const DateTime& today);
 // Fills TaxYears from today, and TaxYearIndex from the remembered LastTaxYear (index 1 when it is empty
-// or has fallen out of the window); writes LastTaxYear back. Returns the remembered text as read.
+// or has fallen out of the window); writes LastTaxYear back with the year in force. Returns the
+// remembered text, or This Year when none was remembered: the configuration form shows its last two
+// characters.
 std::string TaxYears_Setup();
 // The year in force as the forms show it: the last two characters of its entry ("25", "XX").
 std::string taxYearDigits();

@@ -1,6 +1,6 @@
-#include "script/script_words.h"
+#include "text/words.h"
 
-namespace lw::script {
+namespace lw::text {
 
 std::vector<std::string> splitWords(const std::string& line) {
     std::vector<std::string> words;
@@ -26,7 +26,7 @@ std::vector<std::string> splitWords(const std::string& line) {
                     word.push_back(c);
                     continue;
                 }
-                if (i == n) throw SyntaxError("a backslash ends the line");
+                if (i == n) throw WordsError("a backslash ends the line");
                 char e = line[i++];
                 switch (e) {
                     case '"': word.push_back('"'); break;
@@ -34,11 +34,11 @@ std::vector<std::string> splitWords(const std::string& line) {
                     case 'r': word.push_back('\r'); break;
                     case 'n': word.push_back('\n'); break;
                     case 't': word.push_back('\t'); break;
-                    default: throw SyntaxError(std::string("unknown escape \\") + e);
+                    default: throw WordsError(std::string("unknown escape \\") + e);
                 }
             }
-            if (!closed) throw SyntaxError("a quoted word is not closed");
-            if (i < n && !blank(line[i])) throw SyntaxError("a quoted word runs into the next one");
+            if (!closed) throw WordsError("a quoted word is not closed");
+            if (i < n && !blank(line[i])) throw WordsError("a quoted word runs into the next one");
         } else {
             while (i < n && !blank(line[i])) word.push_back(line[i++]);
         }
@@ -47,4 +47,4 @@ std::vector<std::string> splitWords(const std::string& line) {
     return words;
 }
 
-}  // namespace lw::script
+}  // namespace lw::text

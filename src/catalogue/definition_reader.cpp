@@ -1,0 +1,219 @@
+#include "catalogue/definition_reader.h"
+
+#include <cstdlib>
+#include <map>
+#include <sstream>
+
+#include "model/form.h"
+#include "text/words.h"
+
+namespace lw {
+
+namespace {
+
+struct Kind {
+    const char* word;
+    ControlKind kind;
+    const char* unnamed;  // the array that an unnamed element joins
+};
+
+constexpr Kind kKinds[] = {
+    {"text", ControlKind::TextBox, "Text9"},      {"label", ControlKind::Label, "LabelForm"},
+    {"check", ControlKind::CheckLabel, "Check"},  {"rect", ControlKind::Shape, "Shape1"},
+    {"line", ControlKind::Line, "Line1"},         {"picture", ControlKind::Picture, "Picture9"},
+    {"image", ControlKind::Image, "Image1"},      {"frame", ControlKind::Frame, "Frame9"},
+    {"option", ControlKind::OptionButton, "Option1"}, {"combo", ControlKind::ComboBox, "Combo1"},
+    {"list", ControlKind::ListBox, "List1"},      {"button", ControlKind::CommandButton, "Command1"},
+    {"tabs", ControlKind::TabControl, "TabStrip1"}, {"grid", ControlKind::Grid, "Grid1"},
+};
+
+class LineReader {
+public:
+    LineReader(int number, std::vector<std::string> words) : number_(number), words_(std::move(words)) {}
+
+    [[noreturn]] void fail(const std::string& why) const {
+        throw DefinitionError("line " + std::to_string(number_) + ": " + why);
+    }
+    bool more() const { return next_ < words_.size(); }
+    const std::string& peek() const { return words_[next_]; }
+    std::string take(const char* what) {
+        if (!more()) fail(std::string("missing ") + what);
+        return words_[next_++];
+    }
+    int takeNumber(const char* what) {
+        std::string word = take(what);
+        return toNumber(word, what);
+    }
+    int toNumber(const std::string& word, const char* what) const {
+        char* end = nullptr;
+        long value = std::strtol(word.c_str(), &end, 0);
+        if (word.empty() || *end != '\0' || value < -1000000 || value > 1000000)
+            fail(std::string("bad ") + what + " \"" + word + "\"");
+        return static_cast<int>(value);
+    }
+
+private:
+    int number_;
+    std::vector<std::string> words_;
+    std::size_t next_ = 0;
+};
+
+// "Text1(5)" gives Text1 and 5; a bare name gives no index.
+void readName(LineReader& line, const std::string& word, Control& c) {
+    std::size_t open = word.find('(');
+    if (open == std::string::npos) {
+        c.name = word;
+        return;
+    }
+    if (word.back() != ')' || open == 0) line.fail("bad control name \"" + word + "\"");
+    c.name = word.substr(0, open);
+    c.index = line.toNumber(word.substr(open + 1, word.size() - open - 2), "index");
+}
+
+int alignmentOf(LineReader& line, const std::string& value) {
+    if (value == "left") return 0;
+    if (value == "right") return 1;
+    if (value == "center") return 2;
+    line.fail("bad alignment \"" + value + "\"");
+}
+
+constexpr const char* kFlags[] = {"locked", "nostop", "hidden", "disabled", "multi",  "bold",
+                                  "italic", "opaque", "transparent", "wrap", "default"};
+
+bool isFlag(const std::string& word) {
+    for (const char* flag : kFlags)
+        if (word == flag) return true;
+    return false;
+}
+
+void readProperty(LineReader& line, const std::string& word, Control& c) {
+    std::size_t equals = word.find('=');
+    if (equals == std::string::npos) {
+        if (word == "locked") c.locked = true;
+        else if (word == "nostop") c.tabStop = false;
+        else if (word == "hidden") c.visible = false;
+        else if (word == "disabled") c.enabled = false;
+        else if (word == "multi") c.multiLine = true;
+        else if (word == "bold") c.fontBold = true;
+        else if (word == "italic") c.fontItalic = true;
+        else if (word == "opaque") c.opaque = true;
+        else if (word == "transparent") c.opaque = false;
+        else if (word == "wrap") c.wordWrap = true;
+        else if (word == "default") c.isDefault = true;
+        else line.fail("unknown flag \"" + word + "\"");
+        return;
+    }
+    const std::string key = word.substr(0, equals);
+    const std::string value = word.substr(equals + 1);
+    if (key == "tag") c.tag = value;
+    else if (key == "tab") c.tabIndex = line.toNumber(value, "tab index");
+    else if (key == "tip") c.toolTipText = value;
+    else if (key == "text") c.text = value;
+    else if (key == "caption") c.caption = value;
+    else if (key == "align") c.alignment = alignmentOf(line, value);
+    else if (key == "max") c.maxLength = line.toNumber(value, "length");
+    else if (key == "size") c.fontSize = std::atof(value.c_str());
+    else if (key == "font") c.fontName = value;
+    else if (key == "back") c.backColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0)), c.opaque = true;
+    else if (key == "fore") c.foreColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+    else if (key == "border") c.borderWidth = line.toNumber(value, "border width");
+    else if (key == "style") c.borderStyle = line.toNumber(value, "border style");
+    else if (key == "color") c.borderColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+    else if (key == "picture") c.picture = value;
+    else line.fail("unknown property \"" + key + "\"");
+}
+
+// Designed defaults of each kind: entry fields are white, everything else shows the form behind it.
+void applyDefaults(Control& c) {
+    c.tabStop = c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox || c.kind == ControlKind::ListBox ||
+                c.kind == ControlKind::CommandButton || c.kind == ControlKind::OptionButton ||
+                c.kind == ControlKind::Grid || c.kind == ControlKind::TabControl;
+    c.opaque = c.kind == ControlKind::TextBox || c.kind == ControlKind::CheckLabel ||
+               c.kind == ControlKind::ComboBox || c.kind == ControlKind::ListBox || c.kind == ControlKind::Grid;
+    if (c.kind == ControlKind::CheckLabel) c.alignment = 2;
+    if (c.kind == ControlKind::Label || c.kind == ControlKind::Line || c.kind == ControlKind::Shape) c.borderStyle =
+        c.kind == ControlKind::Label ? 0 : 1;
+}
+
+}  // namespace
+
+FormDefinition readDefinition(const std::string& text) {
+    FormDefinition definition;
+    std::map<std::string, int> nextUnnamed;
+    std::istringstream in(text);
+    std::string raw;
+    int number = 0;
+    int tabOrder = 0;
+    bool haveForm = false;
+    while (std::getline(in, raw)) {
+        ++number;
+        if (!raw.empty() && raw.back() == '\r') raw.pop_back();
+        std::vector<std::string> words;
+        try {
+            words = text::splitWords(raw);
+        } catch (const text::WordsError& e) {
+            throw DefinitionError("line " + std::to_string(number) + ": " + e.what());
+        }
+        if (words.empty()) continue;
+        LineReader line(number, words);
+        const std::string kindWord = line.take("kind");
+        if (kindWord == "form") {
+            if (haveForm) line.fail("a second form line");
+            definition.name = line.take("form name");
+            definition.caption = line.take("caption");
+            definition.width = line.takeNumber("width");
+            definition.height = line.takeNumber("height");
+            haveForm = true;
+            continue;
+        }
+        if (!haveForm) line.fail("the first line must be the form line");
+        const Kind* kind = nullptr;
+        for (const Kind& k : kKinds)
+            if (kindWord == k.word) kind = &k;
+        if (!kind) line.fail("unknown kind \"" + kindWord + "\"");
+
+        Control c;
+        c.kind = kind->kind;
+        applyDefaults(c);
+        std::string name = line.take("name");
+        if (name == "-") {
+            c.name = kind->unnamed;
+            c.index = nextUnnamed[c.name]++;
+        } else {
+            readName(line, name, c);
+        }
+        c.left = line.takeNumber("left");
+        c.top = line.takeNumber("top");
+        if (c.kind == ControlKind::Line) {
+            c.x2 = line.takeNumber("second x");
+            c.y2 = line.takeNumber("second y");
+        } else {
+            c.width = line.takeNumber("width");
+            c.height = line.takeNumber("height");
+        }
+        // A word after the numbers that is neither key=value nor a flag is the caption; a caption that
+        // looks like either is written caption="...".
+        if (line.more() && line.peek().find('=') == std::string::npos && !isFlag(line.peek()))
+            c.caption = line.take("caption");
+        c.tabIndex = tabOrder++;
+        while (line.more()) readProperty(line, line.take("property"), c);
+        if (c.kind == ControlKind::TextBox && c.text.empty()) c.text = c.caption, c.caption.clear();
+        definition.controls.push_back(ControlDefinition{c});
+    }
+    if (!haveForm) throw DefinitionError("no form line");
+    return definition;
+}
+
+void realizeDefinition(const FormDefinition& definition, Form& form) {
+    form.caption = definition.caption;
+    form.width = definition.width;
+    form.height = definition.height;
+    for (const ControlDefinition& designed : definition.controls) {
+        Control& made = form.add(designed.control.kind, designed.control.name, designed.control.index);
+        Form* owner = made.form;
+        made = designed.control;
+        made.form = owner;
+    }
+}
+
+}  // namespace lw

@@ -1,0 +1,165 @@
+#include "fields/control_setup.h"
+
+#include "model/app_error.h"
+#include "model/program.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+struct AlignmentRow {
+    std::vector<const char*> tags;
+    int alignment;  // -1: the form's own
+    int maxLength;  // 0: the form's own
+    const char* tip;  // nullptr: the designer's tip stays
+};
+
+// Walked in this order; the first row whose tag equals the upper-cased Tag wins.
+const std::vector<AlignmentRow>& alignmentRows() {
+    static const std::vector<AlignmentRow> rows = {
+        {{"%", "#", "#.#"}, 1, 0, nullptr},
+        {{"MONEY", "SMONEY", "-MONEY"}, 1, 0, kMoneyTip},
+        {{"AMONEY"}, 1, 0, "U or UNK for UNKNOWN, Dollar sign/comma optional"},
+        {{"TIN"}, 2, 0, "SSN/TIN: Enter 3 or more numbers - First Number 9 = ITIN, else Social Security #"},
+        {{"EIN"}, 2, 0,
+         "EIN/TIN: Enter 3 or more numbers beginning with 9 (e.g. 914 = 91-4XXXXXX, 91-55 = 91-55XXXXX, "
+         "914234567 = 91-4234567)"},
+        {{"DATE"}, 2, 10,
+         "Date: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD - will default to Tax Year"},
+        {{"DATEX"}, 2, 10,
+         "Date in Tax Year: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD will default to TAX "
+         "YEAR"},
+        {{"YEAR"}, 2, 4, "Year: Enter Year ONLY (YYYY)"},
+        {{"TAXYEAR"}, 2, 4, "TaxYear: Enter YYYY - If blank, Defaults to current Tax Year"},
+        {{"TAXYEAR1099G"}, 2, 4, "TaxYear: Leave blank if current tax year, else enter YY or YYYY"},
+        {{"SSMC"}, 1, 0, nullptr},
+        {{"COMPUTED"}, -1, 0, nullptr},
+        {{"CHECKBOX"}, 2, 0, nullptr},
+        {{"1095C-14", "1095C-16"}, 2, 0, nullptr},
+        {{"OUT OF SCOPE"}, 2, 0, nullptr},
+    };
+    return rows;
+}
+
+bool isMoneyTag(const std::string& tag) { return tag == "MONEY" || tag == "SMONEY" || tag == "-MONEY"; }
+
+// The money tip of the 1095-A names its F12 copy, and only on the monthly amounts.
+void setMoneyTip(Control& ctl) {
+    if (!text::equalsNoCase(g().FormTitle, "TF_1095A")) {
+        ctl.toolTipText = kMoneyTip;
+        return;
+    }
+    if (ctl.index >= 38 && ctl.index <= 76)
+        ctl.toolTipText = "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+}
+
+}  // namespace
+
+Color legendColor(int index) { return g().LegendColors.at(static_cast<std::size_t>(index)); }
+
+void Control_Setup(Control& ctl, bool bSetUp) {
+    const std::string name = text::toUpper(ctl.name);
+    if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
+        g().LastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
+        if (g().CurrentForm) {
+            if (Control* status = g().CurrentForm->find("labelMisc")) status->caption = ctl.toolTipText;
+        }
+    }
+    if (bSetUp)
+        Control_SetupAlignment(ctl);
+    else
+        Control_SetupBackColor(ctl);
+}
+
+void Control_SetupAlignment(Control& ctl) {
+    const std::string tag = text::toUpper(ctl.tag);
+    const AlignmentRow* match = nullptr;
+    for (const AlignmentRow& row : alignmentRows()) {
+        for (const char* candidate : row.tags)
+            if (tag == candidate) match = &row;
+        if (match) break;
+    }
+    if (!match) {
+        ctl.alignment = g().FormKey == "SS_ITIN" ? 2 : 0;
+    } else {
+        if (match->alignment >= 0) ctl.alignment = match->alignment;
+        if (match->maxLength > 0) ctl.maxLength = match->maxLength;
+        if (isMoneyTag(tag))
+            setMoneyTip(ctl);
+        else if (match->tip)
+            ctl.toolTipText = match->tip;
+        if (tag == "COMPUTED") ctl.backColor = legendColor(7);
+        if (tag == "CHECKBOX") ctl.fontBold = true;
+        if (tag == "OUT OF SCOPE") {
+            ctl.backColor = kOutOfScopeColor;
+            // A field the training does not cover is never to take the focus.
+            ctl.focusable = false;
+        }
+    }
+    if (text::startsWithNoCase(ctl.tag, "K1")) ctl.alignment = 2;
+}
+
+void Control_SetupBackColor(Control& ctl) {
+    if (ctl.tag.empty()) {
+        ctl.backColor = legendColor(9);
+        return;
+    }
+    const std::string type = ctl.tag.substr(0, ctl.tag.find(text::kFieldSeparator));
+    if (type == "MONEY" || type == "SMONEY" || type == "AMONEY") {
+        ctl.backColor = legendColor(3);
+    } else if (type == "-MONEY") {
+        ctl.backColor = legendColor(4);
+    } else if (type == "#" || type == "%" || type == "#.#") {
+        ctl.backColor = legendColor(5);
+    } else if (type == "TIN") {
+        ctl.backColor = legendColor(1);
+    } else if (type == "EIN") {
+        ctl.backColor = legendColor(2);
+    } else if (type == "DATE" || type == "DATEX") {
+        ctl.maxLength = 10;
+        ctl.backColor = legendColor(6);
+    } else if (type == "YEAR") {
+        // A year box keeps its colour on focus, unlike every other type.
+        ctl.maxLength = 4;
+    } else if (type == "COMPUTED") {
+        ctl.backColor = legendColor(7);
+    } else if (type == "K1HELP") {
+        ctl.backColor = legendColor(8);
+    } else if (type == "OUT OF SCOPE") {
+        throw AppError(err::kInvalidProcedureCall,
+                       "A field outside the training's scope took the focus: " + ctl.key());
+    } else {
+        ctl.backColor = legendColor(9);
+    }
+    ctl.selStart = 0;
+    ctl.selLength = 99;
+}
+
+void TPInfo_Focus_After() {
+    Globals& globals = g();
+    Form* form = globals.CurrentForm;
+    if (!form) return;
+    const std::string key = globals.LastFieldKey;
+    const std::size_t colon = key.find(':');
+    const std::string name = colon == std::string::npos ? key : key.substr(0, colon);
+    const int i = colon == std::string::npos ? 0 : std::stoi(key.substr(colon + 1));
+    auto focus = [&](const char* array) { form->setFocus(form->at(array, i)); };
+    if (text::equalsNoCase(name, "Text1")) return focus("Text1");
+    if (text::equalsNoCase(name, "Text3")) return focus("Text3");
+    if (text::equalsNoCase(name, "Text5")) return focus("Text5");
+    if (text::equalsNoCase(name, "Text2") || text::equalsNoCase(name, "Text4")) {
+        Control& coded = form->at(name, i);
+        if (coded.tag.find("K1HELP") != std::string::npos) {
+            coded.locked = false;
+            return form->setFocus(coded);
+        }
+        return focus(text::equalsNoCase(name, "Text2") ? "Text3" : "Text5");
+    }
+    throw AppError(err::kInvalidProcedureCall, "No field to return to: " + key);
+}
+
+}  // namespace lw

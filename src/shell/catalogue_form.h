@@ -1,0 +1,24 @@
+#pragma once
+// A form of the catalogue: made from its drawing when the program has one, and set up by the shared
+// lifecycle. Forms with handlers of their own derive from it.
+
+#include <string>
+
+#include "model/form.h"
+
+namespace lw {
+
+class CatalogueForm : public Form {
+public:
+    explicit CatalogueForm(const std::string& name);
+
+    // The form's own step of the common set-up, after its catalogue values are read and before its
+    // looks are given: the configuration form fills its rates there.
+    virtual void commonInitStep() {}
+    // The form's own refill after Clear has emptied its fields.
+    virtual void refillAfterClear() {}
+    // The form's own renewal after a change of the tax year.
+    virtual void afterYearChange() {}
+};
+
+}  // namespace lw

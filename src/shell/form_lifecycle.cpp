@@ -1,0 +1,303 @@
+// The shared life of the catalogue's forms: set-up, captions with the year, placing, clearing, re-dating.
+#include "shell/form_lifecycle.h"
+
+#include "catalogue/catalogue_table.h"
+#include "catalogue/form_info.h"
+#include "diagnostics/error_tail.h"
+#include "fields/control_setup.h"
+#include "fields/edit_date.h"
+#include "model/program.h"
+#include "shell/catalogue_form.h"
+#include "shell/form_registry.h"
+#include "shell/rates_check.h"
+#include "shell/startup.h"
+#include "shell/tax_year.h"
+#include "text/case.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+bool isLabel(const Control& c) { return c.kind == ControlKind::Label || c.kind == ControlKind::CheckLabel; }
+
+struct TextFont {
+    const char* name;
+    double size;
+    bool bold;
+};
+
+// The font of a text box by form and index; nullptr keeps the designed font.
+const TextFont* textFontFor(const std::string& formKey, const Control& c) {
+    static const TextFont tahoma14Bold{"Tahoma", 14, true}, tahoma11Bold{"Tahoma", 11, true},
+        tahoma9{"Tahoma", 9, false}, tahoma10{"Tahoma", 10, false}, tahoma11{"Tahoma", 11, false},
+        narrow9{"ArialNarrow", 9, false};
+    if (formKey == "SS_ITIN") return c.index % 2 == 0 ? &tahoma14Bold : &tahoma11Bold;
+    if (formKey == "CHK") return c.index == 0 ? &tahoma9 : nullptr;
+    if (formKey == "K11041" || formKey == "K11065" || formKey == "K11120S") return &tahoma9;
+    if (formKey == "1095C") {
+        // The gaps at 35 and 48 to 78 are the form's own.
+        const int i = c.index;
+        const bool narrow = (i >= 10 && i <= 22) || (i >= 23 && i <= 34) || (i >= 36 && i <= 47) || (i >= 79 && i <= 91);
+        return narrow ? &narrow9 : &tahoma11;
+    }
+    return &tahoma10;
+}
+
+bool isK1(const std::string& formKey) { return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S"; }
+
+// A frame's inner width: what the child area offers beside the command panel.
+int frameInnerWidth() {
+    Form* frame = program().desktop.frame();
+    if (!frame) return 0;
+    const Control* panel = frame->find("picLegends");
+    return frame->width - (panel ? panel->width : 0) - 120;
+}
+
+int frameInnerHeight() {
+    Form* frame = program().desktop.frame();
+    return frame ? frame->height - 900 : 0;
+}
+
+std::string lastTwo(const std::string& s) { return s.size() >= 2 ? s.substr(s.size() - 2) : s; }
+
+void showYearDigits(Form& frm) {
+    const std::string digits = taxYearDigits();
+    frm.at("TaxYear", 1).caption = digits;
+    if (frm.name() == "TF_RRB1099") frm.at("TaxYear", 3).caption = digits;
+}
+
+// "yyyy+1" ... "yyyy-3" by the year, then "yyyy", then the bars as line breaks with a blank.
+std::string longText(std::string value, const std::string& year) {
+    static const struct {
+        const char* marker;
+        int offset;
+    } shifts[] = {{"yyyy+1", 1}, {"yyyy+2", 2}, {"yyyy+3", 3}, {"yyyy-1", -1}, {"yyyy-2", -2}, {"yyyy-3", -3}};
+    for (const auto& shift : shifts) {
+        std::string replacement;
+        if (year == "20XX") {
+            replacement = std::string("20XX") + (shift.offset > 0 ? "+" : "-") + std::to_string(std::abs(shift.offset));
+        } else {
+            replacement = std::to_string(std::stoi(year) + shift.offset);
+        }
+        for (std::size_t at = text::findNoCase(value, shift.marker); at != std::string::npos;
+             at = text::findNoCase(value, shift.marker, at + replacement.size()))
+            value.replace(at, 6, replacement);
+    }
+    value = text::replaceAll(value, "yyyy", year);
+    value = text::replaceAll(value, " |", "|");
+    value = text::replaceAll(value, "|", "\r\n ");
+    return " " + value;
+}
+
+}  // namespace
+
+void Form_Common_Init(Form& frm) {
+    g().CurrentForm = &frm;
+    FormInfo_Load();
+    if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
+    Form_Init_Reset();
+    Form_Init_Captions();
+}
+
+void Form_Init_Reset() {
+    runGuarded("M3_Ledgerwick:Form_Init_Reset", [] {
+        Form& form = *g().CurrentForm;
+        const std::string key = formKeyOf(form.name());
+        g().FormKey = key;
+        form.backColor = kButtonFace;
+        if (key == "TPINFO") {
+            form.height = frameInnerHeight();
+            form.at("lblInstr").visible = true;
+        } else if (key == "DL") {
+            Control& frame1 = form.at("Frame1");
+            frame1.visible = true;
+            form.height = frame1.top + frame1.height + 200;
+            form.at("Picture1").visible = true;
+            form.at("Picture3").visible = true;
+        }
+        for (const auto& owned : form.controls()) {
+            Control& c = *owned;
+            switch (c.kind) {
+                case ControlKind::Shape:
+                    if (text::equalsNoCase(c.name, "ShapeX")) {
+                        c.opaque = true;
+                        c.backColor = 0x00DCDCDC;
+                    } else {
+                        c.opaque = false;
+                    }
+                    break;
+                case ControlKind::Label:
+                case ControlKind::CheckLabel:
+                    if (c.name == "LabelPart" || c.name == "Check" ||
+                        ((key == "CONFIGURE" || key == "TPINFO") && c.name == "lblPrinter"))
+                        c.opaque = true;
+                    if (key == "SS_ITIN" && c.name != "label3" && c.name != "label4" && c.name != "label5")
+                        c.backColor = kButtonFace;
+                    break;
+                case ControlKind::TextBox:
+                    if (const TextFont* font = textFontFor(key, c)) {
+                        c.fontName = font->name;
+                        c.fontSize = font->size;
+                        c.fontBold = font->bold;
+                    }
+                    if (isK1(key)) {
+                        c.text = text::trim(c.text);
+                        if (c.name == "Text2" || c.name == "Text4") c.alignment = 2;
+                    }
+                    Control_Setup(c, true);
+                    break;
+                case ControlKind::Frame:
+                case ControlKind::OptionButton: c.backColor = kButtonFace; break;
+                case ControlKind::Picture:
+                    c.backColor = kButtonFace;
+                    if (key == "DL") c.visible = true;
+                    break;
+                default: break;
+            }
+        }
+    });
+}
+
+void Form_Init_Captions() {
+    runGuarded("M3_Ledgerwick:Form_Init_Captions", [] {
+        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+        if (year.empty() || !g().CurrentForm) return;
+        Form& form = *g().CurrentForm;
+        for (const auto& owned : form.controls()) {
+            Control& c = *owned;
+            if (!isLabel(c)) continue;
+            const std::string lead = text::toUpper(c.name.substr(0, 3));
+            if (lead != "RTL" && lead != "RTB") {
+                c.caption = text::replaceAll(text::replaceAll(c.caption, "20??", year), "|", "\r\n");
+                continue;
+            }
+            c.caption = longText(GetFormInfo(form.name(), c.name), year);
+        }
+    });
+}
+
+void Form_Size_Border(Control& myBorder) {
+    int bottom = 0;
+    int right = 0;
+    for (const auto& owned : myBorder.form->controls()) {
+        const Control& c = *owned;
+        if (&c == &myBorder) continue;
+        if (c.kind == ControlKind::Shape) {
+            bottom = std::max(bottom, c.top + c.height);
+            right = std::max(right, c.left + c.width);
+        } else if (c.kind == ControlKind::Line) {
+            bottom = std::max(bottom, std::max(c.top, c.y2));
+        } else if (!text::equalsNoCase(c.name, "MsgLbl") && !text::equalsNoCase(c.name, "LabelMisc")) {
+            bottom = std::max(bottom, c.top + c.height);
+        }
+    }
+    myBorder.left = 60;
+    myBorder.top = 60;
+    myBorder.height = bottom;
+    myBorder.width = right - 60;
+}
+
+bool Form_HasTaxYear() {
+    const std::string& key = g().FormKey;
+    return key != "DL" && key != "SS_ITIN" && key != "CHK";
+}
+
+void Form_Position(Form& frm) {
+    runGuarded("M3_Ledgerwick:Form_Position", [&] {
+        Desktop& desktop = program().desktop;
+        for (Form* open : desktop.forms()) {
+            if (open->name() == "F1_Configure" && !g().bStartup && !ratesOfConfigureFormPass(*open)) {
+                // A bad rate keeps the configuration form on the screen; the new form does not open.
+                if (open != &frm) {
+                    desktop.unload(frm);
+                    desktop.activate(*open);
+                }
+                return;
+            }
+            if (open != desktop.frame() && open != &frm && open->isLoaded()) desktop.unload(*open);
+        }
+        frm.top = 0;
+        frm.left = std::max(0, (frameInnerWidth() - frm.width) / 2);
+        desktop.activate(frm);
+        if (Form_HasTaxYear()) showYearDigits(frm);
+        if (!text::containsNoCase(frm.name(), "Configure"))
+            frm.setFocus(frm.at("Text1", g().FocusOnStartup));
+        else
+            frm.setFocus(frm.at("cbxPrinters"));
+    });
+}
+
+Form* Form_Open(const std::string& formName) {
+    Desktop& desktop = program().desktop;
+    Form* form = desktop.findForm(formName);
+    if (!form) {
+        std::unique_ptr<Form> made = createForm(formName);
+        if (!made) return nullptr;
+        form = &desktop.load(std::move(made));
+        if (!form->isLoaded()) return nullptr;
+    }
+    Form_Position(*form);
+    return form->isLoaded() ? form : nullptr;
+}
+
+void Year_Change(Form& frm) {
+    runGuarded("M3_Ledgerwick:Year_Change", [&] {
+        g().TaxYearIndex = nextTaxYearIndex(g().TaxYearIndex);
+        Form_Init_Captions();
+        writeUserInf("LastTaxYear", g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)]);
+        if (Form_HasTaxYear()) showYearDigits(frm);
+        if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
+        Year_Check();
+    });
+}
+
+void Year_Check() {
+    Form* form = g().CurrentForm;
+    if (!form) return;
+    for (const auto& owned : form->controls()) {
+        Control& c = *owned;
+        if (!c.isTextBox()) continue;
+        bool stands = true;
+        if (c.tag == "DATE") stands = EditCtl_Date(c, "");
+        else if (c.tag == "DATEX")
+            stands = EditCtl_Date(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+        if (!stands) return;
+    }
+}
+
+void Form_Clear() {
+    runGuarded("M3_Ledgerwick:Form_Clear", [] {
+        Form* form = g().CurrentForm;
+        if (!form) return;
+        for (const auto& owned : form->controls()) {
+            Control& c = *owned;
+            if (c.isTextBox()) c.text.clear();
+            if (isLabel(c) && text::equalsNoCase(c.name, "Check")) c.caption.clear();
+            if (c.kind == ControlKind::Picture &&
+                (text::equalsNoCase(c.name, "Picture2") || text::equalsNoCase(c.name, "Picture4")))
+                c.picture.clear();
+        }
+        if (auto* catalogueForm = dynamic_cast<CatalogueForm*>(form)) catalogueForm->refillAfterClear();
+    });
+    // The form may have no status line: the rest goes on regardless.
+    if (Form* form = g().CurrentForm) {
+        if (Control* status = form->find("labelMisc")) status->caption.clear();
+    }
+    g().CurrentFileName.clear();
+}
+
+void Check_Toggle(Control& chk) { chk.caption = chk.caption.empty() ? "X" : ""; }
+
+void Check_TogglePair(Control& chk, Control& partner) {
+    if (chk.caption.empty()) {
+        chk.caption = "X";
+        partner.caption.clear();
+    } else {
+        chk.caption.clear();
+    }
+}
+
+}  // namespace lw
