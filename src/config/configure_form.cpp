@@ -1,0 +1,264 @@
+// The configuration form's Load and handlers: printer, file name template, filing status and figures.
+#include "config/configure_form.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include "config/rates.h"
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "shell/form_lifecycle.h"
+#include "shell/form_registry.h"
+#include "shell/rates_check.h"
+#include "shell/startup.h"
+#include "shell/tax_year.h"
+#include "text/case.h"
+#include "text/number.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+// Where the operator reads up on Medicare; the status frame's caption names it.
+const char* const kMedicareAgencyAddress = "www.cms.gov";
+constexpr int kFigureSelectionLength = 20;
+
+std::string lastTwo(const std::string& text) {
+    return text.size() >= 2 ? text.substr(text.size() - 2) : text;
+}
+
+std::string replaceNoCase(std::string value, const std::string& marker, const std::string& replacement) {
+    for (std::size_t at = text::findNoCase(value, marker); at != std::string::npos;
+         at = text::findNoCase(value, marker, at + replacement.size()))
+        value.replace(at, marker.size(), replacement);
+    return value;
+}
+
+// Which option of an array is on, -1 for none.
+int chosenOf(const std::array<Control*, 3>& options) {
+    for (std::size_t i = 0; i < options.size(); ++i)
+        if (options[i]->value) return static_cast<int>(i);
+    return -1;
+}
+
+}  // namespace
+
+void configureFormCommonInit(Form& form) {
+    SS_MC_Load();
+    const std::string changePoint = form.at("txtMCChgRateAfter").text;
+    Control& upTo = form.at("lblMC", 0);
+    Control& over = form.at("lblMC", 2);
+    upTo.caption = replaceNoCase(upTo.caption, "<<INITRATE>>", changePoint);
+    over.caption = replaceNoCase(over.caption, "<<WAGE>>", changePoint);
+}
+
+bool F1_Configure::isFigureField(const Control& control) const {
+    for (const Control* field :
+         {&txtSSRate, &txtSSMax, &txtMCInitRate, &txtMCChgRateAfter, &txtMCRateAfter, &txtMCPartBPremiums})
+        if (&control == field) return true;
+    return false;
+}
+
+void F1_Configure::onLoad() {
+    runGuarded("F1_Configure:Form_Load", [this] { Form_Load(); });
+}
+
+void F1_Configure::Form_Load() {
+    switch (chosenOf(optStatus)) {
+        case 0:
+            g().FilingStatus = "Single";
+            break;
+        case 1:
+            g().FilingStatus = "MFS";
+            break;
+        case 2:
+            g().FilingStatus = "MFJ";
+            break;
+        default:
+            break;
+    }
+    Frame1.height = lblNote.height;
+
+    const std::string& extension = g().FileExtension;
+    FileNameFormats = {
+        "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
+        "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
+
+    lblPrinter.caption =
+        "When this form loads, it displays the last printer you chose or the\r\n"
+        "default printer. If you want to change the printer, choose a printer\r\n"
+        "from the drop down list. The printer you choose will be saved.";
+    lblNote.caption =
+        "If you make changes to the Social Security or Medicare Information below, the changes WILL NOT BE "
+        "SAVED unless you press the Save Button (Upper Left on this Screen).\r\n"
+        "This information used to determine Social Security and Medicare Withholding when a W2 is created";
+    lblTaxYearInfo.caption =
+        "Press [Change Tax Yr] button to cycle between This Year, Next Year, Last Year and 20XX.\r\n"
+        "All forms created will be for the year shown here. NOTE: If [Change Tax Yr] button is\r\n"
+        "pressed on a different form, (e.g. the W2), change will apply to ALL forms, including this form.";
+
+    TaxYear1.caption = lastTwo(TaxYears_Setup());
+
+    Form_Common_Init(*this);
+
+    fillPrinters();
+
+    const char* const examples[] = {
+        "LastName_FirstName_FormName_OtherInfo_SEQ", "DOE_JOHN_W2_ABC PLUMBING_000",
+        "FirstName_LastName_FormName_OtherInfo_SEQ", "JOHN_DOE_W2_ABC PLUMBING_000",
+        "FormName_LastName_FirstName_OtherInfo_SEQ", "W2_DOE_JOHN_ABC PLUMBING_000",
+        "FormName_FirstName_LastName_OtherInfo_SEQ", "W2_JOHN_DOE_ABC PLUMBING_000"};
+    for (std::size_t i = 0; i < optFileName.size(); ++i)
+        optFileName[i]->caption =
+            std::string(examples[2 * i]) + extension + " (e.g. " + examples[2 * i + 1] + extension + ")";
+
+    chooseFileNameFormat();
+}
+
+void F1_Configure::fillPrinters() {
+    const std::vector<std::string> machine = program().platform.printers();
+    cbxPrinters.items.clear();
+    for (const std::string& printer : machine)
+        if (std::find(cbxPrinters.items.begin(), cbxPrinters.items.end(), printer) == cbxPrinters.items.end())
+            cbxPrinters.items.push_back(printer);
+
+    auto select = [this](std::size_t entry) {
+        const bool moved = cbxPrinters.listIndex != static_cast<int>(entry);
+        cbxPrinters.listIndex = static_cast<int>(entry);
+        cbxPrinters.text = cbxPrinters.items[entry];
+        cbxPrinters.selStart = 0;
+        cbxPrinters.selLength = static_cast<int>(cbxPrinters.text.size());
+        if (moved) cbxPrinters_Click();
+    };
+    const std::string remembered = readUserInf("Printer");
+    if (remembered.empty()) {
+        // With no printer on the machine there is nothing to remember.
+        if (cbxPrinters.items.empty()) return;
+        writeUserInf("Printer", cbxPrinters.items.front());
+        select(0);
+        return;
+    }
+    auto it = std::find(cbxPrinters.items.begin(), cbxPrinters.items.end(), remembered);
+    if (it != cbxPrinters.items.end()) select(static_cast<std::size_t>(it - cbxPrinters.items.begin()));
+}
+
+void F1_Configure::chooseFileNameFormat() {
+    const std::string remembered = readUserInf("FileNameFmt");
+    if (remembered.empty()) {
+        switchOn(*optFileName[0]);
+        return;
+    }
+    const std::optional<double> number = text::toDouble(remembered);
+    if (!number) throw AppError(err::kTypeMismatch, "Type mismatch");
+    switchOn(at("optFileName", static_cast<int>(std::nearbyint(*number))));
+}
+
+void F1_Configure::switchOn(Control& option) {
+    if (option.value) return;
+    for (Control* other : arrayOf(option.name)) other->value = false;
+    option.value = true;
+    onClick(option, MouseButton::Left);
+}
+
+void F1_Configure::onClick(Control& control, MouseButton) {
+    // Only a chosen entry is a printer; a click that chooses nothing leaves the remembered one.
+    if (&control == &cbxPrinters && cbxPrinters.listIndex >= 0) cbxPrinters_Click();
+    if (control.kind != ControlKind::OptionButton) return;
+    if (text::equalsNoCase(control.name, "optFileName")) optFileName_Click(control.index);
+    if (text::equalsNoCase(control.name, "optStatus")) optStatus_Click(control.index);
+}
+
+void F1_Configure::cbxPrinters_Click() {
+    runGuarded("F1_Configure:cbxPrinters_Click", [this] {
+        g().PrinterName = cbxPrinters.text;
+        writeUserInf("Printer", cbxPrinters.text);
+    });
+}
+
+void F1_Configure::optFileName_Click(int Index) {
+    runGuarded("F1_Configure:optFileName_Click", [this, Index] {
+        writeUserInf("FileNameFmt", std::to_string(Index));
+        g().FileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
+    });
+}
+
+void F1_Configure::optStatus_Click(int) {
+    runGuarded("F1_Configure:optStatus_Click", [this] {
+        static const struct {
+            const char* status;
+            const char* income;
+        } byOption[] = {{"SGL", "106,000"}, {"MFS", "106,000"}, {"MFJ", "212,000"}};
+        const int chosen = chosenOf(optStatus);
+        if (chosen < 0) return;
+        const auto& row = byOption[chosen];
+        g().FilingStatus = row.status;
+        Frame4.caption = text::replaceAll(
+            std::string("Medicare Info --- Goto ") + kMedicareAgencyAddress + " --- Filing Status: <STATUS>",
+            "<STATUS>", g().FilingStatus);
+        const std::string premiums =
+            "Annual Medicare Part B Premiums for taxpayers with|income up to $<INC>.|Premium may be more for "
+            "income over $<INC>.";
+        lblMC[3]->caption = text::replaceAll(text::replaceAll(premiums, "<INC>", row.income), "|", "\r\n");
+        lblMC[2]->caption =
+            text::replaceAll("Withholding Rate on Wages over <<WAGE>>:", "<<WAGE>>", row.income);
+        txtMCChgRateAfter.text = row.income;
+    });
+}
+
+void F1_Configure::onGotFocus(Control& control) {
+    if (!isFigureField(control)) return;
+    control.selStart = 0;
+    control.selLength = std::min(kFigureSelectionLength, static_cast<int>(control.text.size()));
+}
+
+void F1_Configure::onChange(Control& control) {
+    if (isFigureField(control)) bChanged = true;
+}
+
+void F1_Configure::onValidate(Control& control, bool& cancel) {
+    if (!isFigureField(control)) return;
+    const bool isRate = &control == &txtSSRate || &control == &txtMCInitRate || &control == &txtMCRateAfter;
+    const bool good = isRate ? SS_MC_Edit_Rate(control) : SS_MC_Edit_Money(control);
+    if (!good) {
+        control.selStart = 0;
+        control.selLength = static_cast<int>(control.text.size());
+        cancel = true;
+    }
+    // A W-2 uses the figure at once, good or not, before and without any Save.
+    std::string* global = nullptr;
+    if (&control == &txtSSRate) global = &g().SSRate;
+    if (&control == &txtSSMax) global = &g().SSMax;
+    if (&control == &txtMCInitRate) global = &g().MCInitRate;
+    if (&control == &txtMCChgRateAfter) global = &g().MCChgRateAfter;
+    if (&control == &txtMCRateAfter) global = &g().MCRateAfter;
+    if (&control == &txtMCPartBPremiums) global = &g().MCPartBPremium;
+    *global = control.text;
+}
+
+void F1_Configure::onUnload(bool&) {
+    runGuarded("F1_Configure:Form_Unload", [this] {
+        if (!g().FilingStatus.empty()) return;
+        const std::string answer =
+            MA_MBX(name(), 800, "Filing Status not chosen - Choose Now", "Married Filing Single - MFS", false,
+                   "Single - S", "Married Filing Joint - MFJ", "", 1);
+        const std::size_t dash = answer.find('-');
+        g().FilingStatus = dash == std::string::npos ? std::string() : text::trim(answer.substr(dash + 1));
+        program().ui.quit();
+    });
+}
+
+void F1_Configure::commonInitStep() { configureFormCommonInit(*this); }
+
+void F1_Configure::afterYearChange() { SS_MC_Load(); }
+
+void registerConfigureForm() {
+    registerForm("F1_Configure", [] { return std::make_unique<F1_Configure>(); });
+    setRatesCheck([](Form& configureForm) { return SS_MC_Validate_All(configureForm); });
+}
+
+}  // namespace lw

@@ -1,0 +1,77 @@
+// F1_Configure, the control panel and first screen: printer, file name template, tax year, filing
+// status and the Social Security and Medicare figures of the year.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "shell/catalogue_form.h"
+
+namespace lw {
+
+class F1_Configure : public CatalogueForm {
+public:
+    F1_Configure();
+
+    // Set when the operator changes a figure; the frame's Save and Print clear it. Nothing reads it.
+    bool bChanged = false;
+    // The four file name templates, each followed by the edition's file extension.
+    std::array<std::string, 4> FileNameFormats;
+
+    Control& Frame1;  // the printer frame
+    Control& cbxPrinters;
+    Control& lblPrinter;
+    Control& lblNote;
+    Control& Frame5;
+    std::array<Control*, 4> optFileName{};
+    Control& TaxYear0;
+    Control& TaxYear1;
+    Control& lblTaxYearInfo;
+    Control& Label3;
+    std::array<Control*, 3> optStatus{};
+    Control& Frame3;
+    std::array<Control*, 2> lblSS{};
+    Control& txtSSRate;
+    Control& txtSSMax;
+    Control& Frame4;
+    std::array<Control*, 4> lblMC{};
+    Control& txtMCInitRate;
+    Control& txtMCChgRateAfter;
+    Control& txtMCRateAfter;
+    Control& txtMCPartBPremiums;
+    Control& labelMisc;
+    Control& labelVersion;
+
+    void onLoad() override;
+    void onUnload(bool& cancel) override;
+    void onGotFocus(Control& control) override;
+    void onChange(Control& control) override;
+    void onValidate(Control& control, bool& cancel) override;
+    void onClick(Control& control, MouseButton button) override;
+
+    void commonInitStep() override;
+    void afterYearChange() override;
+
+    void cbxPrinters_Click();
+    void optFileName_Click(int Index);
+    void optStatus_Click(int Index);
+
+    // One of the six figure fields.
+    bool isFigureField(const Control& control) const;
+
+private:
+    void Form_Load();
+    void fillPrinters();
+    void chooseFileNameFormat();
+    // Turns an option on as code does: its Click runs only when it was off.
+    void switchOn(Control& option);
+};
+
+// The configuration form's own step of the common set-up: its figures are filled, and the change point
+// is written into the two Medicare captions in place of their markers.
+void configureFormCommonInit(Form& form);
+
+// Makes the configuration form known by name, and the check of its figures that keeps it on the screen.
+void registerConfigureForm();
+
+}  // namespace lw

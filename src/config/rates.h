@@ -1,0 +1,40 @@
+// The Social Security and Medicare figures of the tax year: read from SSMC.inf into the configuration
+// form and the process-wide values, checked as they are typed, and written back on Save.
+#pragma once
+
+#include <string>
+
+#include "model/form.h"
+
+namespace lw {
+
+// Fills the rate fields and captions of CurrentForm (the configuration form) from the section of its
+// year, TaxYear(0) and TaxYear(1); the change point is taken by FilingStatus. Sets the rate globals.
+void SS_MC_Load();
+
+// Edits of a rate field and an amount field: true when the text is good, and then rewritten to its
+// normal form. A bad text is reported as a Data Error, the field keeps the focus, and false comes back.
+bool SS_MC_Edit_Rate(Control& Ctl);
+bool SS_MC_Edit_Money(Control& Ctl);
+
+// The six fields by their edits in form order; the first that fails ends it with false.
+bool SS_MC_Validate_All(Form& configureForm);
+// As above, on the configuration form that is loaded (CurrentForm when none is).
+bool SS_MC_Validate_All();
+
+// Writes the six figures to the section of the form's year when all of them pass, and sets their
+// globals. The frame's Save on the configuration form.
+void SS_MC_Save();
+
+// When the figures on the form differ from the stored ones, offers to save them; ends the program
+// afterwards when the frame is quitting. Run as the frame closes with the configuration form on it.
+void SS_MC_Check_Changes();
+
+// One line of the table of changes: the item in 22 characters, the two values right-aligned in 9 each,
+// then a line end. Longer texts stand whole.
+std::string SS_MC_Row(const std::string& Item, const std::string& Original, const std::string& Current);
+
+// The loaded configuration form, or CurrentForm when it is not loaded.
+Form& configureFormInUse();
+
+}  // namespace lw

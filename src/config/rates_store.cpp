@@ -1,0 +1,136 @@
+// The figures of a tax year between SSMC.inf, the configuration form and the process-wide values.
+#include <array>
+
+#include "config/classic_number.h"
+#include "config/rates.h"
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "diagnostics/version.h"
+#include "model/program.h"
+#include "store/inf_store.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+// The year as the form shows it, "2025" or "20XX": the section of SSMC.inf.
+std::string formYear(const Form& form) {
+    return form.at("TaxYear", 0).caption + form.at("TaxYear", 1).caption;
+}
+
+std::string readRate(const std::string& year, const char* key) {
+    return store::ReadINF(year, key, "", g().SSMCInfFile);
+}
+
+// The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
+// the joint figure, as the program has always done.
+const char* changePointKey(const std::string& filingStatus) {
+    if (filingStatus == "Single") return "MCChgRateAfterSingle";
+    if (filingStatus == "MFS") return "MCChgRateAfterMFS";
+    return "MCChgRateAfterMFJ";
+}
+
+std::string padRight(const std::string& text, std::size_t width) {
+    return text.size() >= width ? text : text + std::string(width - text.size(), ' ');
+}
+
+std::string padLeft(const std::string& text, std::size_t width) {
+    return text.size() >= width ? text : std::string(width - text.size(), ' ') + text;
+}
+
+}  // namespace
+
+void SS_MC_Load() {
+    runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
+        Form& form = *g().CurrentForm;
+        const std::string year = formYear(form);
+        g().SSRate = readRate(year, "SSRate");
+        g().SSMax = readRate(year, "SSMax");
+        g().MCInitRate = readRate(year, "MCInitRate");
+        g().MCChgRateAfter = readRate(year, changePointKey(g().FilingStatus));
+        g().MCRateAfter = readRate(year, "MCRateAfter");
+        g().MCPartBPremium = readRate(year, "MCPartBPremium");
+        g().MCPartBIncome = readRate(year, "MCPartBIncome");
+
+        form.at("Frame3").caption = text::replaceAll("Social Security Withholding ????", "????", year);
+        form.at("Frame4").caption =
+            text::replaceAll("Medicare Withholding ???? --- Martial Status is <Status>", "????", year);
+        form.at("Frame4").caption = text::replaceAll(form.at("Frame4").caption, "<Status>", g().FilingStatus);
+
+        form.at("txtSSRate").text = g().SSRate;
+        form.at("txtMCInitRate").text = g().MCInitRate;
+        form.at("txtMCRateAfter").text = g().MCRateAfter;
+        form.at("txtMCPartBPremiums").text = g().MCPartBPremium;
+        form.at("txtSSMax").text = config::formatClassic(g().SSMax, "###,###.00");
+        form.at("txtMCChgRateAfter").text = config::formatClassic(g().MCChgRateAfter, "###,###.00");
+
+        form.at("labelVersion").caption = std::string("Ledgerwick - Version ") + versionFullText();
+    });
+}
+
+void SS_MC_Save() {
+    runGuarded("M3_Ledgerwick:SS_MC_Save", [] {
+        Form& form = configureFormInUse();
+        const std::string year = formYear(form);
+        if (!SS_MC_Validate_All(form)) return;
+        auto write = [&](const char* key, const std::string& value, std::string& global) {
+            store::SaveINF(year, key, value, g().SSMCInfFile);
+            global = value;
+        };
+        write("SSRate", form.at("txtSSRate").text, g().SSRate);
+        write("SSMax", config::formatClassic(form.at("txtSSMax").text, "#######"), g().SSMax);
+        write("MCInitRate", form.at("txtMCInitRate").text, g().MCInitRate);
+        write("MCChangeRateAfter", config::formatClassic(form.at("txtMCChgRateAfter").text, "#######"),
+              g().MCChgRateAfter);
+        write("MCRateAfter", form.at("txtMCRateAfter").text, g().MCRateAfter);
+        write("MCPartBPremium", form.at("txtMCPartBPremiums").text, g().MCPartBPremium);
+    });
+}
+
+std::string SS_MC_Row(const std::string& Item, const std::string& Original, const std::string& Current) {
+    return padRight(Item, 22) + padLeft(Original, 9) + padLeft(Current, 9) + "\r\n";
+}
+
+void SS_MC_Check_Changes() {
+    runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
+        Form& form = configureFormInUse();
+        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+        struct Item {
+            const char* caption;
+            const char* key;
+            std::string current;
+        };
+        const std::array<Item, 6> items = {{
+            {"SS Rate", "SSRate", form.at("txtSSRate").text},
+            {"SS Max", "SSMax", config::formatClassic(form.at("txtSSMax").text, "#######")},
+            {"MC Rate", "MCInitRate", form.at("txtMCInitRate").text},
+            {"MC Change Rate After", "MCChangeRateAfter",
+             config::formatClassic(form.at("txtMCChgRateAfter").text, "#######")},
+            {"MC Rate After", "MCRateAfter", form.at("txtMCRateAfter").text},
+            {"MC Max Medicare", "MCPartBPremium", form.at("txtMCPartBPremiums").text},
+        }};
+        std::array<std::string, 6> stored;
+        bool changed = false;
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            stored[i] = readRate(year, items[i].key);
+            if (stored[i] != items[i].current) changed = true;
+        }
+        if (changed) {
+            std::string table = SS_MC_Row("Item", "Original", "Current") + SS_MC_Row("", "Value", "Value") +
+                                std::string(40, '-') + "\r\n";
+            for (std::size_t i = 0; i < items.size(); ++i)
+                table += SS_MC_Row(items[i].caption, stored[i], items[i].current);
+            const std::string message =
+                "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
+            if (MA_MBX("M3_Ledgerwick:SS_MC_Check_Changes", 800, message, "Yes", false, "No", "", "", 1) ==
+                "Yes")
+                SS_MC_Save();
+        }
+        if (g().bQuitting) program().ui.quit();
+    });
+}
+
+}  // namespace lw
