@@ -1,0 +1,72 @@
+#include "fields/edit_ctl.h"
+
+#include "diagnostics/error_tail.h"
+#include "fields/edit_date.h"
+#include "fields/edit_failure.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "text/case.h"
+#include "text/number.h"
+
+namespace lw {
+
+namespace {
+
+// An amount field may also hold that the amount is unknown: U and UNK are spelt out, other text stands.
+bool editUnknownAmount(Control& ctl) {
+    if (text::isNumeric(ctl.text)) return EditCtl_Money(ctl);
+    if (ctl.text == "U" || ctl.text == "UNK") ctl.text = "UNKNOWN";
+    return true;
+}
+
+std::string formTaxYear() {
+    const Form& form = *program().g.CurrentForm;
+    return form.at("TaxYear", 0).caption + form.at("TaxYear", 1).caption;
+}
+
+bool editByTag(Control& ctl) {
+    const std::string tag = text::toUpper(ctl.tag);
+    if (tag == "%" || tag == "#.#") return EditCtl_NumericDecimalOK(ctl);
+    if (tag == "#") return EditCtl_Numeric(ctl);
+    if (tag == "TIN") return EditCtl_SS_ITIN(ctl);
+    if (tag == "EIN") return EditCtl_EIN(ctl);
+    if (tag == "MONEY" || tag == "SMONEY") return EditCtl_Money(ctl);
+    if (tag == "AMONEY") return editUnknownAmount(ctl);
+    if (tag == "-MONEY") return EditCtl_Money_NegativeOK(ctl);
+    if (tag == "DATE") return EditCtl_Date(ctl, "");
+    if (tag == "DATEX") {
+        if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
+        return EditCtl_Date(ctl, formTaxYear());
+    }
+    if (tag == "YEAR") return EdtiCtl_Year(ctl);
+    if (tag == "VERIFICATION") return EditCtl_VerificationCode(ctl);
+    if (tag == "TPNAME") return EditCtl_NameBlock(ctl);
+    if (tag == "PHONE") return EditCtl_Phone(ctl);
+    ctl.text = text::toUpper(ctl.text);
+    return true;
+}
+
+}  // namespace
+
+bool EditCtl(Control& ctl) {
+    bool result = true;
+    runGuarded("M7_Edits:EditCtl", [&] {
+        // A form without a status line may use the edits too.
+        try {
+            clearStatusLine();
+        } catch (const ProgramEnded&) {
+            throw;
+        } catch (...) {
+        }
+        if (!ctl.text.empty() && !editByTag(ctl)) result = false;
+        if (result) {
+            ctl.backColor = kWhite;
+            ctl.foreColor = kBlack;
+        } else {
+            ctl.foreColor = kRed;
+        }
+    });
+    return result;
+}
+
+}  // namespace lw

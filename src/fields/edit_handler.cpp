@@ -1,0 +1,27 @@
+#include "fields/edit_handler.h"
+
+#include <exception>
+
+#include "diagnostics/error_tail.h"
+#include "fields/edit_failure.h"
+#include "model/app_error.h"
+#include "model/program.h"
+
+namespace lw {
+
+bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::function<void()>& body) {
+    try {
+        body();
+        return true;
+    } catch (const ProgramEnded&) {
+        throw;
+    } catch (...) {
+        const Fault fault = faultOf(std::current_exception());
+        EditCtl_ShowInvalid(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
+        if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(label, fault);
+        if (ctl.form) ctl.form->setFocus(ctl);
+        return false;
+    }
+}
+
+}  // namespace lw

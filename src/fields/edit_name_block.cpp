@@ -1,0 +1,27 @@
+#include <string>
+#include <vector>
+
+#include "fields/edit_ctl.h"
+#include "taxpayer/name_format.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+bool EditCtl_NameBlock(Control& ctl) {
+    static const std::string kLineBreak = "\r\n";
+    std::string block = ctl.text;
+    while (block.compare(0, kLineBreak.size(), kLineBreak) == 0) block.erase(0, kLineBreak.size());
+    // A block of blank lines only keeps the focus with no message: EditCtl paints it red.
+    if (block.empty()) return false;
+
+    const std::vector<std::string> lines = text::split(block, kLineBreak);
+    const std::string formatted = Format_TPName(lines.front());
+    std::string result = formatted.substr(0, formatted.find(text::kFieldSeparator));
+    for (std::size_t i = 1; i < lines.size(); ++i) result += kLineBreak + lines[i];
+    ctl.text = text::toUpper(result);
+    return true;
+}
+
+}  // namespace lw

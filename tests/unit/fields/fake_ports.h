@@ -1,0 +1,54 @@
+#pragma once
+// Ports for the field tests: the screen answers message boxes by clicking the queued caption (the
+// default button when none is queued) and closes error reports; the machine has a fixed clock.
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "diagnostics/message_box.h"
+#include "model/ports.h"
+
+namespace lw::test {
+
+class FakeUi : public UiPort {
+public:
+    // The next message box is answered by pressing the visible button with this caption.
+    void queueAnswer(const std::string& caption) { answers_.push_back(caption); }
+
+    void runModal(Form& form) override;
+    void copyPictureToClipboard(Form&) override {}
+    std::string clipboardText() override { return clipboard; }
+    void setClipboardText(const std::string& text) override { clipboard = text; }
+    bool openDocument(const std::string&) override { return false; }
+    void quit() override {}
+    void refresh() override { ++refreshes; }
+
+    std::vector<MessageBoxRecord> boxes;  // as answered
+    std::vector<std::string> modalForms;  // names in the order shown
+    std::string clipboard;
+    int refreshes = 0;
+
+private:
+    std::deque<std::string> answers_;
+};
+
+class FakePlatform : public PlatformPort {
+public:
+    DateTime now() override { return clock; }
+    std::optional<std::string> environment(const std::string&) override { return std::nullopt; }
+    std::string executableName() override { return "Ledgerwick_Venturo"; }
+    std::string executableFolder() override { return "/app"; }
+    std::string commandLine() override { return {}; }
+    std::string rootFolder() override { return "/root"; }
+    bool earlierInstanceRunning() override { return false; }
+    void activateEarlierInstance(const std::string&) override {}
+    void sleep(int) override {}
+    std::vector<std::string> printers() override { return {}; }
+    int screenWidthTwips() override { return 19200; }
+
+    DateTime clock{2025, 3, 7, 14, 5, 9};
+};
+
+}  // namespace lw::test
