@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "model/app_error.h"
+#include "forms/register_forms.h"
 #include "model/program.h"
 #include "shell/frame_form.h"
 #include "shell/frame_window_model.h"
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
     lw::ui::QtPlatformPort platform(argc, argv);
     lw::ui::QtUiPort ui;
     lw::Program program(ui, platform);
+    lw::registerAllForms();
     try {
         lw::F0_MDI* frame = lw::loadFrame();
         if (!frame) return 0;

@@ -82,6 +82,7 @@ void Desktop::unload(Form& form) {
     if (pendingFocus_ && pendingFocus_->form == &form) pendingFocus_ = nullptr;
     modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
     if (frame_ == &form) frame_ = nullptr;
+    if (unloadObserver_) unloadObserver_(form);
     ui_.formUnloaded(form);
     form.desktop_ = nullptr;
     form.activeControl_ = nullptr;

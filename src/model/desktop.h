@@ -54,6 +54,9 @@ public:
     // Runs a piece of event handling; deferred focus moves and sent keys follow the outermost one.
     void dispatch(const std::function<void()>& handler);
 
+    // Told of every form that is unloaded, before it is gone: references to it must be dropped.
+    void setUnloadObserver(std::function<void(Form&)> observer) { unloadObserver_ = std::move(observer); }
+
     // The next field in tab order after (or before) a control of the same form.
     Control* nextInTabOrder(const Control& from, bool backwards) const;
 
@@ -78,6 +81,7 @@ private:
     Form* activeChild_ = nullptr;
     Control* pendingFocus_ = nullptr;
     std::vector<SentKey> sentKeys_;
+    std::function<void(Form&)> unloadObserver_;
     int depth_ = 0;
     int modalDepth_ = 0;
 };

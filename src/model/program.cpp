@@ -11,6 +11,10 @@ Program* current = nullptr;
 Program::Program(UiPort& ui_, PlatformPort& platform_) : ui(ui_), platform(platform_), desktop(ui_) {
     if (current) throw std::logic_error("a program is already running in this process");
     current = this;
+    // The shared procedures work on CurrentForm; a form that is gone is no longer current.
+    desktop.setUnloadObserver([this](Form& form) {
+        if (g.CurrentForm == &form) g.CurrentForm = nullptr;
+    });
 }
 
 Program::~Program() { current = nullptr; }

@@ -12,6 +12,7 @@
 #include "script/script_platform.h"
 #include "script/script_ui.h"
 #include "text/words.h"
+#include "forms/register_forms.h"
 #include "shell/form_registry.h"
 #include "shell/frame_form.h"
 #include "shell/frame_window_model.h"
@@ -293,6 +294,7 @@ void ScriptRunner::start() {
     ui_ = std::make_unique<ScriptUi>(session_);
     platform_ = std::make_unique<ScriptPlatform>(session_);
     program_ = std::make_unique<Program>(*ui_, *platform_);
+    registerAllForms();
     try {
         loadFrame();
     } catch (const ProgramEnded&) {
@@ -576,11 +578,14 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     if (what == "report") {
         need(words, 3, "expect report \"PART\"");
         if (session_.reports.empty()) return expectThat(false, "no report");
-        const ShownReport& r = session_.reports.back();
-        std::string all = utf8(r.module) + " " + utf8(r.number) + " " + utf8(r.description);
-        return expectThat(contains(utf8(r.module), words[2]) || contains(utf8(r.number), words[2]) ||
-                              contains(utf8(r.description), words[2]),
-                          "\"" + all + "\"");
+        std::string all;
+        for (const ShownReport& r : session_.reports) {
+            if (contains(utf8(r.module), words[2]) || contains(utf8(r.number), words[2]) ||
+                contains(utf8(r.description), words[2]))
+                return expectThat(true, "");
+            all += (all.empty() ? "" : "; ") + utf8(r.module) + " " + utf8(r.number) + " " + utf8(r.description);
+        }
+        return expectThat(false, "\"" + all + "\"");
     }
     if (!program_) throw ScriptError("the program is not running");
     if (what == "menu") {

@@ -19,6 +19,11 @@ public:
     virtual void refillAfterClear() {}
     // The form's own renewal after a change of the tax year.
     virtual void afterYearChange() {}
+
+    // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
+    // print or clip the form.
+    bool b_SSAError = false;
+    bool b_RRBError = false;
 };
 
 }  // namespace lw

@@ -1,10 +1,14 @@
 // The frame's commands: its buttons, menu items, the legend panel, and the end of the program.
 #include "diagnostics/error_logger.h"
 #include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "fields/control_setup.h"
+#include "fields/edit_ctl.h"
 #include "model/app_error.h"
 #include "model/program.h"
+#include "shell/catalogue_form.h"
 #include "shell/form_lifecycle.h"
-#include "shell/form_registry.h"
+#include "shell/frame_command_hooks.h"
 #include "shell/frame_form.h"
 #include "shell/menu_table.h"
 #include "shell/startup.h"
@@ -14,7 +18,10 @@ namespace lw {
 
 namespace {
 
+constexpr const char* kNoFormMessage = "You must open an existing form or create a new form before continuing.";
+
 Globals& g() { return program().g; }
+FrameCommandHooks& hooks() { return frameCommandHooks(); }
 
 bool hasChildForms() {
     for (Form* form : program().desktop.forms())
@@ -27,13 +34,63 @@ void ScreenTaskbar_Hide(F0_MDI& frame) { frame.bTaskbarHidden = true; }
 void ScreenTaskbar_Show(F0_MDI& frame) { frame.bTaskbarHidden = false; }
 
 void MDI_Quit() {
-    if (hasChildForms()) g().bQuitting = true;
+    if (hasChildForms()) {
+        g().bQuitting = true;
+        Form* active = program().desktop.activeChild();
+        if (active && active->name() == "F1_Configure" && hooks().checkRateChanges) hooks().checkRateChanges();
+    }
     program().ui.quit();
 }
 
-void openFormFromMenu(const std::string& formName) {
-    g().CurrentFileName.clear();
-    Form_Open(formName);
+void focusFirstField(Form& form) {
+    if (Control* first = form.find("Text1", 0)) form.setFocus(*first);
+}
+
+// Stage 4 of a button: a form whose computation failed may not be kept, printed or clipped.
+bool outputBlocked(Form& active) {
+    auto* form = dynamic_cast<CatalogueForm*>(&active);
+    if (!form) return false;
+    const char* text = nullptr;
+    if (g().FormKey == "SSA1099" && form->b_SSAError)
+        text = "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping";
+    if (g().FormKey == "RRB1099" && form->b_RRBError)
+        text = "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping";
+    if (!text) return false;
+    MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
+    return true;
+}
+
+// Every text box in the order of the form's controls; the first that does not stand keeps the focus.
+bool allFieldsStand(Form& form) {
+    for (const auto& owned : form.controls()) {
+        if (owned->isTextBox() && !EditCtl(*owned)) return false;
+    }
+    return true;
+}
+
+void runOutputCommand(const std::string& pressed, Form& active) {
+    const bool configure = g().FormKey == "CONFIGURE";
+    if (pressed == "SAVE") {
+        if (!allFieldsStand(active)) return;
+        if (configure) {
+            if (hooks().saveRates) hooks().saveRates();
+        } else if (hooks().saveFile) {
+            hooks().saveFile();
+        }
+    } else if (pressed == "PRINT") {
+        if (!hooks().printForm) return;
+        if (hooks().screenClip) hooks().screenClip();
+        hooks().printForm(active);
+        Form_Init_Reset();
+        if (configure) {
+            active.setFocus(active.at("cbxPrinters"));
+        } else if (Control* first = active.find("Text1", 0)) {
+            Control_Setup(*first, false);
+            active.setFocus(*first);
+        }
+    } else if (pressed == "CLIP") {
+        if (hooks().mdiClip) hooks().mdiClip();
+    }
 }
 
 void cmdBtn_Click(F0_MDI& frame, Control& button) {
@@ -44,22 +101,42 @@ void cmdBtn_Click(F0_MDI& frame, Control& button) {
             MDI_Quit();
             return;
         }
+        if (pressed == "OPEN") {
+            if (hooks().openFile) hooks().openFile();
+            return;
+        }
+        if (pressed == "CONFIGURE") {
+            g().CurrentFileName.clear();
+            Form_Open("F1_Configure");
+        }
         Form* active = program().desktop.activeChild();
-        if (!active)
-            throw AppError(800, "You must open an existing form or create a new form before continuing.",
-                           "F0_MDI:cmdBtn_Click");
-        if (pressed == "CLOSE") {
+        if (!active) throw AppError(800, kNoFormMessage, "F0_MDI:cmdBtn_Click");
+        const std::string key = g().FormKey;
+        if (pressed == "LOAD TP 1" || pressed == "LOAD TP 2") {
+            if (key == "CONFIGURE" || key == "TPINFO") return;
+            if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
+        } else if (pressed == "CLEAR") {
+            if (key == "CONFIGURE") return;
+            Form_Clear();
+            focusFirstField(*active);
+        } else if (pressed == "CLOSE") {
             g().CurrentFileName.clear();
             active->unload();
             return;
+        } else if (pressed == "CHANGE TAX YR") {
+            Year_Change(*active);
         }
+        if (outputBlocked(*active)) return;
+        runOutputCommand(pressed, *active);
     } catch (const ProgramEnded&) {
         throw;
-    } catch (const AppError& error) {
+    } catch (...) {
+        Fault fault = faultOf(std::current_exception());
         if (text::containsNoCase(program().platform.commandLine(), "Error"))
-            Error_Logger("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, error.number(),
-                         error.description());
-        Error_Logger("F0_MDI:cmdBtn_Click", error.number(), error.description());
+            Error_Logger("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number, fault.description);
+        if (fault.number == 343) return;
+        if (g().bDebug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
+        Error_Logger("F0_MDI:cmdBtn_Click", fault.number, fault.description);
     }
 }
 
@@ -69,6 +146,31 @@ void picLegends_Click(F0_MDI& frame) {
         ScreenTaskbar_Show(frame);
     else
         ScreenTaskbar_Hide(frame);
+}
+
+// The menu's Clear differs from the button's: it works on CurrentForm, and on the configuration form
+// it only moves the focus.
+void mnuControlClear_Click() {
+    Form* current = g().CurrentForm;
+    if (!current || current->name().empty()) return;
+    if (current->name() == "F1_Configure") {
+        current->setFocus(current->at("txtSSRate"));
+        return;
+    }
+    Form_Clear();
+    focusFirstField(*current);
+}
+
+// The menu's Print has no screen clip and no error flags, and gives the first field the pale yellow.
+void mnuControlPrint_Click() {
+    Form* active = program().desktop.activeChild();
+    if (!active || !hooks().printForm) return;
+    hooks().printForm(*active);
+    Form_Init_Reset();
+    if (Control* first = active->find("Text1", 0)) {
+        first->backColor = 0x00C0FFFF;
+        active->setFocus(*first);
+    }
 }
 
 }  // namespace
@@ -84,15 +186,27 @@ void F0_MDI::onMenu(const std::string& itemName) {
     runGuarded("F0_MDI:mnu_Click", [&] {
         for (const MenuEntry& entry : menuTable()) {
             if (entry.opensForm[0] != '\0' && text::equalsNoCase(entry.item, itemName)) {
-                openFormFromMenu(entry.opensForm);
+                g().CurrentFileName.clear();
+                Form_Open(entry.opensForm);
                 return;
             }
         }
-        if (text::equalsNoCase(itemName, "mnuControlQuit")) {
+        auto is = [&](const char* name) { return text::equalsNoCase(itemName, name); };
+        if (is("mnuControlQuit")) {
             MDI_Quit();
-        } else if (text::equalsNoCase(itemName, "mnuControlClose")) {
+        } else if (is("mnuControlOpen")) {
+            if (hooks().openFile) hooks().openFile();
+        } else if (is("mnuControlSave")) {
+            if (hooks().saveFile) hooks().saveFile();
+        } else if (is("mnuControlClose")) {
             if (Form* active = program().desktop.activeChild()) active->unload();
-        } else if (text::equalsNoCase(itemName, "mnuControlGuide")) {
+        } else if (is("mnuControlClear")) {
+            mnuControlClear_Click();
+        } else if (is("mnuControlPrint")) {
+            mnuControlPrint_Click();
+        } else if (is("mnuControlClip")) {
+            if (hooks().mdiClip) hooks().mdiClip();
+        } else if (is("mnuControlGuide")) {
             if (!program().ui.openDocument(g().UserGuideFile))
                 throw AppError(900, "(2) Error encountered opening " + g().UserGuideFile,
                                "F0_MDI:mnuControlGuide_Click");

@@ -1,6 +1,7 @@
 // The frame's fixed controls: the eleven command buttons and the colour legend on picLegends, and the menus.
 #include "shell/frame_form.h"
 #include "shell/form_registry.h"
+#include "shell/frame_command_hooks.h"
 #include "shell/menu_table.h"
 
 namespace lw {
@@ -106,9 +107,14 @@ void F0_MDI::buildMenus() {
     refreshCommands();
 }
 
-// The commands of the Control menu that the program carries out so far; the others are shown disabled.
+// A command of the Control menu is offered when the part of the program that carries it out is there.
 static bool commandBuilt(const std::string& itemName) {
-    return itemName == "mnuControlClose" || itemName == "mnuControlGuide" || itemName == "mnuControlQuit";
+    const FrameCommandHooks& hooks = frameCommandHooks();
+    if (itemName == "mnuControlOpen") return static_cast<bool>(hooks.openFile);
+    if (itemName == "mnuControlSave") return static_cast<bool>(hooks.saveFile);
+    if (itemName == "mnuControlPrint") return static_cast<bool>(hooks.printForm);
+    if (itemName == "mnuControlClip") return static_cast<bool>(hooks.mdiClip);
+    return true;
 }
 
 void F0_MDI::refreshCommands() {
@@ -118,7 +124,7 @@ void F0_MDI::refreshCommands() {
         if (!item) continue;
         item->enabled = entry.opensForm[0] != '\0' ? hasForm(entry.opensForm) : commandBuilt(entry.item);
     }
-    if (Control* open = find("cmdBtn", 0)) open->enabled = false;
+    if (Control* open = find("cmdBtn", 0)) open->enabled = static_cast<bool>(frameCommandHooks().openFile);
 }
 
 }  // namespace lw

@@ -12,8 +12,13 @@ std::vector<std::string> splitWords(const std::string& line) {
     while (i < n) {
         while (i < n && blank(line[i])) ++i;
         if (i == n) break;
+        // A word runs to the next blank outside quotes; quotes may also open inside it, as in key="a b".
         std::string word;
-        if (line[i] == '"') {
+        while (i < n && !blank(line[i])) {
+            if (line[i] != '"') {
+                word.push_back(line[i++]);
+                continue;
+            }
             ++i;
             bool closed = false;
             while (i < n) {
@@ -38,9 +43,6 @@ std::vector<std::string> splitWords(const std::string& line) {
                 }
             }
             if (!closed) throw WordsError("a quoted word is not closed");
-            if (i < n && !blank(line[i])) throw WordsError("a quoted word runs into the next one");
-        } else {
-            while (i < n && !blank(line[i])) word.push_back(line[i++]);
         }
         words.push_back(std::move(word));
     }

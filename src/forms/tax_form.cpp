@@ -1,0 +1,68 @@
+#include "forms/tax_form.h"
+
+#include <algorithm>
+
+#include "fields/control_setup.h"
+#include "fields/edit_ctl.h"
+#include "fields/key_press.h"
+#include "forms/check_rules.h"
+#include "model/keys.h"
+#include "shell/form_lifecycle.h"
+#include "text/case.h"
+
+namespace lw {
+
+bool isFieldArray(const Control& ctl) {
+    return ctl.isTextBox() && ctl.index != kNoIndex && ctl.name.size() == 5 &&
+           text::startsWithNoCase(ctl.name, "Text") && ctl.name[4] >= '1' && ctl.name[4] <= '5';
+}
+
+TaxForm::TaxForm(const std::string& name) : CatalogueForm(name) {}
+
+void TaxForm::onLoad() {
+    Form_Common_Init(*this);
+    if (!sizesBorder_) return;
+    if (Control* border = find("myBorder")) Form_Size_Border(*border);
+}
+
+void TaxForm::onGotFocus(Control& ctl) {
+    if (isFieldArray(ctl)) Control_Setup(ctl, false);
+}
+
+void TaxForm::onKeyPress(Control& ctl, int& KeyAscii) {
+    // Copy and paste pass unfiltered, so pasted text reaches the field as it is.
+    if (isFieldArray(ctl) && KeyAscii != keys::kCtrlC && KeyAscii != keys::kCtrlV) Key_Press(ctl, KeyAscii);
+}
+
+void TaxForm::onValidate(Control& ctl, bool& Cancel) {
+    if (isFieldArray(ctl)) Cancel = !EditCtl(ctl);
+}
+
+void TaxForm::onLostFocus(Control& ctl) {
+    if (!isFieldArray(ctl)) return;
+    ctl.backColor = kWhite;
+    ctl.foreColor = kBlack;
+}
+
+void TaxForm::onClick(Control& ctl, MouseButton) {
+    if (ctl.index != kNoIndex && text::equalsNoCase(ctl.name, "Check")) Check_Click(ctl.index);
+}
+
+void TaxForm::Check_Click(int Index) {
+    Control& clicked = at("Check", Index);
+    const CheckRules& rules = checkRulesOf(name());
+    for (const auto& [a, b] : rules.pairs) {
+        if (Index == a) return Check_TogglePair(clicked, at("Check", b));
+        if (Index == b) return Check_TogglePair(clicked, at("Check", a));
+    }
+    const auto& group = rules.exclusiveGroup;
+    if (std::find(group.begin(), group.end(), Index) != group.end()) {
+        const bool wasMarked = !clicked.caption.empty();
+        for (int member : group) at("Check", member).caption.clear();
+        if (!wasMarked) Check_Toggle(clicked);
+        return;
+    }
+    Check_Toggle(clicked);
+}
+
+}  // namespace lw

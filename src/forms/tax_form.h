@@ -1,0 +1,33 @@
+#pragma once
+// A form of the catalogue with the standard handlers that nearly every form uses: the focus look, the
+// keystroke filter, the edit on leaving, the white rest look, and the check boxes.
+
+#include <string>
+
+#include "shell/catalogue_form.h"
+
+namespace lw {
+
+class TaxForm : public CatalogueForm {
+public:
+    explicit TaxForm(const std::string& name);
+
+    void onLoad() override;
+    void onGotFocus(Control& ctl) override;
+    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onValidate(Control& ctl, bool& Cancel) override;
+    void onLostFocus(Control& ctl) override;
+    void onClick(Control& ctl, MouseButton button) override;
+
+    // The Check labels of this form answer clicks by the form's own rule.
+    void Check_Click(int Index);
+
+protected:
+    // Most forms size their border to their drawing when they load; a few keep it as drawn.
+    bool sizesBorder_ = true;
+};
+
+// The typed text arrays of the forms: Text1 to Text5.
+bool isFieldArray(const Control& ctl);
+
+}  // namespace lw

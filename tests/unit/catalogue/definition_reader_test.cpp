@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include "catalogue/definition_reader.h"
+#include "model/form.h"
+
+namespace lw {
+namespace {
+
+const char* kSample = R"LWF(# a small form
+form TF_SAMPLE "Sample (Test)" 6000 3000
+label Label1(0) 120 100 2000 200 "a Employee's number" size=7 bold
+text  Text1(0)  120 300 2000 285 tag=TIN tab=3 align=center tip="SSN here"
+text  Text1(1)  120 700 2000 855 tag=ISSUER tab=1 multi
+line  -         0 1600 6000 1600 border=2
+line  -         3000 0 3000 1600
+rect  myBorder  60 60 5880 2880
+check Check(0)  4000 300 200 200 tag="Box 7"
+text  Text1(2)  120 1800 1000 285 locked nostop hidden max=4 text="was here"
+label RTL1      3200 300 2500 900 "placeholder" wrap
+)LWF";
+
+TEST(DefinitionReader, ReadsTheFormLineAndEveryControlInOrder) {
+    FormDefinition d = readDefinition(kSample);
+    EXPECT_EQ(d.name, "TF_SAMPLE");
+    EXPECT_EQ(d.caption, "Sample (Test)");
+    EXPECT_EQ(d.width, 6000);
+    EXPECT_EQ(d.height, 3000);
+    ASSERT_EQ(d.controls.size(), 9u);
+    EXPECT_EQ(d.controls[0].control.key(), "Label1(0)");
+    EXPECT_EQ(d.controls[0].control.caption, "a Employee's number");
+    EXPECT_DOUBLE_EQ(d.controls[0].control.fontSize, 7);
+    EXPECT_TRUE(d.controls[0].control.fontBold);
+}
+
+TEST(DefinitionReader, ReadsTheProperties) {
+    FormDefinition d = readDefinition(kSample);
+    const Control& ssn = d.controls[1].control;
+    EXPECT_EQ(ssn.kind, ControlKind::TextBox);
+    EXPECT_EQ(ssn.tag, "TIN");
+    EXPECT_EQ(ssn.tabIndex, 3);
+    EXPECT_EQ(ssn.alignment, 2);
+    EXPECT_EQ(ssn.toolTipText, "SSN here");
+    EXPECT_TRUE(ssn.tabStop);
+    EXPECT_TRUE(d.controls[2].control.multiLine);
+    const Control& hidden = d.controls[7].control;
+    EXPECT_TRUE(hidden.locked);
+    EXPECT_FALSE(hidden.tabStop);
+    EXPECT_FALSE(hidden.visible);
+    EXPECT_EQ(hidden.maxLength, 4);
+    EXPECT_EQ(hidden.text, "was here");
+    EXPECT_EQ(d.controls[6].control.tag, "Box 7");
+    EXPECT_EQ(d.controls[6].control.kind, ControlKind::CheckLabel);
+}
+
+TEST(DefinitionReader, UnnamedLinesJoinOneArrayAndKeepBothEnds) {
+    FormDefinition d = readDefinition(kSample);
+    EXPECT_EQ(d.controls[3].control.key(), "Line1(0)");
+    EXPECT_EQ(d.controls[4].control.key(), "Line1(1)");
+    EXPECT_EQ(d.controls[3].control.y2, 1600);
+    EXPECT_EQ(d.controls[3].control.borderWidth, 2);
+    EXPECT_EQ(d.controls[4].control.x2, 3000);
+}
+
+TEST(DefinitionReader, RealizedControlsBelongToTheForm) {
+    Form form("TF_SAMPLE");
+    realizeDefinition(readDefinition(kSample), form);
+    EXPECT_EQ(form.caption, "Sample (Test)");
+    ASSERT_NE(form.find("text1", 1), nullptr);
+    EXPECT_EQ(form.find("Text1", 1)->form, &form);
+    EXPECT_EQ(form.controls().size(), 9u);
+}
+
+TEST(DefinitionReader, FaultsNameTheirLine) {
+    auto faultOf = [](const std::string& text) {
+        try {
+            readDefinition(text);
+        } catch (const DefinitionError& e) {
+            return std::string(e.what());
+        }
+        return std::string("no fault");
+    };
+    EXPECT_EQ(faultOf("text Text1(0) 1 2 3 4"), "line 1: the first line must be the form line");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\nbox - 1 2 3 4"), "line 2: unknown kind \"box\"");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(x) 1 2 3 4"), "line 2: bad index \"x\"");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(0) 1 2 3"), "line 2: missing height");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(0) 1 2 3 4 colour=red"), "line 2: unknown property \"colour\"");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\nlabel L 1 2 3 4 \"open"), "line 2: a quoted word is not closed");
+    EXPECT_EQ(faultOf(""), "no form line");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext T 1 2 3 4 align=middle"), "line 2: bad alignment \"middle\"");
+}
+
+}  // namespace
+}  // namespace lw

@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include "fields/control_setup.h"
+#include "model/app_error.h"
+#include "test_program.h"
+
+namespace lw {
+namespace {
+
+struct FieldSetup : ::testing::Test {
+    testing::TestProgram test;
+    Form form{"TF_SAMPLE"};
+
+    void SetUp() override {
+        test.start();
+        test.program->g.CurrentForm = &form;
+        test.program->g.FormKey = "SAMPLE";
+        form.add(ControlKind::Label, "labelMisc");
+    }
+    Control& field(const std::string& tag, int index = 0, const std::string& name = "Text1") {
+        Control& c = form.add(ControlKind::TextBox, name, index);
+        c.tag = tag;
+        c.text = "abc";
+        c.selStart = 1;
+        c.selLength = 1;
+        return c;
+    }
+    Color legend(int i) { return test.program->g.LegendColors[static_cast<std::size_t>(i)]; }
+};
+
+TEST_F(FieldSetup, TheLegendGivesTheFocusColourOfEachType) {
+    EXPECT_EQ(legend(3), 0x0000FF00u);
+    Control& money = field("MONEY");
+    Control_Setup(money, false);
+    EXPECT_EQ(money.backColor, legend(3));
+    Control& negative = field("-MONEY", 1);
+    Control_Setup(negative, false);
+    EXPECT_EQ(negative.backColor, legend(4));
+    Control& tin = field("TIN", 2);
+    Control_Setup(tin, false);
+    EXPECT_EQ(tin.backColor, legend(1));
+    Control& date = field("DATEX", 3);
+    Control_Setup(date, false);
+    EXPECT_EQ(date.backColor, legend(6));
+    EXPECT_EQ(date.maxLength, 10);
+    Control& help = field("K1HELP", 4);
+    Control_Setup(help, false);
+    EXPECT_EQ(help.backColor, legend(8));
+}
+
+TEST_F(FieldSetup, AYearFieldKeepsItsColourOnFocus) {
+    Control& year = field("YEAR");
+    year.backColor = kWhite;
+    Control_Setup(year, false);
+    EXPECT_EQ(year.backColor, kWhite);
+    EXPECT_EQ(year.maxLength, 4);
+}
+
+TEST_F(FieldSetup, AMixedCaseDateTakesTheOtherColourYetIsCentredAsADate) {
+    Control& date = field("Date");
+    Control_Setup(date, true);
+    EXPECT_EQ(date.alignment, 2);
+    Control_Setup(date, false);
+    EXPECT_EQ(date.backColor, legend(9));
+    EXPECT_EQ(date.maxLength, 10) << "the set-up, blind to case, saw a date";
+}
+
+TEST_F(FieldSetup, AnUntaggedFieldKeepsItsSelectionWhereANameBlockIsSelected) {
+    Control& plain = field("");
+    Control_Setup(plain, false);
+    EXPECT_EQ(plain.backColor, legend(9));
+    EXPECT_EQ(plain.selStart, 1);
+    EXPECT_EQ(plain.selLength, 1);
+    Control& name = field("TPNAME", 1);
+    Control_Setup(name, false);
+    EXPECT_EQ(name.backColor, legend(9));
+    EXPECT_EQ(name.selStart, 0);
+    EXPECT_EQ(name.selLength, 99);
+}
+
+TEST_F(FieldSetup, TheTextBehindAMiddleDotIsNoPartOfTheType) {
+    Control& help = field("K1HELP\xB7" "A,B,C");
+    Control_Setup(help, false);
+    EXPECT_EQ(help.backColor, legend(8));
+    Control& mixed = field("K1Help", 1);
+    Control_Setup(mixed, false);
+    EXPECT_EQ(mixed.backColor, legend(9));
+    Control_Setup(mixed, true);
+    EXPECT_EQ(mixed.alignment, 2) << "every K1 type is centred";
+}
+
+TEST_F(FieldSetup, SetUpGivesAlignmentTipAndLength) {
+    Control& money = field("SMONEY");
+    Control_Setup(money, true);
+    EXPECT_EQ(money.alignment, 1);
+    EXPECT_EQ(money.toolTipText, "Money: Dollar sign/commas optional");
+    Control& unknown = field("AMONEY", 1);
+    Control_Setup(unknown, true);
+    EXPECT_EQ(unknown.toolTipText, "U or UNK for UNKNOWN, Dollar sign/comma optional");
+    Control& year = field("TAXYEAR1099G", 2);
+    Control_Setup(year, true);
+    EXPECT_EQ(year.maxLength, 4);
+    EXPECT_EQ(year.toolTipText, "TaxYear: Leave blank if current tax year, else enter YY or YYYY");
+    Control& computed = field("COMPUTED", 3);
+    computed.alignment = 1;
+    Control_Setup(computed, true);
+    EXPECT_EQ(computed.alignment, 1) << "a computed field keeps the form's alignment";
+    EXPECT_EQ(computed.backColor, legend(7));
+    Control& box = field("CHECKBOX", 4);
+    Control_Setup(box, true);
+    EXPECT_TRUE(box.fontBold);
+    Control& phone = field("PHONE", 5);
+    phone.toolTipText = "designer's tip";
+    phone.alignment = 2;
+    Control_Setup(phone, true);
+    EXPECT_EQ(phone.alignment, 0);
+    EXPECT_EQ(phone.toolTipText, "designer's tip") << "a type without a tip keeps the designed one";
+}
+
+TEST_F(FieldSetup, OtherFieldsAreCentredOnTheCards) {
+    test.program->g.FormKey = "SS_ITIN";
+    Control& name = field("TPNAME");
+    Control_Setup(name, true);
+    EXPECT_EQ(name.alignment, 2);
+}
+
+TEST_F(FieldSetup, TheMonthlyAmountsOfThe1095AAloneNameTheF12Copy) {
+    test.program->g.FormTitle = "tf_1095a";
+    const std::string hint =
+        "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+    for (int index : {37, 38, 76, 77}) {
+        Control& money = field("MONEY", index);
+        money.toolTipText = "as designed";
+        Control_Setup(money, true);
+        EXPECT_EQ(money.toolTipText, index == 38 || index == 76 ? hint : "as designed") << index;
+    }
+}
+
+TEST_F(FieldSetup, TakingTheFocusPutsTheTipOnTheStatusLineAndNotesTheField) {
+    Control& money = field("MONEY", 12);
+    money.toolTipText = "Box 3";
+    Control_Setup(money, false);
+    EXPECT_EQ(form.at("labelMisc").caption, "Box 3");
+    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12");
+    Control& rate = field("SSMC", kNoIndex, "txtSSRate");
+    Control_Setup(rate, false);
+    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12") << "only the Text arrays are noted";
+}
+
+TEST_F(FieldSetup, AFieldOutOfScopeNeverTakesTheFocus) {
+    Control& outside = field("OUT OF SCOPE");
+    Control_Setup(outside, true);
+    EXPECT_EQ(outside.backColor, kOutOfScopeColor);
+    EXPECT_EQ(outside.alignment, 2);
+    EXPECT_FALSE(outside.canTakeFocus());
+    EXPECT_THROW(Control_SetupBackColor(outside), AppError);
+}
+
+}  // namespace
+}  // namespace lw

@@ -1,0 +1,79 @@
+#pragma once
+// A program for unit tests: ports that answer boxes from a queue, a fixed clock, a temporary root with
+// the shipped INF files, and the frame with its legend.
+
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/ports.h"
+#include "model/program.h"
+
+namespace lw::testing {
+
+class TestUi : public UiPort {
+public:
+    void runModal(Form& form) override;
+    void copyPictureToClipboard(Form& form) override { pictures.push_back(form.name()); }
+    std::string clipboardText() override { return clipboard; }
+    void setClipboardText(const std::string& text) override { clipboard = text; }
+    bool openDocument(const std::string& path) override {
+        opened.push_back(path);
+        return true;
+    }
+    void quit() override;
+
+    std::deque<std::string> answers;  // captions, taken by the boxes in turn; the default button otherwise
+    std::vector<std::string> boxes;   // the text of every box shown
+    std::vector<std::string> reports;  // module and description of every error report
+    std::vector<std::string> pictures;
+    std::vector<std::string> opened;
+    std::string clipboard;
+    bool ended = false;
+};
+
+class TestPlatform : public PlatformPort {
+public:
+    DateTime now() override { return today; }
+    std::optional<std::string> environment(const std::string& name) override;
+    std::string executableName() override { return exeName; }
+    std::string executableFolder() override { return appFolder; }
+    std::string commandLine() override { return args; }
+    std::string rootFolder() override { return root; }
+    bool earlierInstanceRunning() override { return false; }
+    void activateEarlierInstance(const std::string&) override {}
+    void sleep(int) override {}
+    std::vector<std::string> printers() override { return printerNames; }
+    int screenWidthTwips() override { return 1920 * 15; }
+
+    DateTime today{2025, 6, 10, 9, 0, 0};
+    std::string user = "TESTER";
+    std::string exeName = "Ledgerwick_Venturo";
+    std::string appFolder;
+    std::string args;
+    std::string root;
+    std::vector<std::string> printerNames;
+};
+
+// A started program: the frame is loaded (with whatever forms are registered), in a fresh root.
+class TestProgram {
+public:
+    TestProgram();
+    ~TestProgram();
+
+    // Starts the frame; call after setting the clock, the user or the printers.
+    void start();
+    Form& frame();
+
+    TestUi ui;
+    TestPlatform platform;
+    std::unique_ptr<Program> program;
+    std::filesystem::path root;
+};
+
+// The folder of the shipped data files of the source tree.
+std::string shippedDataFolder();
+
+}  // namespace lw::testing
