@@ -130,7 +130,9 @@ F1_Configure::F1_Configure()
     place(Frame4, kMargin, 5835, kInnerWidth, 2265);
     const char* mcCaptions[] = {
         "Withholding Rate on Wages up to <<INITRATE>>",
-        "Wages at Which Medicare Withholding Rate Changes:", "Withholding Rate on Wages over <<WAGE>>:", ""};
+        "Wages at Which Medicare Withholding Rate Changes:", "Withholding Rate on Wages over <<WAGE>>:",
+        // Until a filing status is clicked, the premium line says what the figure is.
+        "Annual Medicare Part B Premiums"};
     for (int i = 0; i < 4; ++i) {
         Control& c = add(ControlKind::Label, "lblMC", i);
         label(c, mcCaptions[i], kCaptionLeft, 6135 + i * kRowStep, kCaptionWidth, i == 3 ? 660 : kLineHeight);

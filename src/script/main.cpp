@@ -1,6 +1,9 @@
 // ledgerwick-script: runs the program with no window on the screen and plays an operator from a script.
 #include <QApplication>
 #include <QFileInfo>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <fstream>
 #include <iostream>
 
@@ -13,7 +16,12 @@ int main(int argc, char** argv) {
     }
     // Pictures for the clipboard are drawn off-screen; no display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/tmp");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        // Qt wants a private runtime folder; a script run on a bare machine gets one of its own.
+        std::string runtime = "/tmp/ledgerwick-runtime-" + std::to_string(getuid());
+        mkdir(runtime.c_str(), 0700);
+        qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
+    }
     QApplication app(argc, argv);
     std::string folder = QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString();
     lw::script::ScriptRunner runner(std::cout, folder);

@@ -12,6 +12,7 @@
 #include "script/script_platform.h"
 #include "script/script_ui.h"
 #include "text/words.h"
+#include "ui/clipboard_picture.h"
 #include "forms/register_forms.h"
 #include "shell/form_registry.h"
 #include "shell/frame_form.h"
@@ -228,7 +229,8 @@ void ScriptRunner::execute(const std::vector<std::string>& words) {
     if (command == "write" || command == "remove" || command == "mkdir") return prepareFile(words);
     if (!started_) start();
     if (command == "expect") return check(words);
-    if (command == "show" || command == "dump" || command == "save-clipboard" || command == "print-to")
+    if (command == "show" || command == "dump" || command == "save-clipboard" || command == "print-to" ||
+        command == "snapshot")
         return showValue(words);
     act(words);
 }
@@ -647,6 +649,14 @@ void ScriptRunner::showValue(const std::vector<std::string>& words) {
         return;
     }
     requireRunning(command);
+    if (command == "snapshot") {
+        need(words, 2, "snapshot PATH [ZOOM]");
+        double zoom = words.size() > 2 ? std::atof(words[2].c_str()) : 1.0;
+        if (zoom <= 0 || zoom > 8) throw ScriptError("the zoom must lie between 0 and 8");
+        QImage picture = ui::renderForm(inputForm(), zoom);
+        if (!picture.save(QString::fromStdString(path(words[1])), "PNG")) throw ScriptError("cannot write " + words[1]);
+        return;
+    }
     if (command == "dump") {
         Form& form = inputForm();
         out_ << "form " << form.name() << " \"" << utf8(form.caption) << "\"\n";

@@ -9,15 +9,18 @@
 
 namespace lw::ui {
 
-QImage renderForm(const Form& form) {
-    QImage image(formSize(form, kScreenScale), QImage::Format_RGB32);
+QImage renderForm(const Form& form) { return renderForm(form, 1.0); }
+
+QImage renderForm(const Form& form, double zoom) {
+    const double scale = kScreenScale * zoom;
+    QImage image(formSize(form, scale), QImage::Format_RGB32);
     // 96 dots to the inch, so that a document the picture is pasted into gives it the form's true size.
-    constexpr int kDotsPerMeter = 3780;
-    image.setDotsPerMeterX(kDotsPerMeter);
-    image.setDotsPerMeterY(kDotsPerMeter);
+    const int dotsPerMeter = static_cast<int>(3780 * zoom);
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
     image.fill(toQColor(form.backColor));
     QPainter painter(&image);
-    FormPainter(kScreenScale).paintForm(painter, form);
+    FormPainter(scale).paintForm(painter, form);
     painter.end();
     return image;
 }

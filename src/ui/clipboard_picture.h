@@ -9,6 +9,8 @@ namespace lw::ui {
 
 // Needs a QGuiApplication (the offscreen platform will do) for its fonts.
 QImage renderForm(const Form& form);
+// The same picture at a zoom: 2 draws it as a screen of twice the density would show it.
+QImage renderForm(const Form& form, double zoom);
 // Puts renderForm's picture on the system clipboard.
 void copyFormPicture(const Form& form);
 
