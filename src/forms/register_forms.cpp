@@ -28,6 +28,8 @@ void wireConfigureCommands() {
 void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
+    // Forms with handlers of their own.
+
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {
         const std::string name = entry.form;
