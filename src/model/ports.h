@@ -12,6 +12,16 @@ namespace lw {
 
 class Form;
 
+// What the open and save dialogs are asked: the title, where they start, the one filter, a proposed name.
+struct FileDialogRequest {
+    bool save = false;
+    std::string title;
+    std::string startFolder;   // empty: the dialog's own default
+    std::string proposedName;  // save mode: the file name offered
+    std::string filterDescription;
+    std::string filterPattern;
+};
+
 class UiPort {
 public:
     virtual ~UiPort() = default;
@@ -26,6 +36,11 @@ public:
     virtual void copyPictureToClipboard(Form& form) = 0;
     virtual std::string clipboardText() = 0;
     virtual void setClipboardText(const std::string& text) = 0;
+    // Asks for a path; nothing when the operator cancels. The open dialog lets the operator delete a file.
+    virtual std::optional<std::string> fileDialog(const FileDialogRequest& request) {
+        (void)request;
+        return std::nullopt;
+    }
     // Opens a document with the desktop's default program; false when that fails.
     virtual bool openDocument(const std::string& path) = 0;
     // Ends the program at once.

@@ -37,6 +37,7 @@ Control* visibleButton(Form& form, const std::string& caption) {
 void ScriptUi::runModal(Form& form) {
     if (text::equalsNoCase(form.name(), "F9_MBX")) return answerMessageBox(form);
     if (text::equalsNoCase(form.name(), "F8_ErrLog")) return answerErrorReport(form);
+    if (text::equalsNoCase(form.name(), "F7_Save")) return answerSaveForm(form);
     *session_.out << "form " << form.name() << " closed: the script has no answers for it\n";
 }
 
@@ -106,10 +107,40 @@ void ScriptUi::answerErrorReport(Form& report) {
     if (report.isLoaded()) pressButton(report, "Exit", answer->line);
 }
 
+// The form for a file that exists: keep the name (or type a new one), take the next number, or leave.
+void ScriptUi::answerSaveForm(Form& save) {
+    auto answer = session_.takeAnswer("filesave");
+    std::string choice = answer && !answer->words.empty() ? answer->words[0] : "exit";
+    Control* name = save.find("Text1");
+    *session_.out << "file exists form for \"" << forOutput(name ? name->text : "") << "\" -> " << choice;
+    if (answer && answer->words.size() > 1) *session_.out << " \"" << forOutput(answer->words[1]) << "\"";
+    *session_.out << "\n";
+    const char* button = choice == "save" ? "cmdSave" : choice == "sequence" ? "cmdNewSequence" : "cmdExit";
+    if (choice == "save" && answer->words.size() > 1 && name) {
+        program().desktop.click(*name);
+        name->selStart = 0;
+        name->selLength = static_cast<int>(name->text.size());
+        for (char c : answer->words[1]) program().desktop.typeCharacter(c);
+    }
+    if (Control* pressed = save.find(button)) program().desktop.click(*pressed);
+}
+
 void ScriptUi::copyPictureToClipboard(Form& form) {
     session_.clipboardPicture = ui::renderForm(form);
     *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width() << "x"
                   << session_.clipboardPicture->height() << "\n";
+}
+
+std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request) {
+    auto answer = session_.takeAnswer("file");
+    const bool cancel = !answer || answer->words.empty() || answer->words[0] == "cancel";
+    session_.lastDialog = text::cp1252ToUtf8(request.title) + " | " + text::cp1252ToUtf8(request.proposedName);
+    *session_.out << (request.save ? "save" : "open") << " dialog \"" << forOutput(request.title) << "\"";
+    if (!request.proposedName.empty()) *session_.out << " proposing \"" << forOutput(request.proposedName) << "\"";
+    if (!request.startFolder.empty()) *session_.out << " in " << forOutput(request.startFolder);
+    *session_.out << " -> " << (cancel ? "cancel" : forOutput(answer->words[0])) << "\n";
+    if (cancel) return std::nullopt;
+    return answer->words[0];
 }
 
 bool ScriptUi::openDocument(const std::string& path) {

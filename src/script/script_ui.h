@@ -15,12 +15,14 @@ public:
     std::string clipboardText() override { return session_.clipboardText; }
     void setClipboardText(const std::string& text) override { session_.clipboardText = text; }
     bool openDocument(const std::string& path) override;
+    std::optional<std::string> fileDialog(const FileDialogRequest& request) override;
     void quit() override;
     void inputRefused(const std::string& why) override;
 
 private:
     void answerMessageBox(Form& box);
     void answerErrorReport(Form& report);
+    void answerSaveForm(Form& save);
     void pressButton(Form& form, const std::string& caption, int line);
 
     Session& session_;

@@ -1,5 +1,9 @@
 #include "ui/qt_ui_port.h"
 
+#include <QFileDialog>
+
+#include "text/cp1252.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
@@ -98,6 +102,29 @@ void QtUiPort::inputRefused(const std::string& why) {
 
 bool QtUiPort::printForm(Form& form, const std::string& printerName) {
     return ui::printForm(form, printerName);
+}
+
+}  // namespace lw::ui
+
+namespace lw::ui {
+
+// Qt's own dialog (not the desktop's), whose file list deletes the selected file with the Delete key
+// after asking, as the open dialog's title promises.
+std::optional<std::string> QtUiPort::fileDialog(const FileDialogRequest& request) {
+    QFileDialog dialog(frame_, toQString(request.title), toQString(request.startFolder));
+    dialog.setOption(QFileDialog::DontUseNativeDialog, true);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+    dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilter(toQString(request.filterDescription));
+    if (request.save) dialog.selectFile(toQString(request.proposedName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    auto path = text::utf8ToCp1252(dialog.selectedFiles().first().toStdString());
+    if (!path) {
+        inputRefused("The chosen path holds characters that the program cannot keep.");
+        return std::nullopt;
+    }
+    return path;
 }
 
 }  // namespace lw::ui

@@ -28,6 +28,7 @@ public:
     std::string clipboardText() override;
     void setClipboardText(const std::string& text) override;
     bool openDocument(const std::string& path) override;
+    std::optional<std::string> fileDialog(const FileDialogRequest& request) override;
     // Ends Qt's loops, nested ones too, and throws ProgramEnded through the model to the driver.
     void quit() override;
     void inputRefused(const std::string& why) override;
