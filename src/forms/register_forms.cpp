@@ -6,6 +6,8 @@
 #include "config/rates.h"
 #include "model/program.h"
 #include "shell/frame_command_hooks.h"
+#include "forms/form_1099b.h"
+#include "forms/form_1099g.h"
 #include "forms/tax_form.h"
 #include "shell/form_registry.h"
 
@@ -29,6 +31,8 @@ void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
     // Forms with handlers of their own.
+    register1099BForm();
+    register1099GForm();
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {
