@@ -4,6 +4,7 @@
 #include "catalogue/definitions.h"
 #include "config/configure_form.h"
 #include "config/rates.h"
+#include "documents/record.h"
 #include "model/program.h"
 #include "shell/frame_command_hooks.h"
 #include "forms/form_1099b.h"
@@ -30,6 +31,7 @@ void wireConfigureCommands() {
 void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
+    frameCommandHooks().openFile = [] { Open_File(); };
     // Forms with handlers of their own.
     register1099BForm();
     register1099GForm();

@@ -5,6 +5,7 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,17 @@ public:
         return true;
     }
     void quit() override;
+    // The next queued answer of the file dialogs: a path, or nothing for Cancel; Cancel when none is queued.
+    std::optional<std::string> fileDialog(const FileDialogRequest& request) override {
+        fileDialogs.push_back(request);
+        if (fileAnswers.empty()) return std::nullopt;
+        std::optional<std::string> answer = fileAnswers.front();
+        fileAnswers.pop_front();
+        return answer;
+    }
 
+    std::deque<std::optional<std::string>> fileAnswers;
+    std::vector<FileDialogRequest> fileDialogs;  // every open or save dialog asked for, in turn
     std::deque<std::string> answers;  // captions, taken by the boxes in turn; the default button otherwise
     std::vector<std::string> boxes;   // the text of every box shown
     std::vector<std::string> reports;  // module and description of every error report

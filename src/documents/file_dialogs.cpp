@@ -1,0 +1,66 @@
+// The open and save dialogs: their titles, the edition's one filter, where they start, and the two
+// folders they remember apart.
+#include "documents/file_dialogs.h"
+
+#include "diagnostics/error_tail.h"
+#include "model/program.h"
+#include "shell/startup.h"
+#include "store/inf_store.h"
+#include "text/cp1252.h"
+
+namespace lw {
+
+namespace {
+
+constexpr const char* kLabel = "M8_CommonDialogReplacement:OpenOrSaveFile";
+constexpr const char* kOpenTitle = "Select File, Press OPEN button -OR - Press Delete Key to DELETE the File";
+constexpr const char* kSaveTitle =
+    "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
+// The name buffer holds 257 characters, the last of which ends the string.
+constexpr std::size_t kOfferedName = 256;
+
+std::string beforeNul(const std::string& text) { return text.substr(0, text.find('\0')); }
+
+// The filter is kept as description, NUL, pattern, NUL.
+void putFilter(const std::string& filter, FileDialogRequest& request) {
+    const std::size_t end = filter.find('\0');
+    request.filterDescription = filter.substr(0, end);
+    if (end == std::string::npos) return;
+    request.filterPattern = beforeNul(filter.substr(end + 1));
+}
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? std::string() : path.substr(0, slash);
+}
+
+}  // namespace
+
+std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
+    return runGuardedOr<std::string>(kLabel, "", [&] {
+        Globals& g = program().g;
+        const bool save = SaveMode != 0;
+        const std::string key = save ? "LastSaveFolder" : "LastOpenFolder";
+        std::string startFolder = readUserInf(key);
+        if (startFolder.empty()) startFolder = store::ReadINF("TaxForms", "Folder", "", g.UserInfFile);
+
+        FileDialogRequest request;
+        request.save = save;
+        request.title = save ? kSaveTitle : kOpenTitle;
+        request.startFolder = startFolder;
+        if (save) request.proposedName = beforeNul(FileName).substr(0, kOfferedName);
+        putFilter(g.FileFilter, request);
+
+        std::optional<std::string> answer = program().ui.fileDialog(request);
+        if (!answer) return std::string(1, text::kFieldSeparator);
+        const std::string path = beforeNul(*answer);
+        const std::string folder = folderOf(path);
+        if (folder != startFolder) {
+            writeUserInf(key, folder);
+            (save ? g.LastSaveFolder : g.LastOpenFolder) = folder;
+        }
+        return path;
+    });
+}
+
+}  // namespace lw

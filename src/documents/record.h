@@ -1,0 +1,27 @@
+#pragma once
+// The one-line data file of a form: building it from the form on the screen, and reading it back.
+
+#include <string>
+
+namespace lw {
+
+// The line for CurrentForm, without its line end; "Error SS_ITIN" when the cards do not pair up.
+std::string Build_Record();
+// Reads CurrentFileName into the form its first field names; returns FormTitle.
+std::string Read_File();
+// The Open command: unloads the form on the screen, asks for a file, reads it.
+void Open_File();
+// Passes every DATE and DATEX field of CurrentForm through the date edit, in control order; the
+// first that fails ends the pass.
+void Form_Recheck_Dates();
+
+// A form that keeps the numbers of chosen pictures (the driver's license: 1 to 16, 0 for none). The
+// record stores them as PIC1 and PIC2 and gives them back on reading.
+class ChosenPictures {
+public:
+    virtual ~ChosenPictures() = default;
+    // which is 1 (the left license) or 2 (the right one).
+    virtual int& chosenPicture(int which) = 0;
+};
+
+}  // namespace lw

@@ -1,0 +1,226 @@
+// Reading a data file back into the form that its first field names.
+#include <filesystem>
+#include <string_view>
+
+#include "catalogue/form_info.h"
+#include "diagnostics/error_tail.h"
+#include "documents/record.h"
+#include "fields/edit_date.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "shell/form_lifecycle.h"
+#include "shell/paths.h"
+#include "shell/startup.h"
+#include "store/atomic_file.h"
+#include "store/file_bytes.h"
+#include "store/record_line.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+
+namespace lw {
+
+namespace {
+
+constexpr const char* kReadLabel = "M4_FileCode:Read_File";
+constexpr int kNotARecord = 850;
+constexpr int kNoSuchForm = 851;
+constexpr int kFileAccessError = 75;
+// A data file is one line of a few kilobytes; anything this large is something else.
+constexpr std::uintmax_t kLargestRecordFile = 1024 * 1024;
+constexpr Color kYellow = 65535;
+
+Globals& g() { return program().g; }
+
+[[noreturn]] void refuse(const std::string& path, const std::string& why) {
+    throw AppError(kNotARecord, "The file " + path + " is not a form file: " + why + " Nothing was opened.",
+                   kReadLabel);
+}
+
+// Typed text holds no control code below the blank but the tab; a line break is stored as its own mark.
+bool holdsControlBytes(std::string_view line) {
+    for (char c : line) {
+        const auto b = static_cast<unsigned char>(c);
+        if (b < 0x20 && b != '\t') return true;
+    }
+    return false;
+}
+
+// The first line of a data file; a file that cannot be one is refused before anything changes.
+std::string readRecordLine(const std::string& path) {
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(path, ec))
+        throw AppError(err::kFileNotFound, "File not found: " + path, kReadLabel);
+    const std::uintmax_t size = std::filesystem::file_size(path, ec);
+    if (!ec && size > kLargestRecordFile) refuse(path, "it is larger than 1 MB.");
+    std::string bytes;
+    if (!store::readFileBytes(path, bytes))
+        throw AppError(kFileAccessError, "Path/File access error: " + path + " cannot be read", kReadLabel);
+    if (bytes.size() > kLargestRecordFile) refuse(path, "it is larger than 1 MB.");
+    if (bytes.empty()) refuse(path, "it is empty.");
+    std::string_view line = store::firstRecordLine(bytes);
+    if (bytes.find('\0') != std::string::npos || holdsControlBytes(line))
+        refuse(path, "it holds binary data.");
+    if (line.find(text::kFieldSeparator) == std::string_view::npos)
+        refuse(path, std::string("its first line has no field separator (") + text::kFieldSeparator + ").");
+    return std::string(line);
+}
+
+// The line of an older release, brought up to date on disk so that the next open reads it as it is.
+void rewriteRecordFile(const std::string& path, const std::string& line) {
+    std::string error;
+    if (!store::writeFileAtomically(path, line + "\r\n", error))
+        throw AppError(kFileAccessError, "Path/File access error: " + error, kReadLabel);
+}
+
+void unloadEveryFormButTheFrame() {
+    Desktop& desktop = program().desktop;
+    for (Form* open : desktop.forms()) {
+        if (open != desktop.frame() && open->isLoaded()) desktop.unload(*open);
+    }
+}
+
+Form& openFormOf(const std::string& field0, const std::string& path) {
+    const std::string formName = GetFormInfo(store::catalogueKeyOf(field0), "FormName");
+    unloadEveryFormButTheFrame();
+    if (formName.empty())
+        throw AppError(kNoSuchForm,
+                       "The file " + path + " is for \"" + field0 + "\", a form this program does not know.",
+                       kReadLabel);
+    Form* form = Form_Open(formName);
+    if (!form)
+        throw AppError(kNoSuchForm, "The form " + formName + " of the file " + path + " cannot be opened.",
+                       kReadLabel);
+    g().CurrentForm = form;
+    return *form;
+}
+
+void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
+    const std::optional<int> number = store::classicInteger(value);
+    if (!number) return;
+    form.at(pictureBox).picture =
+        *number > 0 ? joinPath(g().PicturesFolder, "P" + std::to_string(*number) + "GS.jpg") : std::string();
+    if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = *number;
+}
+
+void setField(Form& form, const std::string& field0, const store::RecordField& field) {
+    const std::optional<int> index = store::recordKeyIndex(field.key);
+    if (!index) return;
+    const store::KeyTarget where = store::recordKeyTarget(field.key);
+    const bool otherTextArray = where.target == store::RecordTarget::TextArray && where.array > 1;
+    // The benefit statement puts every key but Text2..Text9 into Text1, and shows a negative
+    // amount of its three amount boxes in red.
+    if (field0 == "SSA" && !otherTextArray) {
+        Control& ctl = form.at("Text1", *index);
+        ctl.text = field.value;
+        if ((*index == 4 || *index == 5 || *index == 8) && !field.value.empty() && field.value[0] == '-')
+            ctl.foreColor = kRed;
+        return;
+    }
+    switch (where.target) {
+        case store::RecordTarget::TextArray:
+            form.at("Text" + std::to_string(where.array), *index).text = field.value;
+            break;
+        case store::RecordTarget::Check:
+            form.at("Check", *index).caption = field.value;
+            break;
+        case store::RecordTarget::Picture1:
+            showPicture(form, "Picture2", 1, field.value);
+            break;
+        case store::RecordTarget::Picture2:
+            showPicture(form, "Picture4", 2, field.value);
+            break;
+        case store::RecordTarget::Other:
+            break;
+    }
+}
+
+// One key field of the line. A field without "=" is a fault for the caller; any fault of the field's
+// own value is ignored and loses that field only.
+void readField(Form& form, const std::string& field0, const std::string& text) {
+    std::optional<store::RecordField> field = store::parseRecordField(text);
+    if (!field) throw AppError(err::kSubscriptOutOfRange, "Subscript out of range");
+    try {
+        setField(form, field0, *field);
+    } catch (const ProgramEnded&) {
+        throw;
+    } catch (...) {
+    }
+}
+
+// The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
+void refreshTaxpayerStore(Form& sheet) {
+    auto text = [&](int index) { return sheet.at("Text1", index).text; };
+    writeUserInf("TP1NameAddr", store::recordValue(text(0)));
+    writeUserInf("TP1DOB", text(2));
+    writeUserInf("TP1SSN", text(1));
+    writeUserInf("TP2NameAddr", store::recordValue(text(3)));
+    writeUserInf("TP2DOB", text(5));
+    writeUserInf("TP2SSN", text(4));
+}
+
+// Each card with a number shows the card of its kind: an ITIN starts with 9.
+void showCardPictures(Form& cards) {
+    for (const auto& owned : cards.controls()) {
+        const Control& c = *owned;
+        if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
+        cards.at("Image1", c.index / 2).picture =
+            joinPath(g().PicturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+    }
+}
+
+}  // namespace
+
+void Form_Recheck_Dates() {
+    Form* form = g().CurrentForm;
+    if (!form) return;
+    for (const auto& owned : form->controls()) {
+        Control& c = *owned;
+        if (!c.isTextBox()) continue;
+        bool stands = true;
+        if (c.tag == "DATE") {
+            stands = EditCtl_Date(c, "");
+        } else if (c.tag == "DATEX") {
+            stands = EditCtl_Date(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+        }
+        if (!stands) return;
+    }
+}
+
+std::string Read_File() {
+    Form* form = nullptr;
+    std::vector<std::string> fields;
+    // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
+    runGuarded(kReadLabel, [&] {
+        const std::string path = g().CurrentFileName;
+        if (path.empty()) return;
+        std::string line = store::withCheckKeys(readRecordLine(path));
+        for (int pass = 0; pass < 2; ++pass) {
+            std::optional<std::string> newer = store::rewrittenCardLine(line);
+            if (!newer) newer = store::rewrittenMiscLine(line);
+            if (!newer) break;
+            rewriteRecordFile(path, *newer);
+            line = store::withCheckKeys(readRecordLine(path));
+        }
+        fields = store::splitRecordLine(line);
+        Form& opened = openFormOf(fields[0], path);
+        if (Control* status = opened.find("labelMisc")) {
+            status->foreColor = kRed;
+            status->caption = path;
+        }
+        if (opened.name() == "F5_TPInfo") {
+            if (Control* label = opened.find("Label1")) label->backColor = kYellow;
+            program().ui.refresh();
+        }
+        if (fields.size() > 2) readField(opened, fields[0], fields[2]);
+        form = &opened;
+    });
+    if (!form) return "";
+    // From the second key field on, a fault reaches the caller's handler.
+    for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
+    Form_Recheck_Dates();
+    if (form->name() == "F5_TPInfo") refreshTaxpayerStore(*form);
+    if (form->name() == "F2_SS_ITIN") showCardPictures(*form);
+    return g().FormTitle;
+}
+
+}  // namespace lw

@@ -1,0 +1,116 @@
+#include "documents/file_dialogs.h"
+
+#include "documents_fixture.h"
+#include "shell/frame_command_hooks.h"
+
+namespace lw::testing {
+namespace {
+
+using FileDialogs = Documents;
+
+constexpr const char* kOpenTitle = "Select File, Press OPEN button -OR - Press Delete Key to DELETE the File";
+constexpr const char* kSaveTitle =
+    "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
+
+TEST_F(FileDialogs, CancelGivesTheSeparator) {
+    EXPECT_EQ(OpenOrSaveFile(0, ""), D);
+    EXPECT_EQ(OpenOrSaveFile(1, "A.venturo"), D);
+}
+
+TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
+    store::SaveINF("TESTER", "LastOpenFolder", files.string(), g.UserInfFile);
+    OpenOrSaveFile(0, "ignored.venturo");
+    ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
+    const FileDialogRequest& asked = test.ui.fileDialogs[0];
+    EXPECT_FALSE(asked.save);
+    EXPECT_EQ(asked.title, kOpenTitle);
+    EXPECT_EQ(asked.startFolder, files.string());
+    EXPECT_EQ(asked.proposedName, "") << "the open dialog starts blank";
+    EXPECT_EQ(asked.filterDescription, "Venturo Form Files (*.venturo)");
+    EXPECT_EQ(asked.filterPattern, "*.venturo");
+}
+
+TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
+    store::SaveINF("TESTER", "LastSaveFolder", "/somewhere/saved", g.UserInfFile);
+    OpenOrSaveFile(1, "DOE,JOHN_W2_000.venturo");
+    ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
+    const FileDialogRequest& asked = test.ui.fileDialogs[0];
+    EXPECT_TRUE(asked.save);
+    EXPECT_EQ(asked.title, kSaveTitle);
+    EXPECT_EQ(asked.startFolder, "/somewhere/saved");
+    EXPECT_EQ(asked.proposedName, "DOE,JOHN_W2_000.venturo");
+}
+
+TEST_F(FileDialogs, ANameLongerThanTheBufferIsNotOfferedWhole) {
+    const std::string longName = std::string(300, 'N') + ".venturo";
+    OpenOrSaveFile(1, longName);
+    ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
+    EXPECT_EQ(test.ui.fileDialogs[0].proposedName, std::string(256, 'N'));
+}
+
+TEST_F(FileDialogs, AnEmptyFolderFallsBackToTheTaxFormsFolderThenToTheDialogsOwn) {
+    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
+    OpenOrSaveFile(0, "");
+    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
+    OpenOrSaveFile(0, "");
+    ASSERT_EQ(test.ui.fileDialogs.size(), 2u);
+    EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "") << "the dialog's own default";
+    EXPECT_EQ(test.ui.fileDialogs[1].startFolder, "/training/forms");
+}
+
+TEST_F(FileDialogs, ASaveInANewFolderMovesOnlyTheSaveFolder) {
+    store::SaveINF("TESTER", "LastOpenFolder", "/open/here", g.UserInfFile);
+    store::SaveINF("TESTER", "LastSaveFolder", "/save/here", g.UserInfFile);
+    test.ui.fileAnswers.push_back("/new/place/DOE_W2_000.venturo");
+    EXPECT_EQ(OpenOrSaveFile(1, "DOE_W2_000.venturo"), "/new/place/DOE_W2_000.venturo");
+    EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
+    EXPECT_EQ(g.LastSaveFolder, "/new/place");
+    EXPECT_EQ(userInf("LastOpenFolder"), "/open/here");
+
+    test.ui.fileAnswers.push_back("/elsewhere/x.venturo");
+    OpenOrSaveFile(0, "");
+    EXPECT_EQ(userInf("LastOpenFolder"), "/elsewhere");
+    EXPECT_EQ(g.LastOpenFolder, "/elsewhere");
+    EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
+}
+
+TEST_F(FileDialogs, TheSameFolderAsTheStartIsNotWritten) {
+    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
+    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
+    test.ui.fileAnswers.push_back("/training/forms/a.venturo");
+    EXPECT_EQ(OpenOrSaveFile(0, ""), "/training/forms/a.venturo");
+    EXPECT_EQ(userInf("LastOpenFolder"), "") << "the folder equals the start folder of the fall-back";
+}
+
+TEST_F(FileDialogs, TheAnswerIsCutAtItsFirstNul) {
+    test.ui.fileAnswers.push_back(std::string("/cut/here.venturo\0rest", 22));
+    EXPECT_EQ(OpenOrSaveFile(0, ""), "/cut/here.venturo");
+}
+
+TEST_F(FileDialogs, AFolderThatHasGoneIsForgottenBeforeTheOpenDialog) {
+    store::SaveINF("TESTER", "LastOpenFolder", (test.root / "vanished").string(), g.UserInfFile);
+    Open_File();
+    ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
+    EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "");
+    EXPECT_EQ(userInf("LastOpenFolder"), "");
+}
+
+TEST_F(FileDialogs, TheFrameOffersOpenOnceTheCommandIsThere) {
+    EXPECT_TRUE(static_cast<bool>(frameCommandHooks().openFile));
+    EXPECT_TRUE(test.frame().at("cmdBtn", 0).enabled);
+    const MenuItem* item = test.frame().findMenu("mnuControlOpen");
+    ASSERT_NE(item, nullptr);
+    EXPECT_TRUE(item->enabled);
+}
+
+TEST_F(FileDialogs, TheOpenButtonOpensAFile) {
+    const std::string path = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=FROM THE BUTTON\r\n");
+    test.ui.fileAnswers.push_back(path);
+    test.program->desktop.click(test.frame().at("cmdBtn", 0));
+    ASSERT_NE(active(), nullptr);
+    EXPECT_EQ(field("Text1", 0).text, "FROM THE BUTTON");
+    EXPECT_EQ(userInf("LastOpenFolder"), files.string());
+}
+
+}  // namespace
+}  // namespace lw::testing
