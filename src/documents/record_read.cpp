@@ -138,7 +138,9 @@ void setField(Form& form, const std::string& field0, const store::RecordField& f
 // own value is ignored and loses that field only.
 void readField(Form& form, const std::string& field0, const std::string& text) {
     std::optional<store::RecordField> field = store::parseRecordField(text);
-    if (!field) throw AppError(err::kSubscriptOutOfRange, "Subscript out of range");
+    if (!field)
+        throw AppError(err::kSubscriptOutOfRange, "Subscript out of range: the field \"" +
+                                                      text.substr(0, 40) + "\" of the file has no \"=\"");
     try {
         setField(form, field0, *field);
     } catch (const ProgramEnded&) {
