@@ -10,6 +10,7 @@
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
 #include "forms/tax_form.h"
+#include "forms/w2_form.h"
 #include "shell/form_registry.h"
 
 namespace lw {
@@ -33,6 +34,7 @@ void registerAllForms() {
     wireConfigureCommands();
     frameCommandHooks().openFile = [] { Open_File(); };
     // Forms with handlers of their own.
+    registerW2Form();
     register1099BForm();
     register1099GForm();
 

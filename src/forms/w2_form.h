@@ -1,0 +1,30 @@
+// TF_W2, the Wage and Tax Statement: box 4 follows box 3 and box 6 follows box 5, worked out with the
+// Social Security and Medicare figures of the tax year in force; box 9 is there for tax year 2018 only.
+#pragma once
+
+#include "forms/tax_form.h"
+
+namespace lw {
+
+class TF_W2 : public TaxForm {
+public:
+    TF_W2();
+
+    void onLoad() override;
+    // EditCtl first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
+    void onValidate(Control& ctl, bool& Cancel) override;
+    // The verification-code rule of box 9.
+    void onActivate() override;
+    // A change of the tax year applies the rule of box 9 again; the boxes filled stay as they are.
+    void afterYearChange() override;
+
+    // Social security tax withheld (box 4) from Social security wages (box 3).
+    void SocialSecurity_Compute();
+    // Medicare tax withheld (box 6) from Medicare wages and tips (box 5).
+    void Medicare_Compute();
+};
+
+// Makes TF_W2 known by name, in place of the standard tax form.
+void registerW2Form();
+
+}  // namespace lw
