@@ -48,14 +48,14 @@ void Desktop::destroyUnloaded() {
     if (depth_ == 0 && modalDepth_ == 0) unloaded_.clear();
 }
 
-Form& Desktop::load(std::unique_ptr<Form> owned) {
+Form& Desktop::load(std::unique_ptr<Form> owned, bool activateChild) {
     Form& form = *owned;
     form.desktop_ = this;
     forms_.push_back(std::move(owned));
     dispatch([&] { form.onLoad(); });
     if (form.isLoaded()) {
         ui_.formLoaded(form);
-        if (form.isChild) activate(form);
+        if (form.isChild && activateChild) activate(form);
     }
     return form;
 }
@@ -89,15 +89,8 @@ void Desktop::unload(Form& form) {
     unloaded_.push_back(std::move(*it));
     forms_.erase(it);
 
-    if (activeChild_ == &form) {
-        activeChild_ = nullptr;
-        for (auto rit = forms_.rbegin(); rit != forms_.rend(); ++rit) {
-            if ((*rit)->isChild) {
-                activate(**rit);
-                break;
-            }
-        }
-    }
+    // The frame holds one child at a time: whoever opens the next one activates it.
+    if (activeChild_ == &form) activeChild_ = nullptr;
     destroyUnloaded();
 }
 

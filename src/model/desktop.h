@@ -20,8 +20,9 @@ public:
 
     UiPort& ui() { return ui_; }
 
-    // Loading runs the form's Load handler; a child form becomes the frame's active child.
-    Form& load(std::unique_ptr<Form> form);
+    // Loading runs the form's Load handler; a child form becomes the frame's active child unless the
+    // caller places and activates it itself.
+    Form& load(std::unique_ptr<Form> form, bool activateChild = true);
     void unload(Form& form);
     // Shows a loaded form modally: returns once it has been unloaded.
     void showModal(Form& form);

@@ -1,4 +1,5 @@
 #include "model/program.h"
+#include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/frame_form.h"
 #include "shell/startup.h"
@@ -8,8 +9,9 @@ namespace lw {
 // The configuration form is the first screen; a program without it starts with the frame alone.
 void openFirstChild(F0_MDI&) {
     if (!hasForm("F1_Configure")) return;
-    program().desktop.load(createForm("F1_Configure"));
+    Form& configure = program().desktop.load(createForm("F1_Configure"), false);
     program().platform.sleep(250);
+    if (configure.isLoaded()) Form_Position(configure);
     program().platform.sleep(250);
 }
 

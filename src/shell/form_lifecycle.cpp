@@ -221,8 +221,9 @@ void Form_Position(Form& frm) {
         }
         frm.top = 0;
         frm.left = std::max(0, (frameInnerWidth() - frm.width) / 2);
-        desktop.activate(frm);
         if (Form_HasTaxYear()) showYearDigits(frm);
+        // The form shows, and so activates, when it is placed and dated.
+        desktop.activate(frm);
         if (!text::containsNoCase(frm.name(), "Configure"))
             frm.setFocus(frm.at("Text1", g().FocusOnStartup));
         else
@@ -236,7 +237,7 @@ Form* Form_Open(const std::string& formName) {
     if (!form) {
         std::unique_ptr<Form> made = createForm(formName);
         if (!made) return nullptr;
-        form = &desktop.load(std::move(made));
+        form = &desktop.load(std::move(made), false);
         if (!form->isLoaded()) return nullptr;
     }
     Form_Position(*form);
