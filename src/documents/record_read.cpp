@@ -172,21 +172,8 @@ void showCardPictures(Form& cards) {
 
 }  // namespace
 
-void Form_Recheck_Dates() {
-    Form* form = g().CurrentForm;
-    if (!form) return;
-    for (const auto& owned : form->controls()) {
-        Control& c = *owned;
-        if (!c.isTextBox()) continue;
-        bool stands = true;
-        if (c.tag == "DATE") {
-            stands = EditCtl_Date(c, "");
-        } else if (c.tag == "DATEX") {
-            stands = EditCtl_Date(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
-        }
-        if (!stands) return;
-    }
-}
+// An opened file's dates go through the same walk as after a change of year.
+void Form_Recheck_Dates() { Year_Check(); }
 
 std::string Read_File() {
     Form* form = nullptr;
