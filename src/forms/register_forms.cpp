@@ -5,6 +5,7 @@
 #include "config/configure_form.h"
 #include "config/rates.h"
 #include "documents/record.h"
+#include "documents/saving.h"
 #include "model/program.h"
 #include "shell/frame_command_hooks.h"
 #include "forms/form_1099b.h"
@@ -33,6 +34,7 @@ void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
     frameCommandHooks().openFile = [] { Open_File(); };
+    frameCommandHooks().saveFile = [] { Save_File(); };
     // Forms with handlers of their own.
     registerW2Form();
     register1099BForm();

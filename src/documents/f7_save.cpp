@@ -1,0 +1,301 @@
+#include "documents/f7_save.h"
+
+#include <unistd.h>
+
+#include <cctype>
+#include <filesystem>
+#include <system_error>
+
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "documents/record.h"
+#include "fields/key_press.h"
+#include "model/program.h"
+#include "shell/paths.h"
+#include "store/atomic_file.h"
+#include "text/case.h"
+#include "text/masks.h"
+
+namespace lw {
+
+namespace {
+
+constexpr int kInnerWidth = F7_Save::kFormWidth - 2 * F7_Save::kMargin;
+constexpr int kLineHeight = 255;
+constexpr int kFieldHeight = 315;
+constexpr int kTextLineHeight = 210;  // one line of Label2's fixed-width text
+constexpr int kButtonHeight = 900;    // three lines of caption
+constexpr int kGap = 120;
+constexpr int kExtensionWidth = 2280;
+
+const char* const kLineEnd = "\r\n";
+const char* const kSaveLabel = "F7_Save:cmdSave_Click";
+const char* const kSequenceLabel = "F7_Save:cmdNewSequence_Click";
+
+Globals& g() { return program().g; }
+
+void place(Control& c, int left, int top, int width, int height) {
+    c.left = left;
+    c.top = top;
+    c.width = width;
+    c.height = height;
+}
+
+// A name with no extension takes no point, so that the path rebuilt from the parts is the path given.
+std::string fileNameOf(const std::string& baseName, const std::string& extension) {
+    return extension.empty() ? baseName : baseName + "." + extension;
+}
+
+std::string pathOf(const std::string& folder, const std::string& baseName, const std::string& extension) {
+    return joinPath(folder, fileNameOf(baseName, extension));
+}
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.find_last_of('/');
+    if (slash == std::string::npos) return {};
+    return path.substr(0, slash == 0 ? 1 : slash);
+}
+
+bool canWriteInto(const std::string& folder) {
+    return ::access(folder.empty() ? "." : folder.c_str(), W_OK) == 0;
+}
+
+int lineCount(const std::string& text) {
+    int lines = 1;
+    for (std::size_t at = text.find(kLineEnd); at != std::string::npos; at = text.find(kLineEnd, at + 2))
+        ++lines;
+    return lines;
+}
+
+void tell(const std::string& source, const std::string& message) {
+    MA_MBX(source, 800, message, "OK", false, "", "", "", 1);
+}
+
+}  // namespace
+
+std::function<void()>& taxpayerStoreSave() {
+    static std::function<void()> hook;
+    return hook;
+}
+
+bool Record_Write(const std::string& Path, const std::string& Record, const std::string& Source) {
+    std::string error;
+    if (store::writeFileAtomically(Path, Record + kLineEnd, error)) return true;
+    const std::string folder = folderOf(Path);
+    // Each line starts with a short word, so that the box can break a long path after it.
+    if (!folderExists(folder) || !canWriteInto(folder)) {
+        // The remembered folder may be the one that is gone: the next dialog must not start there.
+        Verify_INF_Entry("SAVE");
+        tell(Source, std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
+                         "This folder does not exist or cannot be written. Choose another folder and save "
+                         "again.");
+        return false;
+    }
+    tell(Source, std::string("The file was NOT saved; a file of that name is unchanged.") + kLineEnd +
+                     "File: " + Path + kLineEnd + "Reason: " + error);
+    return false;
+}
+
+std::string saveFormCurrentText(const std::string& folder, const std::string& baseName,
+                                const std::string& extension, bool f99) {
+    const std::string indent(17, ' ');
+    const std::string layout = std::string("Current File:   <FILE>") + kLineEnd + "Current Folder: <FOLDER>" +
+                               kLineEnd + "Options:        Press Save Button" + kLineEnd + indent +
+                               "Press Assign Next Sequence Number Button" + kLineEnd + indent +
+                               "Press Exit Without Saving Button";
+    if (f99) return text::replaceAll(layout, "<FILE>", baseName) + layout;
+    return text::replaceAll(text::replaceAll(layout, "<FILE>", fileNameOf(baseName, extension)), "<FOLDER>",
+                            folder);
+}
+
+F7_Save::F7_Save()
+    : Form("F7_Save"),
+      Label1(add(ControlKind::Label, "Label1")),
+      Label3_0(add(ControlKind::Label, "Label3", 0)),
+      Text1(add(ControlKind::TextBox, "Text1")),
+      Label4(add(ControlKind::Label, "Label4")),
+      Text2(add(ControlKind::TextBox, "Text2")),
+      Label3_1(add(ControlKind::Label, "Label3", 1)),
+      Label2(add(ControlKind::Label, "Label2")),
+      cmdSave(add(ControlKind::CommandButton, "cmdSave")),
+      cmdNewSequence(add(ControlKind::CommandButton, "cmdNewSequence")),
+      cmdExit(add(ControlKind::CommandButton, "cmdExit")) {
+    isChild = false;
+    caption = "File Already Exists";
+    width = kFormWidth;
+
+    for (Control* label : {&Label1, &Label3_0, &Label4, &Label3_1, &Label2}) {
+        label->opaque = false;
+        label->backColor = kButtonFace;
+        label->wordWrap = true;
+    }
+    int top = kMargin;
+    place(Label1, kMargin, top, kInnerWidth, 4 * kLineHeight);
+    top += Label1.height + kGap;
+
+    const int extensionLeft = kMargin + kInnerWidth - kExtensionWidth;
+    const int nameWidth = extensionLeft - kGap - kMargin;
+    Label3_0.caption = "File Name";
+    place(Label3_0, kMargin, top, nameWidth, kLineHeight);
+    Label4.caption = "Extension";
+    place(Label4, extensionLeft, top, kExtensionWidth, kLineHeight);
+    top += kLineHeight;
+    place(Text1, kMargin, top, nameWidth, kFieldHeight);
+    place(Text2, extensionLeft, top, kExtensionWidth, kFieldHeight);
+    // The extension is shown, not chosen: a rename deletes the old file under this extension.
+    Text2.locked = true;
+    Text2.tabStop = false;
+    Text2.backColor = kButtonFace;
+    top += kFieldHeight + kGap;
+
+    Label3_1.caption =
+        "If name of existing file is changed, it will be renamed when the Save Button pressed.";
+    place(Label3_1, kMargin, top, kInnerWidth, kLineHeight);
+    top += kLineHeight + kGap;
+
+    // Its options line up under each other in a fixed-width font.
+    Label2.fontName = "Courier New";
+    Label2.wordWrap = false;
+    place(Label2, kMargin, top, kInnerWidth, 5 * kTextLineHeight);
+
+    Text1.tabIndex = 0;
+    cmdSave.tabIndex = 1;
+    cmdNewSequence.tabIndex = 2;
+    cmdExit.tabIndex = 3;
+    for (Control* button : {&cmdSave, &cmdNewSequence, &cmdExit}) button->backColor = kButtonFace;
+    cmdExit.caption = "Exit WITHOUT SAVING";
+    // Load places the buttons and the form's bottom under Label2 once its lines are known.
+}
+
+void F7_Save::onLoad() {
+    runGuarded("F7_Save:Form_Load", [this] {
+        // A form closed by any other way than its buttons has written nothing.
+        g().SaveResult = kSaveResultDone;
+        cmdNewSequence.caption =
+            std::string("ASSIGN Next Sequence Number") + kLineEnd + "CREATE new file" + kLineEnd + "EXIT";
+        cmdExit.caption = "Exit WITHOUT SAVING";
+
+        const std::size_t slash = F7_Path.find_last_of('/');
+        F7_Folder = folderOf(F7_Path);
+        const std::string fileName = slash == std::string::npos ? F7_Path : F7_Path.substr(slash + 1);
+        const std::size_t dot = fileName.rfind('.');
+        F7_Extension = dot == std::string::npos ? std::string() : fileName.substr(dot + 1);
+        F7_BaseName = dot == std::string::npos ? fileName : fileName.substr(0, dot);
+
+        Text1.text = F7_BaseName;
+        Text2.text = F7_Extension;
+        Label1.caption =
+            std::string(
+                "File Names must be UNIQUE (including Disk, Folder/Directory and File Name). The File Names "
+                "generated by the Ledgerwick include a SEQUENCE NUMBER (###) that can be used to make the "
+                "file "
+                "name unique.") +
+            kLineEnd + kLineEnd + "The Ledgerwick can assign a NEW sequence number to the if desired.";
+        Text1_Change();
+
+        const bool f99 = text::containsNoCase(program().platform.commandLine(), "F99");
+        Label2.caption = saveFormCurrentText(F7_Folder, F7_BaseName, F7_Extension, f99);
+        Label2.height = lineCount(Label2.caption) * kTextLineHeight;
+
+        int top = Label2.top + Label2.height + 2 * kGap;
+        place(cmdSave, kMargin, top, kInnerWidth, kButtonHeight);
+        top += kButtonHeight + kGap;
+        const int half = (kInnerWidth - kGap) / 2;
+        place(cmdNewSequence, kMargin, top, half, kButtonHeight);
+        place(cmdExit, kMargin + half + kGap, top, kInnerWidth - half - kGap, kButtonHeight);
+        height = top + kButtonHeight + kMargin;
+    });
+}
+
+void F7_Save::onActivate() { setFocus(Text1); }
+
+void F7_Save::onChange(Control& control) {
+    if (&control == &Text1) Text1_Change();
+}
+
+void F7_Save::onClick(Control& control, MouseButton) {
+    if (&control == &cmdSave) cmdSave_Click();
+    if (&control == &cmdNewSequence) cmdNewSequence_Click();
+    if (&control == &cmdExit) cmdExit_Click();
+}
+
+void F7_Save::Text1_Change() {
+    cmdSave.caption =
+        "SAVE" + std::string(kLineEnd) + pathOf(F7_Folder, Text1.text, F7_Extension) + kLineEnd + "EXIT";
+}
+
+void F7_Save::cmdSave_Click() {
+    runGuarded(kSaveLabel, [this] {
+        if (Text1.text.empty()) {
+            tell(kSaveLabel, "File Name BLANK - Restoring Original File Name.");
+            Text1.text = F7_BaseName;
+            Text1_Change();
+            setFocus(Text1);
+            return;
+        }
+        if (text::equalsNoCase(Text1.text, F7_BaseName)) {
+            g().SaveResult = kSaveResultWrite;
+            unload();
+            return;
+        }
+        // A rename: the record goes under the new name first, so a failed write leaves the old file whole.
+        g().FormRecord = Build_Record();
+        if (!Record_Write(pathOf(F7_Folder, Text1.text, Text2.text), g().FormRecord, kSaveLabel)) return;
+        const std::string old = pathOf(F7_Folder, F7_BaseName, Text2.text);
+        std::error_code ec;
+        std::filesystem::remove(old, ec);
+        if (ec)
+            tell(kSaveLabel, std::string("The file was saved under its new name, but the old file is still "
+                                         "there.") +
+                                 kLineEnd + "File: " + old + kLineEnd + "Reason: " + ec.message());
+        g().SaveResult = kSaveResultDone;
+        unload();
+    });
+}
+
+std::string F7_Save::nextSequencePath(const std::string& path) {
+    const std::size_t slash = path.find_last_of('/');
+    std::size_t dot = path.rfind('.');
+    if (dot != std::string::npos && slash != std::string::npos && dot < slash) dot = std::string::npos;
+    const std::string stem = dot == std::string::npos ? path : path.substr(0, dot);
+    const std::string extension = dot == std::string::npos ? std::string() : path.substr(dot);
+
+    const std::size_t size = stem.size();
+    auto digit = [&](std::size_t at) { return std::isdigit(static_cast<unsigned char>(stem[at])) != 0; };
+    if (size < 4 || stem[size - 4] != '_' || !digit(size - 3) || !digit(size - 2) || !digit(size - 1))
+        return {};
+
+    int number = std::stoi(stem.substr(size - 3));
+    const std::string front = stem.substr(0, size - 4) + "_";
+    std::string candidate;
+    std::error_code ec;
+    do {
+        ++number;
+        candidate = front + text::formatNumber(std::to_string(number), "00#") + extension;
+    } while (std::filesystem::exists(candidate, ec));
+    return candidate;
+}
+
+void F7_Save::cmdNewSequence_Click() {
+    runGuarded(kSequenceLabel, [this] {
+        const std::string target = nextSequencePath(pathOf(F7_Folder, Text1.text, Text2.text));
+        if (target.empty()) {
+            tell(kSequenceLabel,
+                 std::string("No sequence number can be assigned: the File Name must end in _ "
+                             "and three digits, as _000.") +
+                     kLineEnd + "Nothing was saved.");
+            setFocus(Text1);
+            return;
+        }
+        if (!Record_Write(target, g().FormRecord, kSequenceLabel)) return;
+        g().SaveResult = kSaveResultDone;
+        unload();
+    });
+}
+
+void F7_Save::cmdExit_Click() {
+    g().SaveResult = kSaveResultDone;
+    unload();
+}
+
+}  // namespace lw

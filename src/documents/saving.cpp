@@ -1,0 +1,249 @@
+// Naming a document from its content, and writing it: a new file through the save dialog, an existing
+// one through F7_Save.
+#include "documents/saving.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "documents/f7_save.h"
+#include "documents/file_dialogs.h"
+#include "documents/record.h"
+#include "fields/control_setup.h"
+#include "model/program.h"
+#include "shell/paths.h"
+#include "taxpayer/name_format.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+#include "text/number.h"
+
+namespace lw {
+
+namespace {
+
+const char* const kNameLabel = "M4_FileCode:Build_FileName";
+const char* const kSaveLabel = "M4_FileCode:Save_File";
+const char* const kK1Error = "Error K1";
+const char* const kCardsError = "Error SS_ITIN";
+const char* const kCancel = "\xB7";
+// The first template, which the configuration form chooses when the operator has chosen none.
+const char* const kFirstTemplate = "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>";
+
+Globals& g() { return program().g; }
+
+// CurrentForm outlives the form it names: only a form still on the desktop counts.
+Form* loadedCurrentForm() {
+    Form* current = g().CurrentForm;
+    if (!current) return nullptr;
+    const std::vector<Form*> forms = program().desktop.forms();
+    return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
+}
+
+// Every occurrence, in any case.
+std::string replaceNoCase(const std::string& text, const std::string& what, const std::string& with) {
+    if (what.empty()) return text;
+    std::string out;
+    std::size_t from = 0;
+    for (std::size_t at = text::findNoCase(text, what); at != std::string::npos;
+         at = text::findNoCase(text, what, from)) {
+        out += text.substr(from, at - from) + with;
+        from = at + what.size();
+    }
+    return out + text.substr(from);
+}
+
+// The first number of a comma list of field indexes; nothing for an empty list.
+std::optional<int> firstIndex(const std::string& list) {
+    const std::vector<std::string> pieces = text::split(list, ",");
+    if (pieces.empty() || !text::isNumeric(pieces[0])) return std::nullopt;
+    return static_cast<int>(*text::toDouble(pieces[0]));
+}
+
+std::string fieldText(Form& form, int index) { return form.at("Text1", index).text; }
+
+bool isK1(const std::string& formKey) {
+    return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S";
+}
+
+struct K1Rule {
+    const char* formKey;
+    bool numberMissing;
+    const char* message;
+    int number;
+    int tab;
+};
+
+// Which message, number and tab of the two-page form belong to a missing number or name.
+const K1Rule& k1Rule(const std::string& formKey, bool numberMissing) {
+    static const K1Rule rules[] = {
+        {"K11041", true, "Beneficiary's SSN/ITIN REQUIRED", 800, 1},
+        {"K11041", false, "Beneficiary's Name and Address Required.", 800, 1},
+        {"K11065", true, "Shareholder's SSN REQUIRED", 801, 0},
+        {"K11065", false, "Shareholder's Name and Address Required.", 801, 0},
+        {"K11120S", true, "Shareholder's SSN REQUIRED", 801, 0},
+        {"K11120S", false, "Shareholder's Name and Address Required.", 801, 1},
+    };
+    for (const K1Rule& rule : rules)
+        if (formKey == rule.formKey && rule.numberMissing == numberMissing) return rule;
+    return rules[0];
+}
+
+// A K-1 needs its number and its name, number first. Returns false, having shown where, when one is blank.
+bool K1_Required_Fields(Form& form, int& FocusIndex) {
+    const std::optional<int> number = firstIndex(g().SSNIndex);
+    const std::optional<int> name = firstIndex(g().NameAddrIndex);
+    for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
+        if (!index || !fieldText(form, *index).empty()) continue;
+        const K1Rule& rule = k1Rule(g().FormKey, numberMissing);
+        MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
+        if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
+        // Save_File's last step focuses FocusIndex: it must land on the same field.
+        FocusIndex = *index;
+        form.setFocus(form.at("Text1", *index));
+        program().ui.refresh();
+        return false;
+    }
+    return true;
+}
+
+// The form's own edit of the field being left; a field that does not stand is named anyway, as typed.
+void validateActiveControl(Form& form) {
+    Control* active = form.activeControl();
+    if (!active) return;
+    bool cancel = false;
+    program().desktop.dispatch([&] { form.onValidate(*active, cancel); });
+}
+
+std::string piece(const std::vector<std::string>& pieces, std::size_t i) {
+    return i < pieces.size() ? pieces[i] : std::string();
+}
+
+std::string buildFileName(int& FocusIndex) {
+    Form* found = loadedCurrentForm();
+    if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
+    Form& form = *found;
+    const std::string formKey = g().FormKey;
+
+    if (formKey == "SS_ITIN") {
+        std::string name = "SS_ITIN_" + fieldText(form, 1);
+        if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
+        g().FormRecord = Build_Record();
+        return name + "_000";
+    }
+
+    if (isK1(formKey) && !K1_Required_Fields(form, FocusIndex)) return kK1Error;
+
+    std::string other;
+    if (text::isNumeric(g().OtherInfo)) {
+        other = fieldText(form, static_cast<int>(*text::toDouble(g().OtherInfo)));
+        other = other.substr(0, other.find('\r'));
+    }
+
+    FocusIndex = 0;
+    validateActiveControl(form);
+    g().FormRecord = Build_Record();
+
+    std::string name;
+    if (formKey == "SSA1099") {
+        name = fieldText(form, 0);
+    } else if (const std::optional<int> nameIndex = firstIndex(g().NameAddrIndex)) {
+        name = fieldText(form, *nameIndex);
+        if (other == name) other.clear();
+    }
+    if (name.empty()) raiseDataError(800, "Name is MANDATORY", kNameLabel);
+
+    std::string fileName =
+        g().FileNameFormat.empty() ? kFirstTemplate + g().FileExtension : g().FileNameFormat;
+    fileName = replaceNoCase(fileName, "<FORM>", formKey);
+
+    if (const std::optional<int> numberIndex = firstIndex(g().SSNIndex)) {
+        if (fieldText(form, *numberIndex).empty()) {
+            FocusIndex = *numberIndex;
+            raiseDataError(801, "Social Security/Taxpayer ID Number is MANDATORY", kNameLabel);
+        }
+    }
+
+    // The first-name-first templates take the whole cleaned line, the others LAST,FIRST.
+    const std::vector<std::string> names =
+        text::split(Format_TPName(name), std::string(1, text::kFieldSeparator));
+    fileName = replaceNoCase(fileName, "<LAST>_<FIRST>", piece(names, 1));
+    fileName = replaceNoCase(fileName, "<FIRST>_<LAST>", piece(names, 0));
+
+    if (other.empty() || formKey == "CHK") {
+        fileName = replaceNoCase(fileName, "<OTHER>_", "");
+    } else if (formKey == "TPINFO" || formKey == "SS_ITIN" || formKey == "DL") {
+        const std::vector<std::string> others =
+            text::split(Format_TPName(other), std::string(1, text::kFieldSeparator));
+        fileName = replaceNoCase(fileName, "<OTHER>", piece(others, 1));
+    } else {
+        fileName = replaceNoCase(fileName, "<OTHER>", other);
+    }
+
+    fileName = replaceNoCase(fileName, "<SEQ>", "000");
+    while (fileName.find("__") != std::string::npos) fileName = text::replaceAll(fileName, "__", "_");
+    return fileName;
+}
+
+// Shows F7_Save for a path that holds a file; true when Save_File is still to write it.
+bool askAboutExistingFile(const std::string& path) {
+    Desktop& desktop = program().desktop;
+    auto owned = std::make_unique<F7_Save>();
+    owned->F7_Path = path;
+    g().SaveResult = kSaveResultDone;
+    F7_Save& form = static_cast<F7_Save&>(desktop.load(std::move(owned)));
+    if (form.isLoaded()) desktop.showModal(form);
+    return g().SaveResult != kSaveResultDone;
+}
+
+void saveFile(int& FocusIndex) {
+    std::string name = Build_FileName(FocusIndex);
+    if (text::equalsNoCase(g().FormRecord, kCardsError) || text::equalsNoCase(name, kK1Error) || name.empty())
+        return;
+
+    const std::string& extension = g().FileExtension;
+    name = replaceNoCase(name, extension, "") + extension;
+
+    std::string path = g().CurrentFileName;
+    if (path.empty()) {
+        // The path chosen is not kept: the next Save of a new form asks again.
+        path = OpenOrSaveFile(1, name);
+        if (path == kCancel) return;
+    }
+
+    if (fileExists(path) && !askAboutExistingFile(path)) return;
+
+    if (!Record_Write(path, g().FormRecord, kSaveLabel)) return;
+
+    if (text::startsWithNoCase(g().FormRecord, "TPINFO") && taxpayerStoreSave()) taxpayerStoreSave()();
+
+    if (Form* form = loadedCurrentForm()) {
+        if (Control* status = form->find("labelMisc")) {
+            status->foreColor = 255;
+            status->caption = path;
+        }
+    }
+}
+
+}  // namespace
+
+std::string Build_FileName(int& FocusIndex) {
+    return runGuardedOr<std::string>(kNameLabel, std::string(), [&] { return buildFileName(FocusIndex); });
+}
+
+void Save_File() {
+    int FocusIndex = 0;
+    runGuarded(kSaveLabel, [&] { saveFile(FocusIndex); });
+    // Whatever happened above, the operator goes on in the field the naming chose.
+    Form* form = loadedCurrentForm();
+    if (!form) return;
+    runGuarded(kSaveLabel, [&] {
+        if (Control* field = form->find("Text1", FocusIndex)) {
+            Control_Setup(*field, false);
+            form->setFocus(*field);
+        }
+    });
+}
+
+}  // namespace lw
