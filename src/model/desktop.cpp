@@ -112,7 +112,9 @@ void Desktop::showModal(Form& form) {
         sentKeys_.insert(sentKeys_.begin(), savedKeys.begin(), savedKeys.end());
     };
     try {
-        ui_.runModal(form);
+        // A box shown modally activates as it appears, so that it can put the focus on its first field.
+        dispatch([&] { form.onActivate(); });
+        if (form.isLoaded()) ui_.runModal(form);
     } catch (...) {
         restore();
         modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
