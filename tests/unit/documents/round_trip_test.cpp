@@ -1,0 +1,76 @@
+// Every drawn form survives a save and an open with every typed field and every mark unchanged.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+
+#include "catalogue/catalogue_table.h"
+#include "catalogue/definitions.h"
+#include "documents/record.h"
+#include "forms/register_forms.h"
+#include "forms/tax_form.h"
+#include "shell/form_lifecycle.h"
+#include "test_program.h"
+
+namespace lw {
+namespace {
+
+struct RoundTrip : ::testing::TestWithParam<std::string> {
+    testing::TestProgram test;
+    void SetUp() override {
+        registerAllForms();
+        test.start();
+    }
+};
+
+// A value no edit of any type rewrites when the file is read back: no date, no "=", no "·".
+std::string valueFor(const Control& c) {
+    std::string value = "V " + c.key();
+    if (c.multiLine) value += "\r\nSECOND LINE";
+    return value;
+}
+
+TEST_P(RoundTrip, EveryFieldAndMarkComesBack) {
+    const std::string formName = GetParam();
+    Form* form = Form_Open(formName);
+    ASSERT_NE(form, nullptr) << formName;
+    std::map<std::string, std::string> written;
+    for (const auto& owned : form->controls()) {
+        Control& c = *owned;
+        if (isFieldArray(c)) {
+            c.text = valueFor(c);
+            written[c.key()] = c.text;
+        } else if (c.name == "Check" && c.index != kNoIndex) {
+            c.caption = "X";
+            written[c.key()] = "X";
+        }
+    }
+    const std::string path = (test.root / "round.trip").string();
+    std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
+
+    form->unload();
+    test.program->g.CurrentFileName = path;
+    EXPECT_EQ(Read_File(), formName);
+    Form* read = test.program->desktop.activeChild();
+    ASSERT_NE(read, nullptr);
+    ASSERT_EQ(read->name(), formName);
+    for (const auto& [key, value] : written) {
+        const std::size_t open = key.find('(');
+        const Control& c = read->at(key.substr(0, open), std::stoi(key.substr(open + 1)));
+        EXPECT_EQ(c.isTextBox() ? c.text : c.caption, value) << formName << " " << key;
+    }
+    EXPECT_TRUE(test.ui.reports.empty()) << formName;
+}
+
+std::vector<std::string> drawnForms() {
+    std::vector<std::string> forms;
+    for (const CatalogueEntry& entry : catalogue())
+        if (hasDefinition(entry.form)) forms.push_back(entry.form);
+    return forms;
+}
+
+INSTANTIATE_TEST_SUITE_P(DrawnForms, RoundTrip, ::testing::ValuesIn(drawnForms()),
+                         [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
+
+}  // namespace
+}  // namespace lw
