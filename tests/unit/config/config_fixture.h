@@ -1,4 +1,6 @@
 #pragma once
+
+#include "fixed_platform.h"
 // A fresh program on fake ports for each test of the configuration layer: the screen answers boxes from
 // a queue (or with their default button) and leaves report forms by Exit; the machine has a fixed clock
 // and a settable list of printers; the INF files lie in a scratch folder.
@@ -51,22 +53,9 @@ private:
     std::deque<std::string> answers_;
 };
 
-class ConfigPlatform : public PlatformPort {
-public:
-    DateTime now() override { return clock; }
-    std::optional<std::string> environment(const std::string&) override { return std::nullopt; }
-    std::string executableName() override { return "Ledgerwick_Venturo"; }
-    std::string executableFolder() override { return "/app"; }
-    std::string commandLine() override { return {}; }
-    std::string rootFolder() override { return "/root"; }
-    bool earlierInstanceRunning() override { return false; }
-    void activateEarlierInstance(const std::string&) override {}
-    void sleep(int) override {}
-    std::vector<std::string> printers() override { return machinePrinters; }
-    int screenWidthTwips() override { return 19200; }
-
-    DateTime clock{2025, 6, 15, 10, 0, 0};
-    std::vector<std::string> machinePrinters;
+// The fixed machine of every unit test, with this suite's clock.
+struct ConfigPlatform : lw::testing::FixedPlatform {
+    ConfigPlatform() { clock = DateTime{2025, 6, 15, 10, 0, 0}; }
 };
 
 // Figures of three years, as the shipped file lays them out.

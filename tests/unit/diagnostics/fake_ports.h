@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "diagnostics/message_box.h"
+#include "fixed_platform.h"
 #include "model/ports.h"
 
 namespace lw::test {
@@ -73,25 +74,9 @@ private:
     std::string clipboardText_;
 };
 
-class FakePlatform : public PlatformPort {
-public:
-    DateTime now() override { return clock; }
-    std::optional<std::string> environment(const std::string&) override { return std::nullopt; }
-    std::string executableName() override { return "Ledgerwick_Venturo"; }
-    std::string executableFolder() override { return "/app"; }
-    std::string commandLine() override { return commandLineText; }
-    std::string rootFolder() override { return "/root"; }
-    bool earlierInstanceRunning() override { return false; }
-    void activateEarlierInstance(const std::string&) override {}
-    void sleep(int milliseconds) override { sleeps.push_back(milliseconds); }
-    std::vector<std::string> printers() override { return {}; }
-    int screenWidthTwips() override { return 19200; }
-    bool debuggerAttached() override { return debugger; }
-
-    DateTime clock{2025, 3, 7, 14, 5, 9};
-    std::string commandLineText;
-    std::vector<int> sleeps;
-    bool debugger = false;
+// The fixed machine of every unit test, with this suite's clock.
+struct FakePlatform : lw::testing::FixedPlatform {
+    FakePlatform() { clock = DateTime{2025, 3, 7, 14, 5, 9}; }
 };
 
 }  // namespace lw::test

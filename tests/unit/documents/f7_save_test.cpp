@@ -102,7 +102,7 @@ TEST_F(SaveForm, LoadSplitsThePathAndWritesEveryCaption) {
 }
 
 TEST_F(SaveForm, TheF99WordShowsTheBaseNameAndTheLayoutTwice) {
-    test.platform.args = "debug f99";
+    test.platform.commandLineText = "debug f99";
     F7_Save& form = loadExisting("A_000.venturo");
     auto count = [](const std::string& text, const std::string& word) {
         int n = 0;
@@ -124,7 +124,7 @@ TEST_F(SaveForm, TheF99WordShowsTheBaseNameAndTheLayoutTwice) {
 
 TEST_F(SaveForm, TheLayoutStaysInsideTheFormWithoutOverlaps) {
     for (const char* args : {"", "F99"}) {
-        test.platform.args = args;
+        test.platform.commandLineText = args;
         F7_Save& form = loadExisting("A_000.venturo");
         for (const auto& c : form.controls()) {
             EXPECT_GE(c->left, 0) << c->key();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "diagnostics/message_box.h"
+#include "fixed_platform.h"
 #include "model/ports.h"
 
 namespace lw::test {
@@ -34,21 +35,9 @@ private:
     std::deque<std::string> answers_;
 };
 
-class FakePlatform : public PlatformPort {
-public:
-    DateTime now() override { return clock; }
-    std::optional<std::string> environment(const std::string&) override { return std::nullopt; }
-    std::string executableName() override { return "Ledgerwick_Venturo"; }
-    std::string executableFolder() override { return "/app"; }
-    std::string commandLine() override { return {}; }
-    std::string rootFolder() override { return "/root"; }
-    bool earlierInstanceRunning() override { return false; }
-    void activateEarlierInstance(const std::string&) override {}
-    void sleep(int) override {}
-    std::vector<std::string> printers() override { return {}; }
-    int screenWidthTwips() override { return 19200; }
-
-    DateTime clock{2025, 3, 7, 14, 5, 9};
+// The fixed machine of every unit test, with this suite's clock.
+struct FakePlatform : lw::testing::FixedPlatform {
+    FakePlatform() { clock = DateTime{2025, 3, 7, 14, 5, 9}; }
 };
 
 }  // namespace lw::test

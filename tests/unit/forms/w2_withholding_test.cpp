@@ -216,7 +216,7 @@ TEST_F(W2Withholding, AChangeOfYearKeepsTheFilledBoxesAsTheyAre) {
 
 struct W2In2018 : W2Withholding {
     void SetUp() override {
-        test.platform.today = DateTime{2018, 6, 10, 9, 0, 0};
+        test.platform.clock = DateTime{2018, 6, 10, 9, 0, 0};
         open();
     }
 };

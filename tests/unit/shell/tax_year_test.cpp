@@ -26,7 +26,7 @@ TEST(TaxYear, TheCycleRunsThisNextPlaceholderLast) {
 struct YearSetup : ::testing::Test {
     testing::TestProgram test;
     void SetUp() override {
-        test.platform.today = DateTime{2026, 2, 28};
+        test.platform.clock = DateTime{2026, 2, 28};
         test.start();
     }
     std::string remembered() {

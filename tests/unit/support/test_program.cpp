@@ -42,12 +42,6 @@ void TestUi::quit() {
     throw ProgramEnded{};
 }
 
-std::optional<std::string> TestPlatform::environment(const std::string& name) {
-    if (name == "UserName") return user;
-    if (name == "ComputerName") return std::string("TESTPC");
-    return std::nullopt;
-}
-
 TestProgram::TestProgram() {
     std::string pattern = (std::filesystem::temp_directory_path() / "lw-unit-XXXXXX").string();
     root = mkdtemp(pattern.data());

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "fixed_platform.h"
 #include "model/ports.h"
 #include "model/program.h"
 
@@ -45,28 +46,7 @@ public:
     bool ended = false;
 };
 
-class TestPlatform : public PlatformPort {
-public:
-    DateTime now() override { return today; }
-    std::optional<std::string> environment(const std::string& name) override;
-    std::string executableName() override { return exeName; }
-    std::string executableFolder() override { return appFolder; }
-    std::string commandLine() override { return args; }
-    std::string rootFolder() override { return root; }
-    bool earlierInstanceRunning() override { return false; }
-    void activateEarlierInstance(const std::string&) override {}
-    void sleep(int) override {}
-    std::vector<std::string> printers() override { return printerNames; }
-    int screenWidthTwips() override { return 1920 * 15; }
-
-    DateTime today{2025, 6, 10, 9, 0, 0};
-    std::string user = "TESTER";
-    std::string exeName = "Ledgerwick_Venturo";
-    std::string appFolder;
-    std::string args;
-    std::string root;
-    std::vector<std::string> printerNames;
-};
+using TestPlatform = FixedPlatform;
 
 // A started program: the frame is loaded (with whatever forms are registered), in a fresh root.
 class TestProgram {
