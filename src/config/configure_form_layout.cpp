@@ -21,19 +21,13 @@ constexpr Color kPrinterNoteColor = 0x00E0FFFF;
 const char* const kRateTip = "Entry Formats Allowed: 6.2%, 10.3%, 7.25%. 12.65%";
 const char* const kAmountTip = "Maximun allowed is 999,999";
 
-void place(Control& c, int left, int top, int width, int height) {
-    c.left = left;
-    c.top = top;
-    c.width = width;
-    c.height = height;
-}
 
 Control& label(Control& c, const char* caption, int left, int top, int width, int height) {
     c.caption = caption;
     c.opaque = false;
     c.backColor = kButtonFace;
     c.wordWrap = true;
-    place(c, left, top, width, height);
+    c.place(left, top, width, height);
     return c;
 }
 
@@ -41,7 +35,7 @@ void figureField(Control& c, const char* tip, int top) {
     c.tag = "SSMC";
     c.toolTipText = tip;
     c.alignment = 1;
-    place(c, kFieldLeft, top, kFieldWidth, kFieldHeight);
+    c.place(kFieldLeft, top, kFieldWidth, kFieldHeight);
 }
 
 }  // namespace
@@ -72,18 +66,18 @@ F1_Configure::F1_Configure()
     height = kFormHeight;
 
     // Printer and note side by side; Load fits the printer frame to the note's height.
-    place(Frame1, kMargin, kMargin, 6240, 1500);
-    place(cbxPrinters, 240, 360, 6000, kFieldHeight);
+    Frame1.place(kMargin, kMargin, 6240, 1500);
+    cbxPrinters.place(240, 360, 6000, kFieldHeight);
     label(lblPrinter, "", 240, 780, 6000, 840);
     lblPrinter.backColor = kPrinterNoteColor;
     label(lblNote, "", 6480, kMargin, kFormWidth - 6480 - kMargin, 1695);
 
     Frame5.caption = "Choose the FILE NAME format to use";
-    place(Frame5, kMargin, 1935, kInnerWidth, 1425);
+    Frame5.place(kMargin, 1935, kInnerWidth, 1425);
     for (int i = 0; i < 4; ++i) {
         Control& option = add(ControlKind::OptionButton, "optFileName", i);
         option.backColor = kButtonFace;
-        place(option, kCaptionLeft, 2205 + i * 285, kInnerWidth - 2 * kCaptionLeft + kMargin, kLineHeight);
+        option.place(kCaptionLeft, 2205 + i * 285, kInnerWidth - 2 * kCaptionLeft + kMargin, kLineHeight);
         optFileName[static_cast<std::size_t>(i)] = &option;
     }
 
@@ -95,9 +89,9 @@ F1_Configure::F1_Configure()
         year->backColor = kButtonFace;
     }
     TaxYear0.caption = "20";
-    place(TaxYear0, kMargin, 3480, 600, 495);
+    TaxYear0.place(kMargin, 3480, 600, 495);
     TaxYear1.caption = "??";
-    place(TaxYear1, 720, 3480, 600, 495);
+    TaxYear1.place(720, 3480, 600, 495);
     label(lblTaxYearInfo, "", 1440, 3480, kFormWidth - 1440 - kMargin, 660);
 
     label(Label3, "Choose Filing Status to set withholding rates >", kMargin, 4290, 3840, kLineHeight);
@@ -108,14 +102,14 @@ F1_Configure::F1_Configure()
         Control& option = add(ControlKind::OptionButton, "optStatus", i);
         option.caption = statuses[i];
         option.backColor = kButtonFace;
-        place(option, statusLefts[i], 4260, statusWidths[i], 300);
+        option.place(statusLefts[i], 4260, statusWidths[i], 300);
         optStatus[static_cast<std::size_t>(i)] = &option;
     }
     // The first status is chosen as the form is designed, so that Load starts from "Single".
     optStatus[0]->value = true;
 
     Frame3.caption = "Social Security Withholding";
-    place(Frame3, kMargin, 4680, kInnerWidth, 1035);
+    Frame3.place(kMargin, 4680, kInnerWidth, 1035);
     const char* ssCaptions[] = {"Social Security Withholding Rate:",
                                 "Maximum Wages Subject to Social Security Witholding"};
     for (int i = 0; i < 2; ++i) {
@@ -127,7 +121,7 @@ F1_Configure::F1_Configure()
     figureField(txtSSMax, kAmountTip, 4935 + kRowStep);
 
     Frame4.caption = "Medicare Withholding";
-    place(Frame4, kMargin, 5835, kInnerWidth, 2265);
+    Frame4.place(kMargin, 5835, kInnerWidth, 2265);
     const char* mcCaptions[] = {
         "Withholding Rate on Wages up to <<INITRATE>>",
         "Wages at Which Medicare Withholding Rate Changes:", "Withholding Rate on Wages over <<WAGE>>:",

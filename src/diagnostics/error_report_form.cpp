@@ -36,12 +36,6 @@ ObserverList<ErrorReportRecord>& observers() {
     return instance;
 }
 
-void place(Control& c, int left, int top, int width, int height) {
-    c.left = left;
-    c.top = top;
-    c.width = width;
-    c.height = height;
-}
 
 }  // namespace
 
@@ -80,7 +74,7 @@ F8_ErrLog::F8_ErrLog()
     height = kFormHeight;
 
     Frame3.caption = "Information About the Error";
-    place(Frame3, kMargin, kMargin, kFormWidth - 2 * kMargin, 2535);
+    Frame3.place(kMargin, kMargin, kFormWidth - 2 * kMargin, 2535);
 
     // Caption and value rows; the form's value takes two lines, the description has no caption.
     const char* captions[] = {"Program:", "Module:", "Form:", "Error:", "Date/Time:"};
@@ -89,7 +83,7 @@ F8_ErrLog::F8_ErrLog()
         Control& c = add(ControlKind::Label, "Label1", i);
         c.caption = captions[i];
         c.opaque = false;
-        place(c, kInnerLeft, captionTops[i], kValueLeft - kInnerLeft - 60, kLineHeight);
+        c.place(kInnerLeft, captionTops[i], kValueLeft - kInnerLeft - 60, kLineHeight);
         Label1[i] = &c;
     }
     const int valueTops[] = {360, 645, 930, 1410, 1695, 2175};
@@ -99,27 +93,27 @@ F8_ErrLog::F8_ErrLog()
         Control& c = add(ControlKind::Label, "Label2", i);
         c.caption = "";
         c.opaque = false;
-        place(c, kValueLeft, valueTops[i], kFormWidth - kValueLeft - 2 * kInnerLeft, valueHeights[i]);
+        c.place(kValueLeft, valueTops[i], kFormWidth - kValueLeft - 2 * kInnerLeft, valueHeights[i]);
         Label2[i] = &c;
     }
 
     Frame2.caption = "Please describe what you were doing before you got the error (up to 300 characters)";
-    place(Frame2, kMargin, 2760, kFormWidth - 2 * kMargin, 1215);
+    Frame2.place(kMargin, 2760, kFormWidth - 2 * kMargin, 1215);
     Text1.multiLine = true;
     Text1.maxLength = kDescriptionMaxLength;
-    place(Text1, kInnerLeft, 3000, kInnerWidth, 855);
+    Text1.place(kInnerLeft, 3000, kInnerWidth, 855);
 
     Frame1.caption = "Instructions for Sending the Error Report via EMail";
-    place(Frame1, kMargin, 4080, kFormWidth - 2 * kMargin, 2295);
+    Frame1.place(kMargin, 4080, kFormWidth - 2 * kMargin, 2295);
     Label5.opaque = false;
-    place(Label5, kInnerLeft, 4320, kInnerWidth, 1935);
+    Label5.place(kInnerLeft, 4320, kInnerWidth, 1935);
 
     cmdClip.caption = "Copy to Clipboard && Exit";
-    place(cmdClip, kMargin, 6480, 2655, 495);
+    cmdClip.place(kMargin, 6480, 2655, 495);
     cmdExit.caption = "Exit";
-    place(cmdExit, 2895, 6480, 1215, 495);
+    cmdExit.place(2895, 6480, 1215, 495);
     cmdClearAndCopyForDocument.caption = "Press to Clear Screen and Copy to Clipboard  for User Document";
-    place(cmdClearAndCopyForDocument, 4230, 6480, kFormWidth - 4230 - kMargin, 495);
+    cmdClearAndCopyForDocument.place(4230, 6480, kFormWidth - 4230 - kMargin, 495);
     for (Control* b : {&cmdClip, &cmdExit, &cmdClearAndCopyForDocument}) b->backColor = kButtonFace;
 
     // The description comes first for the operator.

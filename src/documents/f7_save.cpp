@@ -34,12 +34,6 @@ const char* const kSequenceLabel = "F7_Save:cmdNewSequence_Click";
 
 Globals& g() { return program().g; }
 
-void place(Control& c, int left, int top, int width, int height) {
-    c.left = left;
-    c.top = top;
-    c.width = width;
-    c.height = height;
-}
 
 // A name with no extension takes no point, so that the path rebuilt from the parts is the path given.
 std::string fileNameOf(const std::string& baseName, const std::string& extension) {
@@ -130,18 +124,18 @@ F7_Save::F7_Save()
         label->wordWrap = true;
     }
     int top = kMargin;
-    place(Label1, kMargin, top, kInnerWidth, 4 * kLineHeight);
+    Label1.place(kMargin, top, kInnerWidth, 4 * kLineHeight);
     top += Label1.height + kGap;
 
     const int extensionLeft = kMargin + kInnerWidth - kExtensionWidth;
     const int nameWidth = extensionLeft - kGap - kMargin;
     Label3_0.caption = "File Name";
-    place(Label3_0, kMargin, top, nameWidth, kLineHeight);
+    Label3_0.place(kMargin, top, nameWidth, kLineHeight);
     Label4.caption = "Extension";
-    place(Label4, extensionLeft, top, kExtensionWidth, kLineHeight);
+    Label4.place(extensionLeft, top, kExtensionWidth, kLineHeight);
     top += kLineHeight;
-    place(Text1, kMargin, top, nameWidth, kFieldHeight);
-    place(Text2, extensionLeft, top, kExtensionWidth, kFieldHeight);
+    Text1.place(kMargin, top, nameWidth, kFieldHeight);
+    Text2.place(extensionLeft, top, kExtensionWidth, kFieldHeight);
     // The extension is shown, not chosen: a rename deletes the old file under this extension.
     Text2.locked = true;
     Text2.tabStop = false;
@@ -150,13 +144,13 @@ F7_Save::F7_Save()
 
     Label3_1.caption =
         "If name of existing file is changed, it will be renamed when the Save Button pressed.";
-    place(Label3_1, kMargin, top, kInnerWidth, kLineHeight);
+    Label3_1.place(kMargin, top, kInnerWidth, kLineHeight);
     top += kLineHeight + kGap;
 
     // Its options line up under each other in a fixed-width font.
     Label2.fontName = "Courier New";
     Label2.wordWrap = false;
-    place(Label2, kMargin, top, kInnerWidth, 5 * kTextLineHeight);
+    Label2.place(kMargin, top, kInnerWidth, 5 * kTextLineHeight);
 
     Text1.tabIndex = 0;
     cmdSave.tabIndex = 1;
@@ -198,11 +192,11 @@ void F7_Save::onLoad() {
         Label2.height = lineCount(Label2.caption) * kTextLineHeight;
 
         int top = Label2.top + Label2.height + 2 * kGap;
-        place(cmdSave, kMargin, top, kInnerWidth, kButtonHeight);
+        cmdSave.place(kMargin, top, kInnerWidth, kButtonHeight);
         top += kButtonHeight + kGap;
         const int half = (kInnerWidth - kGap) / 2;
-        place(cmdNewSequence, kMargin, top, half, kButtonHeight);
-        place(cmdExit, kMargin + half + kGap, top, kInnerWidth - half - kGap, kButtonHeight);
+        cmdNewSequence.place(kMargin, top, half, kButtonHeight);
+        cmdExit.place(kMargin + half + kGap, top, kInnerWidth - half - kGap, kButtonHeight);
         height = top + kButtonHeight + kMargin;
     });
 }

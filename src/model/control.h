@@ -84,6 +84,14 @@ struct Control {
     bool value = false;  // option buttons
     std::string picture;  // picture file or icon name
 
+    // Puts the control at a place of its form, in twips, as a designer lays it out.
+    void place(int leftTwips, int topTwips, int widthTwips, int heightTwips) {
+        left = leftTwips;
+        top = topTwips;
+        width = widthTwips;
+        height = heightTwips;
+    }
+
     // "Text1(5)" for an element of a control array, else the bare name.
     std::string key() const;
     bool isTextBox() const { return kind == ControlKind::TextBox; }
