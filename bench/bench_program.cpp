@@ -1,0 +1,64 @@
+#include "bench_program.h"
+
+#include <cstdlib>
+
+#include "diagnostics/error_report_form.h"
+#include "diagnostics/message_box.h"
+#include "forms/register_forms.h"
+#include "model/app_error.h"
+#include "shell/frame_window_model.h"
+
+#ifndef LW_SOURCE_DIR
+#error "LW_SOURCE_DIR names the source tree"
+#endif
+
+namespace lw::bench {
+
+void BenchUi::runModal(Form& form) {
+    if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+        Control* button = box->defaultButtonControl();
+        if (!button) button = &box->cmd1;
+        program().desktop.click(*button);
+        return;
+    }
+    if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
+        reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
+        report->unload();
+    }
+}
+
+void BenchUi::quit() { throw ProgramEnded{}; }
+
+BenchProgram::BenchProgram() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "lw-bench-XXXXXX").string();
+    root = mkdtemp(pattern.data());
+    platform.root = root.string();
+    platform.appFolder = std::string(LW_SOURCE_DIR) + "/data";
+    program = std::make_unique<Program>(ui, platform);
+    resetMessageBoxes();
+}
+
+BenchProgram::~BenchProgram() {
+    program.reset();
+    std::error_code ec;
+    std::filesystem::remove_all(root, ec);
+}
+
+bool BenchProgram::start() {
+    registerAllForms();
+    try {
+        return loadFrame() != nullptr;
+    } catch (const ProgramEnded&) {
+        return false;
+    }
+}
+
+void setWithholdingRates(Globals& g) {
+    g.SSRate = "6.2";
+    g.SSMax = "168,600";
+    g.MCInitRate = "1.45";
+    g.MCChgRateAfter = "200,000";
+    g.MCRateAfter = "2.35";
+}
+
+}  // namespace lw::bench
