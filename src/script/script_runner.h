@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "script/script_session.h"
+#include "script/script_words.h"
 
 namespace lw {
 class Program;
@@ -19,10 +20,6 @@ namespace lw::script {
 
 class ScriptUi;
 class ScriptPlatform;
-
-struct ScriptError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 class ScriptRunner {
 public:
@@ -42,7 +39,6 @@ private:
     void queueAnswer(const std::vector<std::string>& words);
     void check(const std::vector<std::string>& words);
     void showValue(const std::vector<std::string>& words);
-    void afterAction();
 
     Form& inputForm() const;
     Control& control(const std::string& reference) const;

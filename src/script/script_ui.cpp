@@ -63,7 +63,8 @@ void ScriptUi::answerMessageBox(Form& box) {
         line = answer->line;
         caption = answer->words.empty() ? "" : answer->words[0];
     } else {
-        // With no queued answer the default button is pressed; a default that no button bears leaves the first.
+        // With no queued answer the default button is pressed; a default that no button bears leaves the
+        // first.
         Control* fallback = mbx->defaultButtonControl();
         if (!fallback) fallback = mbx->button(1);
         caption = fallback ? fallback->caption : "";
@@ -127,16 +128,18 @@ void ScriptUi::answerSaveForm(Form& save) {
 
 void ScriptUi::copyPictureToClipboard(Form& form) {
     session_.clipboardPicture = ui::renderForm(form);
-    *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width() << "x"
-                  << session_.clipboardPicture->height() << "\n";
+    *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width()
+                  << "x" << session_.clipboardPicture->height() << "\n";
 }
 
 std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request) {
     auto answer = session_.takeAnswer("file");
     const bool cancel = !answer || answer->words.empty() || answer->words[0] == "cancel";
-    session_.lastDialog = text::cp1252ToUtf8(request.title) + " | " + text::cp1252ToUtf8(request.proposedName);
+    session_.lastDialog =
+        text::cp1252ToUtf8(request.title) + " | " + text::cp1252ToUtf8(request.proposedName);
     *session_.out << (request.save ? "save" : "open") << " dialog \"" << forOutput(request.title) << "\"";
-    if (!request.proposedName.empty()) *session_.out << " proposing \"" << forOutput(request.proposedName) << "\"";
+    if (!request.proposedName.empty())
+        *session_.out << " proposing \"" << forOutput(request.proposedName) << "\"";
     if (!request.startFolder.empty()) *session_.out << " in " << forOutput(request.startFolder);
     *session_.out << " -> " << (cancel ? "cancel" : forOutput(answer->words[0])) << "\n";
     if (cancel) return std::nullopt;
