@@ -192,6 +192,9 @@ std::string Read_File() {
         }
         fields = store::splitRecordLine(line);
         Form& opened = openFormOf(fields[0], path);
+        // The placed form's first field takes the focus and its tip now, so that the path written
+        // next is what the operator reads.
+        program().desktop.settleFocus();
         if (Control* status = opened.find("labelMisc")) {
             status->foreColor = kRed;
             status->caption = path;

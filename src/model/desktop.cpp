@@ -25,11 +25,8 @@ void Desktop::dispatch(const std::function<void()>& handler) {
 void Desktop::runPending() {
     // Each pending step may queue more; the loop ends when a step leaves nothing behind.
     for (int guard = 0; guard < 1000; ++guard) {
-        if (Control* target = pendingFocus_) {
-            pendingFocus_ = nullptr;
-            ++depth_;
-            moveFocus(*target);
-            --depth_;
+        if (pendingFocus_) {
+            settleFocus();
             continue;
         }
         if (!sentKeys_.empty()) {
@@ -158,6 +155,15 @@ void Desktop::setFocus(Control& control) {
     moveFocus(control);
     --depth_;
     runPending();
+}
+
+void Desktop::settleFocus() {
+    Control* target = pendingFocus_;
+    if (!target) return;
+    pendingFocus_ = nullptr;
+    ++depth_;
+    moveFocus(*target);
+    --depth_;
 }
 
 Control* Desktop::focus() const {

@@ -40,6 +40,9 @@ public:
     Control* focus() const;
     // A focus request made inside a handler is carried out when the outermost handler returns.
     void setFocus(Control& control);
+    // Carries out a waiting focus request at once, inside a handler: a form just placed takes its
+    // first field before the caller writes on its status line.
+    void settleFocus();
 
     // Operator input.
     void pressKey(int keyCode, int shift, int keyAscii);
