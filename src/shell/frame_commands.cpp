@@ -33,11 +33,16 @@ bool hasChildForms() {
 void ScreenTaskbar_Hide(F0_MDI& frame) { frame.bTaskbarHidden = true; }
 void ScreenTaskbar_Show(F0_MDI& frame) { frame.bTaskbarHidden = false; }
 
+// With the configuration form on the screen, changed rates are asked about before the program ends.
+void checkRatesBeforeEnding() {
+    Form* active = program().desktop.activeChild();
+    if (active && active->name() == "F1_Configure" && hooks().checkRateChanges) hooks().checkRateChanges();
+}
+
 void MDI_Quit() {
     if (hasChildForms()) {
         g().bQuitting = true;
-        Form* active = program().desktop.activeChild();
-        if (active && active->name() == "F1_Configure" && hooks().checkRateChanges) hooks().checkRateChanges();
+        checkRatesBeforeEnding();
     }
     program().ui.quit();
 }
@@ -214,7 +219,10 @@ void F0_MDI::onMenu(const std::string& itemName) {
     });
 }
 
-void F0_MDI::onQueryUnload(bool&) { g().bQuitting = true; }
+void F0_MDI::onQueryUnload(bool&) {
+    g().bQuitting = true;
+    checkRatesBeforeEnding();
+}
 
 void F0_MDI::onUnload(bool&) { ScreenTaskbar_Show(*this); }
 
