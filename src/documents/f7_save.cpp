@@ -8,8 +8,8 @@
 
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
+#include "documents/file_dialogs.h"
 #include "documents/record.h"
-#include "fields/key_press.h"
 #include "model/program.h"
 #include "shell/paths.h"
 #include "store/atomic_file.h"

@@ -3,9 +3,12 @@
 #include "documents/file_dialogs.h"
 
 #include "diagnostics/error_tail.h"
+#include "model/app_error.h"
 #include "model/program.h"
+#include "shell/paths.h"
 #include "shell/startup.h"
 #include "store/inf_store.h"
+#include "text/case.h"
 #include "text/cp1252.h"
 
 namespace lw {
@@ -60,6 +63,22 @@ std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
             (save ? g.LastSaveFolder : g.LastOpenFolder) = folder;
         }
         return path;
+    });
+}
+
+void Verify_INF_Entry(const std::string& sKind) {
+    runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
+        std::string key;
+        if (text::equalsNoCase(sKind, "Open"))
+            key = "LastOpenFolder";
+        else if (text::toLower(sKind) == "save")
+            key = "LastSaveFolder";
+        else
+            throw AppError(900, "Program Error", "M3_Ledgerwick:Verify_INF_Entry");
+        const Globals& g = program().g;
+        const std::string folder = store::ReadINF(g.UserNameUC, key, "", g.UserInfFile);
+        // A folder that has gone would send the dialog astray.
+        if (!folderExists(folder)) store::SaveINF(g.UserNameUC, key, "", g.UserInfFile);
     });
 }
 

@@ -9,4 +9,9 @@ namespace lw {
 // or "·" (the byte 0xB7) when the operator cancels.
 std::string OpenOrSaveFile(int SaveMode, const std::string& FileName);
 
+// Runs just before each dialog. sKind "Open" (any case) or "save" (any case): the remembered folder of
+// that dialog is emptied in the user INF file when it no longer exists. Any other kind is a program
+// error, logged.
+void Verify_INF_Entry(const std::string& sKind);
+
 }  // namespace lw

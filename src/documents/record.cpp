@@ -5,7 +5,6 @@
 
 #include "diagnostics/error_tail.h"
 #include "documents/file_dialogs.h"
-#include "fields/key_press.h"
 #include "model/app_error.h"
 #include "model/program.h"
 #include "shell/form_lifecycle.h"

@@ -207,6 +207,8 @@ void saveFile(int& FocusIndex) {
 
     std::string path = g().CurrentFileName;
     if (path.empty()) {
+        // A remembered folder that has gone would send the dialog astray.
+        Verify_INF_Entry("SAVE");
         // The path chosen is not kept: the next Save of a new form asks again.
         path = OpenOrSaveFile(1, name);
         if (path == kCancel) return;

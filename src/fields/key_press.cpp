@@ -1,12 +1,7 @@
 #include "fields/key_press.h"
 
-#include <filesystem>
-
-#include "diagnostics/error_tail.h"
-#include "model/app_error.h"
 #include "model/keys.h"
 #include "model/program.h"
-#include "store/inf_store.h"
 #include "text/case.h"
 
 namespace lw {
@@ -26,13 +21,6 @@ bool tagIs(const std::string& tag, std::initializer_list<const char*> names) {
     for (const char* name : names)
         if (tag == name) return true;
     return false;
-}
-
-// An empty name stands for the current folder, which always exists.
-bool folderExists(const std::string& path) {
-    if (path.empty()) return true;
-    std::error_code ec;
-    return std::filesystem::is_directory(path, ec);
 }
 
 }  // namespace
@@ -75,22 +63,6 @@ void Key_Press(Control& ctl, int& KeyAscii) {
         passes = k > 31 || k == keys::kTab || k == keys::kEnter;
     }
     if (!passes) KeyAscii = 0;
-}
-
-void Verify_INF_Entry(const std::string& sKind) {
-    runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
-        std::string key;
-        if (text::equalsNoCase(sKind, "Open"))
-            key = "LastOpenFolder";
-        else if (text::toLower(sKind) == "save")
-            key = "LastSaveFolder";
-        else
-            throw AppError(900, "Program Error", "M3_Ledgerwick:Verify_INF_Entry");
-        const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.UserNameUC, key, "", g.UserInfFile);
-        // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.UserNameUC, key, "", g.UserInfFile);
-    });
 }
 
 void SendTabKey() { program().desktop.sendKey(keys::kTab, 0, 0); }

@@ -1,44 +1,29 @@
-#include <atomic>
-#include <chrono>
 #include <filesystem>
 #include <string>
 
-#include "fields_fixture.h"
+#include "documents/file_dialogs.h"
+#include "documents_fixture.h"
 #include "store/inf_store.h"
 
-namespace lw::test {
+namespace lw::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-class VerifyInfEntry : public FieldsTest {
+class VerifyInfEntry : public Documents {
 protected:
     void SetUp() override {
-        FieldsTest::SetUp();
-        static std::atomic<int> counter{0};
-        const auto tick = std::chrono::steady_clock::now().time_since_epoch().count();
-        scratch_ = fs::temp_directory_path() /
-                   ("lw_fields_" + std::to_string(tick) + "_" + std::to_string(counter++));
-        fs::create_directories(scratch_ / "forms");
-        g().UserNameUC = "TRAINER";
-        g().UserInfFile = (scratch_ / "UserVenturo.inf").string();
-        existing_ = (scratch_ / "forms").string();
-        gone_ = (scratch_ / "gone").string();
-    }
-    void TearDown() override {
-        std::error_code ec;
-        fs::remove_all(scratch_, ec);
-        FieldsTest::TearDown();
+        Documents::SetUp();
+        fs::create_directories(files / "forms");
+        existing_ = (files / "forms").string();
+        gone_ = (files / "gone").string();
     }
 
     void write(const std::string& key, const std::string& value) {
-        store::SaveINF("TRAINER", key, value, g().UserInfFile);
+        store::SaveINF("TESTER", key, value, g.UserInfFile);
     }
-    std::string read(const std::string& key) {
-        return store::ReadINF("TRAINER", key, "<none>", g().UserInfFile);
-    }
+    std::string read(const std::string& key) { return store::ReadINF("TESTER", key, "<none>", g.UserInfFile); }
 
-    fs::path scratch_;
     std::string existing_;
     std::string gone_;
 };
@@ -49,7 +34,7 @@ TEST_F(VerifyInfEntry, AnOpenFolderThatHasGoneIsForgotten) {
     Verify_INF_Entry("Open");
     EXPECT_EQ(read("LastOpenFolder"), "");
     EXPECT_EQ(read("LastSaveFolder"), gone_);
-    EXPECT_TRUE(ui.modalForms.empty());
+    EXPECT_TRUE(test.ui.boxes.empty());
 }
 
 TEST_F(VerifyInfEntry, TheKindOfTheDialogIsBlindToCase) {
@@ -72,7 +57,7 @@ TEST_F(VerifyInfEntry, AnExistingFolderIsKept) {
 }
 
 TEST_F(VerifyInfEntry, AFileIsNoFolder) {
-    write("LastSaveFolder", g().UserInfFile);
+    write("LastSaveFolder", g.UserInfFile);
     Verify_INF_Entry("save");
     EXPECT_EQ(read("LastSaveFolder"), "");
 }
@@ -83,11 +68,10 @@ TEST_F(VerifyInfEntry, AnyOtherKindIsAProgramErrorThatTouchesNothing) {
     Verify_INF_Entry("Print");
     EXPECT_EQ(read("LastOpenFolder"), gone_);
     EXPECT_EQ(read("LastSaveFolder"), gone_);
-    ASSERT_TRUE(lastErrorReport().has_value());
-    EXPECT_EQ(lastErrorReport()->module, "M3_Ledgerwick:Verify_INF_Entry");
-    EXPECT_EQ(lastErrorReport()->number, "900");
-    EXPECT_EQ(lastErrorReport()->description, "Program Error");
+    ASSERT_EQ(test.ui.reports.size(), 1u);
+    EXPECT_NE(test.ui.reports[0].find("M3_Ledgerwick:Verify_INF_Entry"), std::string::npos);
+    EXPECT_NE(test.ui.reports[0].find("Program Error"), std::string::npos);
 }
 
 }  // namespace
-}  // namespace lw::test
+}  // namespace lw::testing
