@@ -131,8 +131,7 @@ void F1_Configure::fillPrinters() {
         const bool moved = cbxPrinters.listIndex != static_cast<int>(entry);
         cbxPrinters.listIndex = static_cast<int>(entry);
         cbxPrinters.text = cbxPrinters.items[entry];
-        cbxPrinters.selStart = 0;
-        cbxPrinters.selLength = static_cast<int>(cbxPrinters.text.size());
+        cbxPrinters.select(0, static_cast<int>(cbxPrinters.text.size()));
         if (moved) cbxPrinters_Click();
     };
     const std::string remembered = readUserInf("Printer");
@@ -212,8 +211,7 @@ void F1_Configure::optStatus_Click(int) {
 
 void F1_Configure::onGotFocus(Control& control) {
     if (!isFigureField(control)) return;
-    control.selStart = 0;
-    control.selLength = std::min(kFigureSelectionLength, static_cast<int>(control.text.size()));
+    control.select(0, kFigureSelectionLength);
 }
 
 void F1_Configure::onChange(Control& control) {
@@ -225,8 +223,7 @@ void F1_Configure::onValidate(Control& control, bool& cancel) {
     const bool isRate = &control == &txtSSRate || &control == &txtMCInitRate || &control == &txtMCRateAfter;
     const bool good = isRate ? SS_MC_Edit_Rate(control) : SS_MC_Edit_Money(control);
     if (!good) {
-        control.selStart = 0;
-        control.selLength = static_cast<int>(control.text.size());
+        control.select(0, static_cast<int>(control.text.size()));
         cancel = true;
     }
     // A W-2 uses the figure at once, good or not, before and without any Save.

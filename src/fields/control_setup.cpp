@@ -135,8 +135,7 @@ void Control_SetupBackColor(Control& ctl) {
     } else {
         ctl.backColor = legendColor(9);
     }
-    ctl.selStart = 0;
-    ctl.selLength = 99;
+    ctl.select(0, 99);
 }
 
 void TPInfo_Focus_After() {

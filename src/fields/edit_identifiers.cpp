@@ -70,8 +70,7 @@ std::int32_t DuplicateTinCheck(const std::string& sIndexList, int iIndex) {
         for (int i = 0; i < count; ++i) {
             if (i == iIndex || form.at("Text1", i).text != field.text) continue;
             result = i;
-            field.selStart = 0;
-            field.selLength = 12;
+            field.select(0, 12);
             if (Control* status = form.find("labelMisc")) {
                 status->caption = "Duplicate SSN/ITIN number";
                 status->foreColor = kRed;

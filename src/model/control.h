@@ -2,6 +2,7 @@
 // A control of a form with the properties the program's logic reads and writes.
 // Properties are the single source of truth; every view mirrors them.
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -56,15 +57,20 @@ struct Control {
 
     int tabIndex = 0;
     int maxLength = 0;  // 0: no limit
-    int selStart = 0;
-    int selLength = 0;
+    // The selection of a text box, as the platform's box reports it: never past the end of the text.
+    int selStart() const;
+    int selLength() const;
+    // Moving the start leaves a caret there, with nothing selected.
+    void setSelStart(int start);
+    void setSelLength(int length);
+    void select(int start, int length);
     int alignment = 0;  // 0 left, 1 right, 2 center
 
     Color backColor = kWhite;
     Color foreColor = kBlack;
     Color borderColor = kBlack;
-    bool opaque = true;      // BackStyle: false lets the form show through
-    int borderStyle = 1;     // 0 none, 1 solid, 2 dash, 3 dot
+    bool opaque = true;   // BackStyle: false lets the form show through
+    int borderStyle = 1;  // 0 none, 1 solid, 2 dash, 3 dot
     int borderWidth = 1;
 
     int left = 0;  // twips
@@ -81,7 +87,7 @@ struct Control {
 
     std::vector<std::string> items;  // combo and list boxes
     int listIndex = -1;
-    bool value = false;  // option buttons
+    bool value = false;   // option buttons
     std::string picture;  // picture file or icon name
 
     // Puts the control at a place of its form, in twips, as a designer lays it out.
@@ -99,6 +105,10 @@ struct Control {
     const std::string& shownText() const;
     // A control can take the focus from code or a click.
     bool canTakeFocus() const;
+
+private:
+    int selStart_ = 0;
+    int selLength_ = 0;
 };
 
 }  // namespace lw

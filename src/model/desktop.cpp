@@ -255,7 +255,7 @@ void Desktop::pressKey(int keyCode, int shift, int keyAscii) {
             if (control->isTextBox()) {
                 if (ascii == keys::kCtrlC || ascii == keys::kCtrlX) {
                     std::string selected = control->text.substr(
-                        std::min<size_t>(control->selStart, control->text.size()), control->selLength);
+                        control->selStart(), control->selLength());
                     if (!selected.empty()) ui_.setClipboardText(selected);
                     if (ascii == keys::kCtrlX && !control->locked) editText(*control, "");
                 } else if (ascii == keys::kCtrlV) {
@@ -299,8 +299,8 @@ void Desktop::paste(const std::string& text) {
 void Desktop::editText(Control& control, const std::string& insert) {
     if (control.locked) return;
     std::string& text = control.text;
-    size_t start = std::min<size_t>(std::max(control.selStart, 0), text.size());
-    size_t length = std::min<size_t>(std::max(control.selLength, 0), text.size() - start);
+    size_t start = control.selStart();
+    size_t length = control.selLength();
     std::string piece = insert;
     if (!control.multiLine) {
         // A single-line box keeps one line: a pasted line end ends the paste, as the platform's box does.
@@ -315,16 +315,15 @@ void Desktop::editText(Control& control, const std::string& insert) {
         if (piece.empty() && !insert.empty()) return;
     }
     text.replace(start, length, piece);
-    control.selStart = static_cast<int>(start + piece.size());
-    control.selLength = 0;
+    control.setSelStart(static_cast<int>(start + piece.size()));
     control.form->onChange(control);
 }
 
 void Desktop::editKey(Control& control, int keyCode, int shift) {
     std::string& text = control.text;
     int size = static_cast<int>(text.size());
-    int start = std::clamp(control.selStart, 0, size);
-    int length = std::clamp(control.selLength, 0, size - start);
+    int start = control.selStart();
+    int length = control.selLength();
     bool extend = shift & keys::kShiftMask;
     switch (keyCode) {
         case keys::kBackspace:
@@ -340,26 +339,21 @@ void Desktop::editKey(Control& control, int keyCode, int shift) {
             }
             if (length == 0) return;
             text.erase(start, length);
-            control.selStart = start;
-            control.selLength = 0;
+            control.setSelStart(start);
             control.form->onChange(control);
             return;
         }
         case keys::kHome:
-            control.selLength = extend ? start + length : 0;
-            control.selStart = 0;
+            control.select(0, extend ? start + length : 0);
             return;
         case keys::kEnd:
-            control.selStart = extend ? start : size;
-            control.selLength = extend ? size - start : 0;
+            control.select(extend ? start : size, extend ? size - start : 0);
             return;
         case keys::kLeft:
-            control.selStart = length > 0 ? start : std::max(0, start - 1);
-            control.selLength = 0;
+            control.setSelStart(length > 0 ? start : std::max(0, start - 1));
             return;
         case keys::kRight:
-            control.selStart = length > 0 ? start + length : std::min(size, start + 1);
-            control.selLength = 0;
+            control.setSelStart(length > 0 ? start + length : std::min(size, start + 1));
             return;
         default: return;
     }

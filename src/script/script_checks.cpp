@@ -148,8 +148,8 @@ std::string ScriptRunner::property(const Control& c, const std::string& name) co
     if (is("TabIndex")) return std::to_string(c.tabIndex);
     if (is("Alignment")) return std::to_string(c.alignment);
     if (is("MaxLength")) return std::to_string(c.maxLength);
-    if (is("SelStart")) return std::to_string(c.selStart);
-    if (is("SelLength")) return std::to_string(c.selLength);
+    if (is("SelStart")) return std::to_string(c.selStart());
+    if (is("SelLength")) return std::to_string(c.selLength());
     if (is("Left")) return std::to_string(c.left);
     if (is("Top")) return std::to_string(c.top);
     if (is("Width")) return std::to_string(c.width);

@@ -119,8 +119,7 @@ void ScriptUi::answerSaveForm(Form& save) {
     const char* button = choice == "save" ? "cmdSave" : choice == "sequence" ? "cmdNewSequence" : "cmdExit";
     if (choice == "save" && answer->words.size() > 1 && name) {
         program().desktop.click(*name);
-        name->selStart = 0;
-        name->selLength = static_cast<int>(name->text.size());
+        name->select(0, static_cast<int>(name->text.size()));
         for (char c : answer->words[1]) program().desktop.typeCharacter(c);
     }
     if (Control* pressed = save.find(button)) program().desktop.click(*pressed);

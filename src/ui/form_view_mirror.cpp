@@ -74,9 +74,8 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         if (line->alignment() != (horizontal | Qt::AlignVCenter))
             line->setAlignment(horizontal | Qt::AlignVCenter);
         if (line->hasFrame() != (control.borderStyle != 0)) line->setFrame(control.borderStyle != 0);
-        const int size = static_cast<int>(text.size());
-        const int start = std::clamp(control.selStart, 0, size);
-        const int length = std::clamp(control.selLength, 0, size - start);
+        const int start = control.selStart();
+        const int length = control.selLength();
         const int shownStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
         const int shownLength = static_cast<int>(line->selectedText().size());
         if (shownStart != start || shownLength != length) {
@@ -96,8 +95,8 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         }
         const QFrame::Shape frame = control.borderStyle != 0 ? QFrame::StyledPanel : QFrame::NoFrame;
         if (box->frameShape() != frame) box->setFrameShape(frame);
-        const int start = editorPosition(control.text, control.selStart);
-        const int end = editorPosition(control.text, control.selStart + std::max(0, control.selLength));
+        const int start = editorPosition(control.text, control.selStart());
+        const int end = editorPosition(control.text, control.selStart() + control.selLength());
         QTextCursor cursor = box->textCursor();
         if (cursor.selectionStart() != start || cursor.selectionEnd() != end) {
             cursor.setPosition(start);
@@ -137,12 +136,12 @@ void FormView::takeSelection(Control& control) {
     if (refreshing_ || !form_ || !isModelFocus(control)) return;
     // The operator's mouse chose a caret or a selection: the model keeps it, with no event.
     if (auto* line = qobject_cast<QLineEdit*>(editors_.value(&control))) {
-        control.selStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
-        control.selLength = static_cast<int>(line->selectedText().size());
+        control.select(line->hasSelectedText() ? line->selectionStart() : line->cursorPosition(),
+                       static_cast<int>(line->selectedText().size()));
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(editors_.value(&control))) {
         const QTextCursor cursor = box->textCursor();
-        control.selStart = modelPosition(control.text, cursor.selectionStart());
-        control.selLength = modelPosition(control.text, cursor.selectionEnd()) - control.selStart;
+        const int start = modelPosition(control.text, cursor.selectionStart());
+        control.select(start, modelPosition(control.text, cursor.selectionEnd()) - start);
     }
 }
 

@@ -87,7 +87,7 @@ TEST_F(ControlsTest, AMultiLineBoxBreaksAtCarriageReturnLineFeed) {
     EXPECT_EQ(notes.text, "ab\r\ncd");
     EXPECT_EQ(box->toPlainText(), QStringLiteral("ab\ncd"));
     // The caret stands after "cd": six characters in the model, five in the editor.
-    EXPECT_EQ(notes.selStart, 6);
+    EXPECT_EQ(notes.selStart(), 6);
     EXPECT_EQ(box->textCursor().position(), 5);
 }
 

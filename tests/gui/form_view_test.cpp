@@ -117,8 +117,7 @@ TEST_F(FormViewTest, PasteTakesTheClipboardThroughTheModel) {
 
 TEST_F(FormViewTest, CopyPutsTheModelsSelectionOnTheClipboard) {
     first_->text = "123-45-6789";
-    first_->selStart = 4;
-    first_->selLength = 2;
+    first_->select(4, 2);
     refreshAll();
     EXPECT_EQ(editor("Text1_0")->selectedText(), QStringLiteral("45"));
     press(view_.get(), Qt::Key_C, Qt::ControlModifier);
@@ -167,9 +166,9 @@ TEST_F(FormViewTest, AClickIntoTheFocusedFieldPlacesTheModelsCaret) {
     first_->text = "abcdef";
     refreshAll();
     QTest::mouseClick(editor("Text1_0"), Qt::LeftButton, {}, QPoint(2, 10));
-    EXPECT_EQ(first_->selStart, 0);
+    EXPECT_EQ(first_->selStart(), 0);
     press(view_.get(), Qt::Key_End);
-    EXPECT_EQ(first_->selStart, 6);
+    EXPECT_EQ(first_->selStart(), 6);
     EXPECT_EQ(editor("Text1_0")->cursorPosition(), 6);
 }
 

@@ -53,11 +53,11 @@ TEST_F(ConfigureFormTest, AClickedStatusTakesTheJointChangePointAtTheNextYear) {
 TEST_F(ConfigureFormTest, AFigureFieldIsSelectedAsItTakesTheFocus) {
     open();
     desktop().setFocus(form->txtSSRate);
-    EXPECT_EQ(form->txtSSRate.selStart, 0);
-    EXPECT_EQ(form->txtSSRate.selLength, 3);
+    EXPECT_EQ(form->txtSSRate.selStart(), 0);
+    EXPECT_EQ(form->txtSSRate.selLength(), 3);
     form->txtSSMax.text = "123,456,789,012,345,678.00";
     desktop().setFocus(form->txtSSMax);
-    EXPECT_EQ(form->txtSSMax.selLength, 20);
+    EXPECT_EQ(form->txtSSMax.selLength(), 20);
 }
 
 TEST_F(ConfigureFormTest, ATypedRateLosesItsPercentOnLeaving) {
@@ -78,8 +78,8 @@ TEST_F(ConfigureFormTest, ABadRateKeepsTheFocusAndStillReachesTheGlobal) {
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("Invalid Social Security Rate"), std::string::npos);
     EXPECT_EQ(desktop().focus(), &form->txtSSRate);
-    EXPECT_EQ(form->txtSSRate.selStart, 0);
-    EXPECT_EQ(form->txtSSRate.selLength, 4);
+    EXPECT_EQ(form->txtSSRate.selStart(), 0);
+    EXPECT_EQ(form->txtSSRate.selLength(), 4);
     EXPECT_EQ(g().SSRate, "12.5");
 }
 

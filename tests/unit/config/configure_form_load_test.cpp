@@ -185,8 +185,8 @@ TEST_F(ConfigureFormTest, ThePrintersComeDefaultFirstAndEachOnce) {
     // None remembered: the first is taken, remembered and shown whole.
     EXPECT_EQ(form->cbxPrinters.listIndex, 0);
     EXPECT_EQ(form->cbxPrinters.text, "Office");
-    EXPECT_EQ(form->cbxPrinters.selStart, 0);
-    EXPECT_EQ(form->cbxPrinters.selLength, 6);
+    EXPECT_EQ(form->cbxPrinters.selStart(), 0);
+    EXPECT_EQ(form->cbxPrinters.selLength(), 6);
     EXPECT_EQ(userInf("Printer"), "Office");
     EXPECT_EQ(g().PrinterName, "Office");
 }

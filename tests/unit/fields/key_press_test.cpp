@@ -95,8 +95,7 @@ TEST_F(FieldsTest, OnTheCheckFormCopyAndPasteGoThroughTheFilterAndAreSwallowed) 
     payee.text = "ANN LEE";
     ui.clipboard = "PASTED";
     prog().desktop.setFocus(payee);
-    payee.selStart = 0;
-    payee.selLength = 3;
+    payee.select(0, 3);
     prog().desktop.pressKey(0, keys::kCtrlMask, keys::kCtrlV);
     EXPECT_EQ(payee.text, "ANN LEE");
     prog().desktop.pressKey(0, keys::kCtrlMask, keys::kCtrlC);

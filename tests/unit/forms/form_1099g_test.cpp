@@ -70,8 +70,8 @@ TEST_F(Form1099GYearBox, ThreeDigitsKeepTheFocus) {
     EXPECT_EQ(focus(), &yearBox());
     // Back in the box, it has the look of a focused field and its text is selected for retyping.
     EXPECT_EQ(yearBox().backColor, test.program->g.LegendColors[9]);
-    EXPECT_EQ(yearBox().selStart, 0);
-    EXPECT_EQ(yearBox().selLength, 99);
+    EXPECT_EQ(yearBox().selStart(), 0);
+    EXPECT_EQ(yearBox().selLength(), 3);
 }
 
 TEST_F(Form1099GYearBox, OneDigitKeepsTheFocusAlsoWhenLeftBackwardsOrByAClick) {

@@ -50,11 +50,38 @@ TEST_F(KeyTest, FunctionKeysStopAtKeyDown) {
 
 TEST_F(KeyTest, TypingReplacesTheSelection) {
     field->text = "12345";
-    field->selStart = 1;
-    field->selLength = 3;
+    field->select(1, 3);
     type("x");
     EXPECT_EQ(field->text, "1x5");
-    EXPECT_EQ(field->selStart, 2);
+    EXPECT_EQ(field->selStart(), 2);
+}
+
+TEST_F(KeyTest, TheSelectionNeverReachesPastTheText) {
+    field->text = "ABCD";
+    field->select(0, 99);
+    EXPECT_EQ(field->selStart(), 0);
+    EXPECT_EQ(field->selLength(), 4);
+    field->setSelStart(10);
+    EXPECT_EQ(field->selStart(), 4);
+    EXPECT_EQ(field->selLength(), 0);
+    field->select(1, 2);
+    field->text = "AB";
+    EXPECT_EQ(field->selStart(), 1) << "a shorter text pulls the selection back with it";
+    EXPECT_EQ(field->selLength(), 1);
+    field->text.clear();
+    EXPECT_EQ(field->selStart(), 0);
+    EXPECT_EQ(field->selLength(), 0);
+}
+
+TEST_F(KeyTest, TypingOverASelectionAtMaxLengthReplacesIt) {
+    field->maxLength = 4;
+    type("1234");
+    field->select(1, 2);
+    type("x");
+    EXPECT_EQ(field->text, "1x4");
+    field->select(0, 3);
+    type("abcdef");
+    EXPECT_EQ(field->text, "abcd") << "the typed text fills the room the selection leaves, no more";
 }
 
 TEST_F(KeyTest, MaxLengthAndLockedAreHonoured) {
@@ -71,7 +98,7 @@ TEST_F(KeyTest, EnterBreaksTheLineOnlyInAMultiLineBox) {
     EXPECT_EQ(field->text, "ab");
     field->multiLine = true;
     field->text.clear();
-    field->selStart = 0;
+    field->setSelStart(0);
     type("a\rb");
     EXPECT_EQ(field->text, "a\r\nb");
 }
@@ -84,7 +111,7 @@ TEST_F(KeyTest, BackspaceDeleteHomeAndEndEditAsATextBoxDoes) {
     desktop.pressKey(keys::kDelete, 0, 0);
     EXPECT_EQ(field->text, "bc");
     desktop.pressKey(keys::kEnd, keys::kShiftMask, 0);
-    EXPECT_EQ(field->selLength, 2);
+    EXPECT_EQ(field->selLength(), 2);
     type("z");
     EXPECT_EQ(field->text, "z");
 }
@@ -100,8 +127,7 @@ TEST_F(KeyTest, PasteReplacesTheSelectionWithNoKeyFilterAndStopsAtALineEnd) {
 
 TEST_F(KeyTest, CtrlCopiesAndPastesThroughTheClipboard) {
     type("hello");
-    field->selStart = 0;
-    field->selLength = 5;
+    field->select(0, 5);
     desktop.pressKey('C', keys::kCtrlMask, keys::kCtrlC);
     EXPECT_EQ(ui.clipboard, "hello");
     desktop.pressKey('X', keys::kCtrlMask, keys::kCtrlX);

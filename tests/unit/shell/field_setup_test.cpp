@@ -21,8 +21,7 @@ struct FieldSetup : ::testing::Test {
         Control& c = form.add(ControlKind::TextBox, name, index);
         c.tag = tag;
         c.text = "abc";
-        c.selStart = 1;
-        c.selLength = 1;
+        c.select(1, 1);
         return c;
     }
     Color legend(int i) { return test.program->g.LegendColors[static_cast<std::size_t>(i)]; }
@@ -69,13 +68,13 @@ TEST_F(FieldSetup, AnUntaggedFieldKeepsItsSelectionWhereANameBlockIsSelected) {
     Control& plain = field("");
     Control_Setup(plain, false);
     EXPECT_EQ(plain.backColor, legend(9));
-    EXPECT_EQ(plain.selStart, 1);
-    EXPECT_EQ(plain.selLength, 1);
+    EXPECT_EQ(plain.selStart(), 1);
+    EXPECT_EQ(plain.selLength(), 1);
     Control& name = field("TPNAME", 1);
     Control_Setup(name, false);
     EXPECT_EQ(name.backColor, legend(9));
-    EXPECT_EQ(name.selStart, 0);
-    EXPECT_EQ(name.selLength, 99);
+    EXPECT_EQ(name.selStart(), 0);
+    EXPECT_EQ(name.selLength(), 3) << "the whole text, as a text box reports a selection of 99 on three characters";
 }
 
 TEST_F(FieldSetup, TheTextBehindAMiddleDotIsNoPartOfTheType) {
