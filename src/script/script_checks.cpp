@@ -7,6 +7,7 @@
 #include "model/program.h"
 #include "script/script_runner.h"
 #include "script/script_words.h"
+#include "shell/form_registry.h"
 #include "shell/frame_form.h"
 #include "store/inf_store.h"
 #include "text/case.h"
@@ -121,6 +122,10 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     }
     need(words, 3, "expect CTL \"TEXT\" or expect CTL.PROP VALUE");
     ControlReference ref = parseReference(what);
+    if (ref.index == kNoIndex && !ref.property.empty() && isFormName(ref.name)) {
+        std::string value = formProperty(ref.name, ref.property);
+        return expectThat(value == words[2], "\"" + value + "\"");
+    }
     Control& c = control(what);
     std::string value = ref.property.empty() ? utf8(c.shownText()) : property(c, ref.property);
     bool held = value == words[2];
@@ -160,6 +165,24 @@ std::string ScriptRunner::property(const Control& c, const std::string& name) co
     if (is("Value")) return flag(c.value);
     if (is("ListIndex")) return std::to_string(c.listIndex);
     throw ScriptError("unknown property " + name);
+}
+
+bool ScriptRunner::isFormName(const std::string& name) const {
+    return program_->desktop.findForm(name) || hasForm(name) || text::equalsNoCase(name, "F0_MDI");
+}
+
+// A form that is not open has only its visibility to show.
+std::string ScriptRunner::formProperty(const std::string& formName, const std::string& name) const {
+    auto is = [&](const char* p) { return text::equalsNoCase(name, p); };
+    const Form* form = program_->desktop.findForm(formName);
+    if (is("Visible")) return flag(form && form->isLoaded());
+    if (!form) throw ScriptError("the form " + formName + " is not open");
+    if (is("Caption")) return utf8(form->caption);
+    if (is("Left")) return std::to_string(form->left);
+    if (is("Top")) return std::to_string(form->top);
+    if (is("Width")) return std::to_string(form->width);
+    if (is("Height")) return std::to_string(form->height);
+    throw ScriptError("unknown form property " + name);
 }
 
 std::string ScriptRunner::global(const std::string& name) const {

@@ -45,6 +45,10 @@ void ScriptRunner::showValue(const std::vector<std::string>& words) {
     }
     need(words, 2, "show CTL[.PROP]");
     ControlReference ref = parseReference(words[1]);
+    if (ref.index == kNoIndex && !ref.property.empty() && isFormName(ref.name)) {
+        out_ << words[1] << " = \"" << formProperty(ref.name, ref.property) << "\"\n";
+        return;
+    }
     Control& c = control(words[1]);
     out_ << words[1] << " = \"" << (ref.property.empty() ? utf8(c.shownText()) : property(c, ref.property))
          << "\"\n";

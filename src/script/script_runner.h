@@ -44,6 +44,8 @@ private:
     Control& control(const std::string& reference) const;
     std::string property(const Control& control, const std::string& name) const;
     std::string global(const std::string& name) const;
+    bool isFormName(const std::string& name) const;
+    std::string formProperty(const std::string& formName, const std::string& name) const;
     std::string path(const std::string& word) const;
     void expectThat(bool held, const std::string& got);
     void requireRunning(const std::string& what) const;
