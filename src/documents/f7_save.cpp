@@ -1,7 +1,5 @@
 #include "documents/f7_save.h"
 
-#include <unistd.h>
-
 #include <cctype>
 #include <filesystem>
 #include <system_error>
@@ -13,6 +11,7 @@
 #include "model/program.h"
 #include "shell/paths.h"
 #include "store/atomic_file.h"
+#include "store/disk.h"
 #include "text/case.h"
 #include "text/masks.h"
 
@@ -50,9 +49,7 @@ std::string folderOf(const std::string& path) {
     return path.substr(0, slash == 0 ? 1 : slash);
 }
 
-bool canWriteInto(const std::string& folder) {
-    return ::access(folder.empty() ? "." : folder.c_str(), W_OK) == 0;
-}
+bool canWriteInto(const std::string& folder) { return store::disk().canWriteInto(folder); }
 
 int lineCount(const std::string& text) {
     int lines = 1;

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "store/disk.h"
+
 namespace lw::store {
 
 namespace {
@@ -47,7 +49,9 @@ bool writeFileAtomically(const std::filesystem::path& file, std::string_view byt
 
     errno = 0;
     bool ok = std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
-    ok = std::fflush(f) == 0 && ok;
+    // The new bytes reach the device before the name moves to them: a power cut in between leaves the old
+    // file whole, never an empty or partial one under its name.
+    ok = ok && disk().syncFile(f, tmp);
     int writeErrno = errno;
     ok = std::fclose(f) == 0 && ok;
     if (!ok) {
@@ -61,12 +65,15 @@ bool writeFileAtomically(const std::filesystem::path& file, std::string_view byt
             std::filesystem::permissions(tmp, old.permissions(), ec);
         }
         ec.clear();
-        std::filesystem::rename(tmp, file, ec);
+        disk().rename(tmp, file, ec);
         if (ec) {
             ok = false;
             error = "cannot replace " + file.string() + ": " + ec.message();
         }
     }
+    // The rename itself is kept by the folder. Some file systems cannot sync a folder; the file is whole
+    // either way, so that refusal is no failure of the save.
+    if (ok) disk().syncFolder(file.has_parent_path() ? file.parent_path() : std::filesystem::path("."));
     if (!ok) std::filesystem::remove(tmp, ec);
     return ok;
 }
