@@ -42,7 +42,11 @@ std::string joinLines(const std::vector<std::string>& lines) {
 }
 
 const char* iconPicture(MessageBoxIcon icon) {
-    return icon == MessageBoxIcon::Exclamation ? "exclamation" : "information";
+    switch (icon) {
+        case MessageBoxIcon::Exclamation: return "exclamation";
+        case MessageBoxIcon::Question: return "question";
+        default: return "information";
+    }
 }
 
 }  // namespace

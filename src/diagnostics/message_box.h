@@ -13,7 +13,7 @@
 
 namespace lw {
 
-enum class MessageBoxIcon { Information, Exclamation };
+enum class MessageBoxIcon { Information, Exclamation, Question };
 
 // The values a call hands the box and the answer it hands back. They are process-wide because the answer
 // outlives the box; a modal box keeps two calls from overlapping.

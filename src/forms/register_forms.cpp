@@ -7,6 +7,8 @@
 #include "documents/record.h"
 #include "documents/saving.h"
 #include "model/program.h"
+#include "output/form_print.h"
+#include "output/screen_clip.h"
 #include "shell/frame_command_hooks.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
@@ -21,11 +23,21 @@ namespace {
 // The configuration form keeps its figures in the rates file: Save writes them, closing asks about them.
 void wireConfigureCommands() {
     FrameCommandHooks& hooks = frameCommandHooks();
-    hooks.saveRates = [] {
-        SS_MC_Save();
+    hooks.markRatesKept = [] {
         if (auto* form = dynamic_cast<F1_Configure*>(program().desktop.findForm("F1_Configure"))) form->bChanged = false;
     };
+    hooks.saveRates = [] {
+        SS_MC_Save();
+        frameCommandHooks().markRatesKept();
+    };
     hooks.checkRateChanges = [] { SS_MC_Check_Changes(); };
+}
+
+void wireOutputCommands() {
+    FrameCommandHooks& hooks = frameCommandHooks();
+    hooks.screenClip = [] { Screen_Clip(); };
+    hooks.printForm = [](Form& form) { Form_Print(form); };
+    hooks.mdiClip = [] { MDI_Clip(); };
 }
 
 }  // namespace
@@ -33,6 +45,7 @@ void wireConfigureCommands() {
 void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
+    wireOutputCommands();
     frameCommandHooks().openFile = [] { Open_File(); };
     frameCommandHooks().saveFile = [] { Save_File(); };
     // Forms with handlers of their own.

@@ -31,6 +31,7 @@ inline bool isDataError(int number) { return number >= 800 && number <= 899; }
 // Run-time faults keep the numbers the operator would recognise from the classic runtime.
 namespace err {
 constexpr int kInvalidProcedureCall = 5;
+constexpr int kDivisionByZero = 11;
 constexpr int kSubscriptOutOfRange = 9;
 constexpr int kTypeMismatch = 13;
 constexpr int kFileNotFound = 53;

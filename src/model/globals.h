@@ -59,6 +59,9 @@ struct Globals {
 
     // The printer chosen on the configuration form, and the file name template of the four.
     std::string PrinterName;
+    // The printer that pages go to: the configured one once a print has found it among the machine's
+    // printers, else the machine's default (empty).
+    std::string CurrentPrinter;
     std::string FileNameFormat;
 
     // The tax year: Last Year, This Year, Next Year and "20XX".

@@ -34,6 +34,13 @@ public:
     virtual void refresh() {}
     // Puts a picture of the form's client area, at its pixel size, on the clipboard.
     virtual void copyPictureToClipboard(Form& form) = 0;
+    // Prints the form at its true size on the named printer (the system's default when none is named);
+    // false when the page could not be printed.
+    virtual bool printForm(const Form& form, const std::string& printer) {
+        (void)form;
+        (void)printer;
+        return false;
+    }
     virtual std::string clipboardText() = 0;
     virtual void setClipboardText(const std::string& text) = 0;
     // Asks for a path; nothing when the operator cancels. The open dialog lets the operator delete a file.

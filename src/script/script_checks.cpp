@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "model/program.h"
+#include "output/form_print.h"
 #include "script/script_runner.h"
 #include "script/script_words.h"
 #include "shell/form_registry.h"
@@ -25,6 +26,29 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     if (what == "clipboard")
         return expectThat(session_.clipboardPicture.has_value(),
                           session_.clipboardPicture ? "a picture" : "no picture");
+    if (what == "clipboard-size") {
+        need(words, 3, "expect clipboard-size WIDTHxHEIGHT");
+        const std::string size = session_.clipboardPicture ? std::to_string(session_.clipboardPicture->width()) + "x" +
+                                                                 std::to_string(session_.clipboardPicture->height())
+                                                           : "no picture";
+        return expectThat(size == words[2], size);
+    }
+    if (what == "clipboard-pixel" || what == "printed-pixel") {
+        need(words, 5, "expect clipboard-pixel|printed-pixel X Y \"#RRGGBB\"");
+        const std::optional<QImage>& picture =
+            what == "clipboard-pixel" ? session_.clipboardPicture : session_.printedPicture;
+        const int x = std::atoi(words[2].c_str());
+        const int y = std::atoi(words[3].c_str());
+        if (!picture) return expectThat(false, "no picture");
+        if (!picture->valid(x, y)) return expectThat(false, "a point outside the picture");
+        const std::string colour = picture->pixelColor(x, y).name().toUpper().toStdString();
+        return expectThat(colour == text::toUpper(words[4]), colour);
+    }
+    if (what == "printed") {
+        need(words, 3, "expect printed N");
+        return expectThat(std::to_string(session_.printedPages) == words[2],
+                          std::to_string(session_.printedPages) + " pages");
+    }
     if (what == "exists" || what == "missing") {
         need(words, 3, "expect exists|missing PATH");
         std::error_code ec;
@@ -102,6 +126,11 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
                                 ? utf8(item->caption)
                                 : throw ScriptError("unknown menu property " + prop);
         return expectThat(value == words[3], "\"" + value + "\"");
+    }
+    if (what == "printer") {
+        need(words, 3, "expect printer \"NAME\"");
+        const std::string printer = utf8(currentPrinter());
+        return expectThat(printer == words[2], "\"" + printer + "\"");
     }
     if (what == "form") {
         need(words, 3, "expect form NAME");

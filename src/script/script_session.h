@@ -58,6 +58,8 @@ struct Session {
     std::optional<std::string> lastDialog;
     std::optional<QImage> clipboardPicture;
     std::string clipboardText;
+    int printedPages = 0;
+    std::optional<QImage> printedPicture;  // the last page printed, drawn as the clipboard picture is
     bool ended = false;
 
     // A fault of the script found while the program was running (an answer naming no button).

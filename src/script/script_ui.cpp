@@ -6,6 +6,7 @@
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "ui/clipboard_picture.h"
+#include "ui/form_printer.h"
 
 namespace lw::script {
 
@@ -129,6 +130,15 @@ void ScriptUi::copyPictureToClipboard(Form& form) {
     session_.clipboardPicture = ui::renderForm(form);
     *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width()
                   << "x" << session_.clipboardPicture->height() << "\n";
+}
+
+// The printer is a file: each page is counted, and written as a PDF where the script asked for one.
+bool ScriptUi::printForm(const Form& form, const std::string& printer) {
+    ++session_.printedPages;
+    session_.printedPicture = ui::renderForm(form);
+    *session_.out << "printed " << form.name() << " on \"" << forOutput(printer) << "\"\n";
+    if (session_.printTo.empty()) return true;
+    return ui::printFormToPdf(form, QString::fromStdString(session_.printTo));
 }
 
 std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request) {

@@ -12,6 +12,7 @@ public:
 
     void runModal(Form& form) override;
     void copyPictureToClipboard(Form& form) override;
+    bool printForm(const Form& form, const std::string& printer) override;
     std::string clipboardText() override { return session_.clipboardText; }
     void setClipboardText(const std::string& text) override { session_.clipboardText = text; }
     bool openDocument(const std::string& path) override;

@@ -19,6 +19,8 @@ struct FrameCommandHooks {
     // The configuration form's own Save and closing check.
     std::function<void()> saveRates;
     std::function<void()> checkRateChanges;
+    // The frame's Print counts as keeping the figures on the screen.
+    std::function<void()> markRatesKept;
 };
 
 FrameCommandHooks& frameCommandHooks();

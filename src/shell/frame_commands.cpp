@@ -88,6 +88,7 @@ void runOutputCommand(const std::string& pressed, Form& active) {
         hooks().printForm(active);
         Form_Init_Reset();
         if (configure) {
+            if (hooks().markRatesKept) hooks().markRatesKept();
             active.setFocus(active.at("cbxPrinters"));
         } else if (Control* first = active.find("Text1", 0)) {
             Control_Setup(*first, false);

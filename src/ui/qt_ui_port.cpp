@@ -58,6 +58,8 @@ void QtUiPort::refresh() { refreshAll(); }
 
 void QtUiPort::copyPictureToClipboard(Form& form) { copyFormPicture(form); }
 
+bool QtUiPort::printForm(const Form& form, const std::string& printer) { return ui::printForm(form, printer); }
+
 std::string QtUiPort::clipboardText() {
     const QString text = QApplication::clipboard()->text();
     std::optional<std::string> bytes = toCp1252(text);

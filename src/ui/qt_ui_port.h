@@ -25,6 +25,7 @@ public:
     void childActivated(Form& form) override;
     void refresh() override;
     void copyPictureToClipboard(Form& form) override;
+    bool printForm(const Form& form, const std::string& printer) override;
     std::string clipboardText() override;
     void setClipboardText(const std::string& text) override;
     bool openDocument(const std::string& path) override;

@@ -1,0 +1,54 @@
+#include "output/form_print.h"
+
+#include <string>
+
+#include "diagnostics/error_tail.h"
+#include "diagnostics/message_box.h"
+#include "model/app_error.h"
+#include "model/program.h"
+
+namespace lw {
+
+namespace {
+
+constexpr int kPrinterError = 482;
+
+Globals& g() { return program().g; }
+
+}  // namespace
+
+std::string currentPrinter() {
+    if (!g().CurrentPrinter.empty()) return g().CurrentPrinter;
+    const std::vector<std::string> printers = program().platform.printers();
+    return printers.empty() ? std::string() : printers.front();
+}
+
+void Form_Print(Form& form) {
+    // The colours of the field in focus must not reach the paper.
+    for (const auto& owned : form.controls())
+        if (owned->isTextBox()) owned->backColor = kWhite;
+    // A configured printer that has gone leaves the current one, without a word.
+    for (const std::string& printer : program().platform.printers()) {
+        if (printer == g().PrinterName) {
+            g().CurrentPrinter = printer;
+            break;
+        }
+    }
+    runGuarded("M3_Ledgerwick:Form_Print", [&] {
+        if (g().bDebug) {
+            const std::string answer =
+                showMessageBox("Print?", 800, "Do you want to print?", {"Yes", "No", "", ""}, false, 1,
+                               MessageBoxIcon::Question);
+            if (answer == "No") return;
+        }
+        if (program().platform.printers().empty())
+            throw AppError(kPrinterError,
+                           "Printer error: no printer is installed on this machine, so the form "
+                           "cannot be printed. Add a printer to the system and print again.");
+        if (!program().ui.printForm(form, currentPrinter()))
+            throw AppError(kPrinterError, "Printer error: the printer " + currentPrinter() +
+                                              " did not take the page of " + form.caption + ".");
+    });
+}
+
+}  // namespace lw

@@ -1,0 +1,204 @@
+// The Clip command: the form on show is cut to its document and restyled as paper, its picture goes to
+// the clipboard, and the form is put back as the operator left it.
+#include "output/screen_clip.h"
+
+#include "config/configure_form.h"
+#include "diagnostics/error_tail.h"
+#include "diagnostics/picture_capture.h"
+#include "fields/control_setup.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "shell/form_lifecycle.h"
+#include "text/case.h"
+
+namespace lw {
+
+namespace {
+
+constexpr Color kSystemWindow = kWhite;
+
+Globals& g() { return program().g; }
+
+bool isKOne(const std::string& key) { return key == "K11041" || key == "K11065" || key == "K11120S"; }
+
+// The part of the name after the first "_", in capitals: TF_W2 gives W2.
+std::string clipKeyOf(const Form& form) {
+    const std::string& name = form.name();
+    const std::size_t bar = name.find('_');
+    return text::toUpper(bar == std::string::npos ? name : name.substr(bar + 1));
+}
+
+void cutBelow(Form& form, const char* control) {
+    const Control& c = form.at(control);
+    form.height = c.top + c.height;
+}
+
+// Each statement on its own: a form that lacks the first control still takes the second.
+void cutToBorder(Form& form) {
+    for (const char* border : {"Shape5", "myBorder"}) {
+        if (const Control* c = form.find(border)) form.height = c->top + c->height;
+    }
+}
+
+// The sheet is cut below the first block of people when the rows of the second are unused.
+void cutTaxpayerSheet(Form& form) {
+    bool secondBlockUsed = false;
+    for (int i = 6; i <= 24 && !secondBlockUsed; i += 3) secondBlockUsed = !form.at("Text1", i).text.empty();
+    cutBelow(form, secondBlockUsed ? "Shape2" : "Shape1");
+    form.setFocus(form.at("Text1", 0));
+}
+
+// No card moves: empty cards are hidden and the form is cut to the rows and columns still in use.
+void cutCardGrid(Form& form) {
+    auto card = [&](int n) -> Control& { return form.at("Frame1", n); };
+    const int t0 = card(0).top, t3 = card(3).top, t6 = card(6).top;
+    const int l0 = card(0).left, l1 = card(1).left, l2 = card(2).left;
+    const int h = card(0).height, w = card(1).width;
+    int hidden = 0;
+    for (int n = 0; n <= 16; n += 2) {
+        if (!form.at("Text1", n).text.empty()) continue;
+        card(n / 2).visible = false;
+        ++hidden;
+    }
+    if (hidden == 0) return;
+    auto anyShown = [&](int a, int b, int c) {
+        return card(a).visible || card(b).visible || card(c).visible;
+    };
+    form.height = anyShown(6, 7, 8) ? t6 + h : anyShown(3, 4, 5) ? t3 + h : t0 + h;
+    form.width = anyShown(2, 5, 8) ? l2 + w : anyShown(1, 4, 7) ? l1 + w : l0 + w;
+    program().ui.refresh();
+}
+
+void cutToDocument(Form& form, const std::string& key) {
+    if (key == "TPINFO") {
+        cutTaxpayerSheet(form);
+    } else if (key == "DL") {
+        form.at("Frame1").visible = false;
+        const Control& status = form.at("labelMisc");
+        form.height = status.top + 300;
+        if (form.at("Text1", 4).text.empty()) form.at("Picture3").visible = false;
+        form.setFocus(form.at("Text1", 0));
+    } else if (key == "1098E" || key == "1098T" || key == "1099B" || key == "1099R") {
+        for (const char* header : {"H2", "H2_OMB", "H2_FormLabel", "H2_FormName"})
+            if (Control* label = form.find(header)) label->backColor = kWhite;
+    } else if (key == "SS_ITIN") {
+        cutCardGrid(form);
+    } else if (key == "SSA1099") {
+        const Control& last = form.at("Label1", 33);
+        form.height = last.top + last.height;
+    } else if (key == "RRB1099") {
+        const Control& last = form.at("LabelForm", 3);
+        form.height = last.top + last.height;
+    } else if (key == "CONFIGURE") {
+        cutBelow(form, "Frame6");
+    } else if (!isKOne(key)) {
+        cutToBorder(form);
+    }
+}
+
+bool isPictureOfItsOwn(const Control& c) {
+    const std::string name = text::toLower(c.name);
+    return name == "h1" || name == "picture1" || name == "picture3" || name == "picdl";
+}
+
+// Field colours, selections and grey backgrounds must not reach the picture.
+void paintAsPaper(Form& form, const std::string& key) {
+    const bool opaquePartLabels = isKOne(key) || text::startsWithNoCase(key, "1095");
+    for (const auto& owned : form.controls()) {
+        Control& c = *owned;
+        switch (c.kind) {
+            case ControlKind::TextBox:
+                c.backColor = kWhite;
+                c.select(0, 0);
+                break;
+            case ControlKind::Label:
+            case ControlKind::CheckLabel:
+                if (g().bDebug) c.backColor = kWhite;
+                if (opaquePartLabels) {
+                    c.opaque = c.name == "LabelPart";
+                } else if (key == "1099A") {
+                    const bool boxSix = c.name == "Label1" && c.index == 6;
+                    c.backColor = boxSix ? kSystemWindow : kWhite;
+                    c.opaque = boxSix;
+                } else {
+                    c.opaque = false;
+                }
+                break;
+            case ControlKind::Picture:
+                if (!isPictureOfItsOwn(c)) c.backColor = kWhite;
+                break;
+            case ControlKind::Frame:
+            case ControlKind::OptionButton:
+                c.backColor = kWhite;
+                break;
+            default:
+                break;
+        }
+    }
+}
+
+void putBack(Form& form, const std::string& key) {
+    if (key == "CONFIGURE") {
+        if (auto* configure = dynamic_cast<F1_Configure*>(&form)) configure->bChanged = false;
+        form.setFocus(form.at("cbxPrinters"));
+    } else if (key == "1099A") {
+        for (const auto& owned : form.controls()) {
+            Control& c = *owned;
+            if (c.kind != ControlKind::Label) continue;
+            if ((c.name == "Label1" && c.index != 6) || text::startsWithNoCase(c.name, "ftr") ||
+                text::startsWithNoCase(c.name, "RTL"))
+                c.backColor = kButtonFace;
+        }
+    } else if (key == "SS_ITIN") {
+        for (Control* card : form.arrayOf("Frame1")) card->visible = true;
+    } else {
+        Control& first = form.at("Text1", 0);
+        Control_Setup(first, false);
+        form.setFocus(first);
+        form.at("labelMisc").visible = true;
+    }
+}
+
+}  // namespace
+
+bool Screen_Clip() {
+    bool ready = true;
+    runGuarded("M5_ClipCode:Screen_Clip", [&] {
+        Form* form = g().CurrentForm;
+        if (!form) return;
+        const std::string key = g().FormKey;
+        cutToDocument(*form, key);
+        paintAsPaper(*form, key);
+    });
+    return ready;
+}
+
+void MDI_Clip() {
+    Form* form = program().desktop.activeChild();
+    if (!form) return;
+    const int height = form->height;
+    const int width = form->width;
+    bool restyled = false;
+    runGuarded("F0_MDI:MDI_Clip", [&] {
+        // The way to try out the error report: the clip fails before it touches the form.
+        if (text::containsNoCase(program().platform.commandLine(), "error"))
+            throw AppError(err::kDivisionByZero, "Division by zero");
+        restyled = true;
+        const std::string key = clipKeyOf(*form);
+        if (key == "SSA1099") form->height = 8500;
+        if (key == "RRB1099") form->height = 9560;
+        form->at("labelMisc").visible = false;
+        // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
+        if (Screen_Clip()) CopyEntirePicture(*form);
+    });
+    if (!restyled) return;
+    // The form comes back whatever the clip did.
+    runGuarded("F0_MDI:MDI_Clip", [&] {
+        form->height = height;
+        form->width = width;
+        Form_Init_Reset();
+        putBack(*form, clipKeyOf(*form));
+    });
+}
+
+}  // namespace lw
