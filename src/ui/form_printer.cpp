@@ -10,15 +10,23 @@
 
 namespace lw::ui {
 
+void paintAtTrueSize(QPainter& painter, const QSize& page, int resolution, const Form& form) {
+    double scale = resolution / 1440.0;
+    const QSize natural = formSize(form, scale);
+    if (natural.width() > page.width() || natural.height() > page.height())
+        scale *= std::min(double(page.width()) / natural.width(), double(page.height()) / natural.height());
+    // A form cut to its document shows nothing below or beside the cut, as on the clipboard picture.
+    painter.save();
+    painter.setClipRect(QRect(QPoint(0, 0), formSize(form, scale)));
+    FormPainter(scale).paintForm(painter, form);
+    painter.restore();
+}
+
 bool paintOnPrinter(QPrinter& printer, const Form& form) {
     QPainter painter;
     if (!painter.begin(&printer)) return false;
     const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
-    double scale = printer.resolution() / 1440.0;
-    const QSize natural = formSize(form, scale);
-    if (natural.width() > page.width() || natural.height() > page.height())
-        scale *= std::min(double(page.width()) / natural.width(), double(page.height()) / natural.height());
-    FormPainter(scale).paintForm(painter, form);
+    paintAtTrueSize(painter, page.size(), printer.resolution(), form);
     return painter.end();
 }
 

@@ -6,7 +6,9 @@
 
 #include "model/form.h"
 
+class QPainter;
 class QPrinter;
+class QSize;
 
 namespace lw::ui {
 
@@ -16,5 +18,8 @@ bool printForm(const Form& form, const std::string& printerName);
 bool printFormToPdf(const Form& form, const QString& path);
 // Paints the form on a printer that has been set up: at its true size, made smaller only to fit the page.
 bool paintOnPrinter(QPrinter& printer, const Form& form);
+// Paints the form at its true size (1440 twips to the inch at the device's resolution) from the top left
+// of the page, made smaller only when it does not fit.
+void paintAtTrueSize(QPainter& painter, const QSize& page, int resolution, const Form& form);
 
 }  // namespace lw::ui

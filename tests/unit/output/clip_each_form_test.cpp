@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <optional>
 #include <string>
@@ -9,6 +8,7 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "forms/register_forms.h"
+#include "qt_offscreen.h"
 #include "test_program.h"
 #include "ui/clipboard_picture.h"
 #include "ui/form_painter.h"
@@ -23,19 +23,7 @@ public:
     std::optional<QImage> picture;
 };
 
-class QtOffscreen : public ::testing::Environment {
-public:
-    void SetUp() override {
-        static int argc = 1;
-        static char name[] = "clip_each_form_test";
-        static char* argv[] = {name, nullptr};
-        if (!QGuiApplication::instance()) app_ = new QGuiApplication(argc, argv);
-    }
-
-private:
-    QGuiApplication* app_ = nullptr;
-};
-const auto* const kQt = ::testing::AddGlobalTestEnvironment(new QtOffscreen);
+const auto* const kQt = testing::addQtOffscreen();
 
 // What the operator could see change on a control: its place, size, colours, visibility and text. The
 // back colour of a see-through label shows nothing.

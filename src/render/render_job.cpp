@@ -1,0 +1,208 @@
+#include "render/render_job.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QString>
+#include <filesystem>
+#include <iomanip>
+#include <memory>
+#include <sstream>
+
+#include "forms/register_forms.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "output/screen_clip.h"
+#include "script/script_platform.h"
+#include "script/script_session.h"
+#include "script/script_ui.h"
+#include "shell/frame_window_model.h"
+#include "text/cp1252.h"
+#include "ui/document_pages.h"
+
+namespace lw::render {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The program runs in a folder of its own that stands for the machine's disk, so that rendering leaves
+// the trainer's settings and remembered folders as they were.
+class ScratchRoot {
+public:
+    ScratchRoot() {
+        std::string pattern = (fs::temp_directory_path() / "ledgerwick-render-XXXXXX").string();
+        if (mkdtemp(pattern.data())) path_ = pattern;
+    }
+    ~ScratchRoot() {
+        std::error_code ec;
+        if (!path_.empty()) fs::remove_all(path_, ec);
+    }
+    const std::string& path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+// Where the pages go: one PDF book, or one picture per page in a folder.
+class PageSink {
+public:
+    explicit PageSink(const RenderOptions& options) : options_(options) {
+        if (!options.pdf.empty()) book_ = std::make_unique<ui::PdfBook>(QString::fromStdString(options.pdf));
+    }
+    bool add(const Form& form, const std::string& file) {
+        if (book_) return book_->addPage(form);
+        const QString name =
+            QFileInfo(QString::fromStdString(file)).completeBaseName() + QStringLiteral(".png");
+        return ui::writePagePicture(form, QDir(QString::fromStdString(options_.pngFolder)).filePath(name),
+                                    options_.zoom);
+    }
+    bool finish() { return !book_ || book_->pages() == 0 || book_->finish(); }
+
+private:
+    const RenderOptions& options_;
+    std::unique_ptr<ui::PdfBook> book_;
+};
+
+std::string utf8(const std::string& cp1252) { return text::cp1252ToUtf8(cp1252); }
+
+// What the program told the operator while it read the file, if anything went wrong.
+std::string troubleSince(const script::Session& session, std::size_t reports, std::size_t boxes) {
+    if (session.reports.size() > reports) return utf8(session.reports.back().description);
+    if (session.boxes.size() > boxes) {
+        std::string text = utf8(session.boxes.back().text);
+        // A Data Error box names the procedure and the number; the description is what the trainer needs.
+        const std::string label = "Error Description:";
+        if (const std::size_t at = text.find(label); at != std::string::npos)
+            text = text.substr(at + label.size());
+        for (char& c : text)
+            if (c == '\r' || c == '\n') c = ' ';
+        const std::size_t first = text.find_first_not_of(' ');
+        const std::size_t last = text.find_last_not_of(' ');
+        return first == std::string::npos ? text : text.substr(first, last - first + 1);
+    }
+    return {};
+}
+
+class Renderer {
+public:
+    Renderer(const RenderOptions& options, const std::string& executableFolder) {
+        session_.out = &log_;
+        session_.root = root_.path();
+        session_.edition = options.edition;
+        session_.executableFolder = executableFolder;
+        // The tax year of the documents is the one in force on a day of that year past its first of March.
+        if (options.year) session_.today = DateTime{*options.year, 6, 15, 12, 0, 0};
+        ui_ = std::make_unique<script::ScriptUi>(session_);
+        platform_ = std::make_unique<script::ScriptPlatform>(session_);
+        program_ = std::make_unique<Program>(*ui_, *platform_);
+        registerAllForms();
+        try {
+            loadFrame();
+        } catch (const ProgramEnded&) {
+            session_.ended = true;
+        }
+    }
+    ~Renderer() {
+        program_.reset();
+        platform_.reset();
+        ui_.reset();
+    }
+
+    bool started() const { return !root_.path().empty() && !session_.ended; }
+
+    // Opens the file as the Open command does; the form on the screen, or nothing with `why` set.
+    Form* open(const std::string& file, std::string& why) {
+        std::error_code ec;
+        if (fs::is_directory(file, ec)) {
+            why = "is a folder, not a document";
+            return nullptr;
+        }
+        if (!fs::exists(file, ec)) {
+            why = "no such file";
+            return nullptr;
+        }
+        const std::size_t reports = session_.reports.size();
+        const std::size_t boxes = session_.boxes.size();
+        const std::string path = fs::absolute(file, ec).string();
+        auto inCodePage = text::utf8ToCp1252(path);
+        if (!inCodePage) {
+            why = "its path holds characters outside the code page of the documents";
+            return nullptr;
+        }
+        session_.answers.push_back({0, "file", {*inCodePage}});
+        try {
+            program_->desktop.chooseMenu("mnuControlOpen");
+        } catch (const ProgramEnded&) {
+            session_.ended = true;
+            why = "the program ended while reading it";
+            return nullptr;
+        }
+        session_.answers.clear();
+        why = troubleSince(session_, reports, boxes);
+        Form* form = program_->desktop.activeChild();
+        if (why.empty() && !form) why = "no form was opened";
+        if (!why.empty()) return nullptr;
+        // The print look: cut to the document, white fields, no selection.
+        Screen_Clip();
+        return form;
+    }
+
+private:
+    std::ostringstream log_;
+    ScratchRoot root_;
+    script::Session session_;
+    std::unique_ptr<script::ScriptUi> ui_;
+    std::unique_ptr<script::ScriptPlatform> platform_;
+    std::unique_ptr<Program> program_;
+};
+
+std::string progress(std::size_t done, std::size_t total) {
+    if (total <= 10) return {};
+    std::ostringstream s;
+    s << "[" << std::setw(static_cast<int>(std::to_string(total).size())) << done << "/" << total << "] ";
+    return s.str();
+}
+
+}  // namespace
+
+int renderDocuments(const RenderOptions& options, const std::string& executableFolder, std::ostream& out,
+                    std::ostream& err) {
+    if (!options.pngFolder.empty()) {
+        std::error_code ec;
+        fs::create_directories(options.pngFolder, ec);
+        if (!fs::is_directory(options.pngFolder, ec)) {
+            err << "ledgerwick-render: cannot make the folder " << options.pngFolder << "\n";
+            return 1;
+        }
+    }
+    Renderer renderer(options, executableFolder);
+    if (!renderer.started()) {
+        err << "ledgerwick-render: the program could not start\n";
+        return 1;
+    }
+    PageSink pages(options);
+    int failed = 0;
+    int rendered = 0;
+    for (std::size_t i = 0; i < options.files.size(); ++i) {
+        const std::string& file = options.files[i];
+        std::string why;
+        Form* form = renderer.open(file, why);
+        if (form && !pages.add(*form, file)) why = "its page could not be written";
+        if (!form || !why.empty()) {
+            ++failed;
+            err << "ledgerwick-render: " << file << ": skipped: " << why << "\n";
+            continue;
+        }
+        ++rendered;
+        out << progress(i + 1, options.files.size()) << file << ": " << form->name() << ", page " << rendered
+            << "\n";
+    }
+    if (!pages.finish()) {
+        err << "ledgerwick-render: " << options.pdf << " could not be written\n";
+        return 1;
+    }
+    if (rendered == 0 && !options.pdf.empty()) err << "ledgerwick-render: no page was rendered\n";
+    return failed == 0 ? 0 : 1;
+}
+
+}  // namespace lw::render

@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue_table.h"
+#include "catalogue/definitions.h"
+#include "documents/record.h"
+#include "forms/register_forms.h"
+#include "qt_offscreen.h"
+#include "render/render_job.h"
+#include "shell/form_lifecycle.h"
+#include "test_program.h"
+
+namespace lw {
+namespace {
+
+namespace fs = std::filesystem;
+
+const auto* const kQt = testing::addQtOffscreen();
+
+// The standard output of a command, or nothing when it could not run.
+std::optional<std::string> commandOutput(const std::string& command) {
+    std::FILE* pipe = ::popen(command.c_str(), "r");
+    if (!pipe) return std::nullopt;
+    std::string output;
+    char buffer[4096];
+    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) output.append(buffer, n);
+    if (::pclose(pipe) != 0) return std::nullopt;
+    return output;
+}
+
+std::vector<std::string> drawnDocuments() {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue())
+        if (hasDefinition(entry.form) && std::string(entry.form) != "F1_Configure")
+            names.push_back(entry.form);
+    return names;
+}
+
+struct Document {
+    std::string form;
+    std::string path;
+    std::vector<std::string> texts;  // what each filled field holds
+};
+
+// Writes one saved document of each drawn form, every text field holding a word of its own that the
+// page must show: Z1Z, Z2Z and so on.
+std::vector<Document> writeDocuments(const fs::path& folder) {
+    std::vector<Document> documents;
+    testing::TestProgram test;
+    registerAllForms();
+    test.start();
+    int word = 0;
+    for (const std::string& name : drawnDocuments()) {
+        test.program->g.CurrentFileName.clear();
+        Form* form = Form_Open(name);
+        if (!form) continue;
+        Document document{name, (folder / (name + ".venturo")).string(), {}};
+        for (const auto& c : form->controls()) {
+            if (!c->isTextBox() || !c->visible || c->tag == "DATE" || c->tag == "DATEX" ||
+                c->tag == "OUT OF SCOPE")
+                continue;
+            c->text = "Z" + std::to_string(++word) + "Z";
+            document.texts.push_back(c->text);
+        }
+        std::ofstream(document.path, std::ios::binary) << Build_Record() << "\r\n";
+        documents.push_back(document);
+    }
+    return documents;
+}
+
+struct Render : ::testing::Test {
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "lw-render-test-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+    }
+    void TearDown() override {
+        std::error_code ec;
+        fs::remove_all(folder, ec);
+    }
+    int render(render::RenderOptions options) {
+        out.str("");
+        err.str("");
+        return render::renderDocuments(options, testing::shippedDataFolder(), out, err);
+    }
+    fs::path folder;
+    std::ostringstream out;
+    std::ostringstream err;
+};
+
+TEST_F(Render, EachDrawnFormIsAPageWhoseTextLayerHoldsEveryField) {
+    const std::vector<Document> documents = writeDocuments(folder);
+    ASSERT_GE(documents.size(), 19u);
+    render::RenderOptions options;
+    options.year = 2025;
+    options.pdf = (folder / "book.pdf").string();
+    for (const Document& d : documents) options.files.push_back(d.path);
+    ASSERT_EQ(render(options), 0) << err.str();
+    EXPECT_EQ(err.str(), "");
+
+    const auto info = commandOutput("pdfinfo '" + options.pdf + "'");
+    ASSERT_TRUE(info) << "pdfinfo (poppler-utils) must be installed: tools/install-deps installs it";
+    EXPECT_NE(info->find("Pages:           " + std::to_string(documents.size()) + "\n"), std::string::npos)
+        << *info;
+    for (std::size_t page = 0; page < documents.size(); ++page) {
+        const Document& d = documents[page];
+        const auto text = commandOutput("pdftotext -f " + std::to_string(page + 1) + " -l " +
+                                        std::to_string(page + 1) + " '" + options.pdf + "' -");
+        ASSERT_TRUE(text);
+        for (const std::string& word : d.texts)
+            EXPECT_NE(text->find(word), std::string::npos) << d.form << ": " << word;
+    }
+    // The progress count stands before each line when there are more than ten files.
+    EXPECT_NE(out.str().find("[ 1/" + std::to_string(documents.size()) + "] "), std::string::npos)
+        << out.str();
+}
+
+TEST_F(Render, FilesThatAreNoDocumentsAreSkippedWithALineEachAndTheOthersRendered) {
+    auto write = [&](const std::string& name, const std::string& bytes) {
+        std::ofstream(folder / name, std::ios::binary) << bytes;
+        return (folder / name).string();
+    };
+    const std::string w2 = write("w2.venturo",
+                                 "W-2\xB7"
+                                 "2025\xB7TXT0=123-45-6789\r\n");
+    const std::string binary = write("picture.venturo", std::string("\x89PNG\r\n\x1a\n\0\0", 10));
+    const std::string empty = write("empty.venturo", "");
+    const std::string unknown = write("unknown.venturo",
+                                      "NOSUCHFORM\xB7"
+                                      "2025\xB7TXT0=1\r\n");
+    fs::create_directories(folder / "a-folder");
+    render::RenderOptions options;
+    options.pdf = (folder / "book.pdf").string();
+    options.files = {
+        binary, w2, empty, unknown, (folder / "gone.venturo").string(), (folder / "a-folder").string()};
+    EXPECT_EQ(render(options), 1);
+    const std::string lines = err.str();
+    EXPECT_NE(
+        lines.find(binary + ": skipped: The file " + binary + " is not a form file: it holds binary data."),
+        std::string::npos)
+        << lines;
+    EXPECT_NE(lines.find(empty + ": skipped: The file " + empty + " is not a form file: it is empty."),
+              std::string::npos)
+        << lines;
+    EXPECT_NE(lines.find(unknown + ": skipped: The file " + unknown + " is for \"NOSUCHFORM\""),
+              std::string::npos)
+        << lines;
+    EXPECT_NE(lines.find("gone.venturo: skipped: no such file"), std::string::npos) << lines;
+    EXPECT_NE(lines.find("a-folder: skipped: is a folder, not a document"), std::string::npos) << lines;
+    EXPECT_EQ(out.str(), w2 + ": TF_W2, page 1\n");
+    const auto info = commandOutput("pdfinfo '" + options.pdf + "'");
+    ASSERT_TRUE(info);
+    EXPECT_NE(info->find("Pages:           1\n"), std::string::npos) << *info;
+}
+
+TEST_F(Render, PicturesComeOnePerPageAtTheirZoom) {
+    std::ofstream(folder / "w2.venturo", std::ios::binary) << "W-2\xB7"
+                                                              "2025\xB7TXT0=123-45-6789\r\n";
+    render::RenderOptions options;
+    options.pngFolder = (folder / "pages").string();
+    options.zoom = 2;
+    options.files = {(folder / "w2.venturo").string()};
+    ASSERT_EQ(render(options), 0) << err.str();
+    QImage page(QString::fromStdString((folder / "pages" / "w2.png").string()));
+    ASSERT_FALSE(page.isNull());
+    EXPECT_EQ(page.width(), 2 * 896);
+    EXPECT_EQ(page.height(), 2 * 524) << "the print look is cut to the form's border";
+}
+
+TEST(RenderArguments, TheCommandLineIsCheckedBeforeAnythingIsRead) {
+    std::string error;
+    EXPECT_FALSE(render::parseArguments({"a.venturo"}, error));
+    EXPECT_EQ(error, "give either --pdf OUT.pdf or --png FOLDER");
+    EXPECT_FALSE(render::parseArguments({"--pdf", "o.pdf"}, error));
+    EXPECT_EQ(error, "no document to render");
+    EXPECT_FALSE(render::parseArguments({"--edition", "Other", "--pdf", "o.pdf", "a"}, error));
+    EXPECT_FALSE(render::parseArguments({"--year", "25", "--pdf", "o.pdf", "a"}, error));
+    EXPECT_FALSE(render::parseArguments({"--png", "d", "--zoom", "0", "a"}, error));
+    auto options =
+        render::parseArguments({"--edition", "OthAgcy", "--year", "2024", "--pdf", "o.pdf", "a", "b"}, error);
+    ASSERT_TRUE(options) << error;
+    EXPECT_EQ(options->edition, "Ledgerwick_OthAgcy");
+    EXPECT_EQ(options->year, 2024);
+    EXPECT_EQ(options->files, (std::vector<std::string>{"a", "b"}));
+}
+
+}  // namespace
+}  // namespace lw
