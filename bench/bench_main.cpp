@@ -11,7 +11,8 @@
 
 namespace lw::bench {
 void registerFormBenchmarks();
-}
+void registerOutputBenchmarks();
+}  // namespace lw::bench
 
 namespace {
 
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QGuiApplication app(argc, argv);
     lw::bench::registerFormBenchmarks();
+    lw::bench::registerOutputBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

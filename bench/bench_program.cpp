@@ -6,13 +6,17 @@
 #include "diagnostics/message_box.h"
 #include "forms/register_forms.h"
 #include "model/app_error.h"
+#include "shell/form_lifecycle.h"
 #include "shell/frame_window_model.h"
+#include "ui/clipboard_picture.h"
 
 #ifndef LW_SOURCE_DIR
 #error "LW_SOURCE_DIR names the source tree"
 #endif
 
 namespace lw::bench {
+
+void BenchUi::copyPictureToClipboard(Form& form) { ui::copyFormPicture(form); }
 
 void BenchUi::runModal(Form& form) {
     if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
@@ -59,6 +63,16 @@ void setWithholdingRates(Globals& g) {
     g.MCInitRate = "1.45";
     g.MCChgRateAfter = "200,000";
     g.MCRateAfter = "2.35";
+}
+
+OpenedForm::OpenedForm(benchmark::State& state, const std::string& formName) {
+    if (!bench.start()) {
+        state.SkipWithError("the program ended during start-up");
+        return;
+    }
+    setWithholdingRates(bench.program->g);
+    form = Form_Open(formName);
+    if (!form) state.SkipWithError("the form did not open");
 }
 
 }  // namespace lw::bench

@@ -2,6 +2,8 @@
 // A program for the benchmarks: ports that click the default button of every box, a clock that stands
 // still, sleeps recorded but never slept, a fresh temporary root and the shipped data folder.
 
+#include <benchmark/benchmark.h>
+
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -16,7 +18,8 @@ namespace lw::bench {
 class BenchUi : public UiPort {
 public:
     void runModal(Form& form) override;
-    void copyPictureToClipboard(Form&) override {}
+    // The picture drawn and put on the system clipboard, as the window does.
+    void copyPictureToClipboard(Form& form) override;
     std::string clipboardText() override { return clipboard; }
     void setClipboardText(const std::string& text) override { clipboard = text; }
     bool openDocument(const std::string&) override { return true; }
@@ -65,6 +68,17 @@ public:
     std::unique_ptr<Program> program;
     std::filesystem::path root;
 };
+
+// A form opened in a started program, or null with the benchmark failed.
+struct OpenedForm {
+    BenchProgram bench;
+    Form* form = nullptr;
+
+    OpenedForm(benchmark::State& state, const std::string& formName);
+};
+
+// The forms of the catalogue that have a drawing.
+std::vector<std::string> drawnForms();
 
 // Sets the withholding rates of the W-2 as a configured machine has them.
 void setWithholdingRates(Globals& g);

@@ -13,7 +13,6 @@
 #include "model/form.h"
 #include "shell/form_lifecycle.h"
 #include "store/atomic_file.h"
-#include "ui/clipboard_picture.h"
 
 namespace lw::bench {
 namespace {
@@ -58,22 +57,6 @@ void OpenForm(benchmark::State& state, const std::string& formName) {
         form->unload();
     }
 }
-
-// A form opened in a started program, or null with the benchmark failed.
-struct OpenedForm {
-    BenchProgram bench;
-    Form* form = nullptr;
-
-    OpenedForm(benchmark::State& state, const std::string& formName) {
-        if (!bench.start()) {
-            state.SkipWithError("the program ended during start-up");
-            return;
-        }
-        setWithholdingRates(bench.program->g);
-        form = Form_Open(formName);
-        if (!form) state.SkipWithError("the form did not open");
-    }
-};
 
 // Leaving the social security wages of the W-2: the money edit and the withholding worked out.
 void LeaveField(benchmark::State& state) {
@@ -140,15 +123,7 @@ void ReadFile(benchmark::State& state) {
 }
 BENCHMARK(ReadFile)->Unit(benchmark::kMicrosecond);
 
-// The clip: the form's picture drawn off-screen.
-void Clip(benchmark::State& state, const std::string& formName) {
-    OpenedForm opened(state, formName);
-    if (!opened.form) return;
-    for (auto _ : state) {
-        QImage picture = ui::renderForm(*opened.form);
-        benchmark::DoNotOptimize(picture.constBits());
-    }
-}
+}  // namespace
 
 std::vector<std::string> drawnForms() {
     std::vector<std::string> forms;
@@ -157,16 +132,11 @@ std::vector<std::string> drawnForms() {
     return forms;
 }
 
-}  // namespace
-
 void registerFormBenchmarks() {
     for (const std::string& name : drawnForms()) {
         benchmark::RegisterBenchmark(("OpenForm/" + name).c_str(), OpenForm, name)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);
-    }
-    for (const std::string& name : drawnForms()) {
-        benchmark::RegisterBenchmark(("Clip/" + name).c_str(), Clip, name)->Unit(benchmark::kMillisecond);
     }
 }
 
