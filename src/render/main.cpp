@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "render/render_job.h"
+#include "shell/paths.h"
 
 int main(int argc, char** argv) {
     std::vector<std::string> arguments(argv + 1, argv + argc);
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
         qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
     }
     QApplication app(argc, argv);
-    const std::string folder = QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString();
+    const std::string folder =
+        lw::shippedFilesFolder(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString());
     return lw::render::renderDocuments(*options, folder, std::cout, std::cerr);
 }

@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "script/script_runner.h"
+#include "shell/paths.h"
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -23,7 +24,8 @@ int main(int argc, char** argv) {
         qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
     }
     QApplication app(argc, argv);
-    std::string folder = QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString();
+    std::string folder =
+        lw::shippedFilesFolder(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString());
     lw::script::ScriptRunner runner(std::cout, folder);
     std::string name = argv[1];
     if (name == "-") return runner.run(std::cin);

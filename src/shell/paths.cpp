@@ -15,7 +15,8 @@ std::string joinPath(const std::string& folder, const std::string& name) {
 
 std::string infFilesFolder(const std::string& root) { return joinPath(root, "LedgerwickInfFiles"); }
 
-Edition venturoEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor) {
+Edition venturoEdition(const std::string& root, const std::string& appFolder,
+                       const std::string& versionMajor) {
     return Edition{"Venturo",
                    joinPath(infFilesFolder(root), "Venturo/UserVenturo.inf"),
                    joinPath(appFolder, "Ledgerwick_V" + versionMajor + "_Venturo_UserGuide.pdf"),
@@ -26,7 +27,8 @@ Edition venturoEdition(const std::string& root, const std::string& appFolder, co
                    "*.venturo"};
 }
 
-Edition othAgcyEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor) {
+Edition othAgcyEdition(const std::string& root, const std::string& appFolder,
+                       const std::string& versionMajor) {
     // The extension keeps its capital F while the dialog pattern stays lower case.
     return Edition{"OthAgcy",
                    joinPath(infFilesFolder(root), "OthAgcy/UserOthAgcy.inf"),
@@ -72,6 +74,17 @@ void installShippedInfFiles(const std::string& appFolder, const std::string& tar
         if (!ec) fs::rename(temporary, target, ec);
         if (ec) fs::remove(temporary, ec);
     }
+}
+
+std::string shippedFilesFolder(const std::string& executableFolder) {
+    if (fileExists(joinPath(executableFolder, "Forms.inf"))) return executableFolder;
+    const std::string installed = joinPath(executableFolder, "../share/ledgerwick");
+    if (fileExists(joinPath(installed, "Forms.inf"))) {
+        std::error_code ec;
+        const auto canonical = std::filesystem::weakly_canonical(installed, ec);
+        return ec ? installed : canonical.string();
+    }
+    return executableFolder;
 }
 
 }  // namespace lw

@@ -28,6 +28,10 @@ std::string fileFilter(const std::string& description, const std::string& patter
 bool folderExists(const std::string& path);
 bool fileExists(const std::string& path);
 
+// The folder of the shipped files (INF files, pictures, icons, guide): beside the executable, as in the
+// build tree, else ../share/ledgerwick from it, as an install lays them out.
+std::string shippedFilesFolder(const std::string& executableFolder);
+
 // Places the shipped INF files into a folder that lacks them, as an installer would.
 void installShippedInfFiles(const std::string& appFolder, const std::string& targetFolder);
 

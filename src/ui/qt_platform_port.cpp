@@ -14,6 +14,7 @@
 #include <QThread>
 #include <algorithm>
 
+#include "shell/paths.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
 #include "ui/single_instance.h"
@@ -72,8 +73,9 @@ std::string QtPlatformPort::executableName() {
 }
 
 std::string QtPlatformPort::executableFolder() {
-    if (QCoreApplication::instance()) return nativePath(QCoreApplication::applicationDirPath());
-    return nativePath(QFileInfo(arguments_.value(0)).absolutePath());
+    const QString folder = QCoreApplication::instance() ? QCoreApplication::applicationDirPath()
+                                                        : QFileInfo(arguments_.value(0)).absolutePath();
+    return shippedFilesFolder(nativePath(folder));
 }
 
 std::string QtPlatformPort::commandLine() { return toCp1252Lossy(arguments_.mid(1).join(QLatin1Char(' '))); }
