@@ -19,7 +19,7 @@ namespace {
 
 bool isSetUpCommand(const std::string& word) {
     static const char* const setUp[] = {"root",     "edition", "args",     "user",
-                                        "computer", "today",   "printers", "running"};
+                                        "computer", "today",   "printers", "running", "app"};
     for (const char* name : setUp)
         if (word == name) return true;
     return false;
@@ -138,6 +138,10 @@ void ScriptRunner::setUp(const std::vector<std::string>& words) {
     if (command == "user") session_.user = words[1];
     if (command == "computer") session_.computer = words[1];
     if (command == "today") session_.today = parseToday(words);
+    if (command == "app") {
+        ensureRoot();
+        session_.executableFolder = path(words[1]);
+    }
 }
 
 void ScriptRunner::ensureRoot() {
