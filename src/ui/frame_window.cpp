@@ -5,9 +5,11 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <algorithm>
 
 #include "model/program.h"
 #include "ui/form_painter.h"
@@ -52,7 +54,8 @@ FrameWindow::FrameWindow(Form& frame, QWidget* parent) : QMainWindow(parent), fr
     if (const Control* legends = frame.find("picLegends")) {
         panel_ = new FormView(frame);
         panel_->setObjectName(QStringLiteral("picLegends"));
-        panel_->setExtent(QSize(toPixels(legends->width, kScreenScale), toPixels(legends->height, kScreenScale)));
+        panel_->setExtent(
+            QSize(toPixels(legends->width, kScreenScale), toPixels(legends->height, kScreenScale)));
         panel_->refresh();
         panelArea_ = new QScrollArea(central);
         panelArea_->setObjectName(QStringLiteral("picLegendsArea"));
@@ -68,7 +71,8 @@ FrameWindow::FrameWindow(Form& frame, QWidget* parent) : QMainWindow(parent), fr
     childArea_ = new QScrollArea(central);
     childArea_->setObjectName(QStringLiteral("childArea"));
     childArea_->setWidgetResizable(false);
-    childArea_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // A form stands at the top of the child area, centred across it, where the lifecycle places it.
+    childArea_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     QPalette palette = childArea_->palette();
     palette.setColor(QPalette::Window, kChildAreaColor);
     childArea_->setPalette(palette);
@@ -184,6 +188,34 @@ void FrameWindow::showChild(Form* child) {
     childArea_->setWidget(child_);
     child_->show();
     child_->refresh();
+    if (isVisible()) makeRoomFor(*child_);
+}
+
+void FrameWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (child_) makeRoomFor(*child_);
+}
+
+// The window grows to show the whole form when the screen has room; else the child area scrolls.
+void FrameWindow::makeRoomFor(const QWidget& child) {
+    if (isMaximized() || isFullScreen()) return;
+    const QScreen* shown = screen();
+    if (!shown) return;
+    const QRect room = shown->availableGeometry();
+    const QSize area = childArea_->viewport()->size();
+    const int wider = std::max(0, child.width() - area.width());
+    const int taller = std::max(0, child.height() - area.height());
+    if (wider == 0 && taller == 0) return;
+    const QSize frameExtra = frameGeometry().size() - size();
+    const QSize wanted(std::min(width() + wider, room.width() - frameExtra.width()),
+                       std::min(height() + taller, room.height() - frameExtra.height()));
+    if (wanted.width() <= width() && wanted.height() <= height()) return;
+    resize(std::max(wanted.width(), width()), std::max(wanted.height(), height()));
+    // A window that grew past the screen's edge is moved back onto it.
+    const QRect outer = frameGeometry();
+    const int left = std::max(room.left(), std::min(outer.left(), room.right() + 1 - outer.width()));
+    const int top = std::max(room.top(), std::min(outer.top(), room.bottom() + 1 - outer.height()));
+    if (left != outer.left() || top != outer.top()) move(left, top);
 }
 
 void FrameWindow::formUnloaded(Form& form) {

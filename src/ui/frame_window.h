@@ -41,6 +41,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void buildMenus();
@@ -48,6 +49,7 @@ private:
     QAction* actionFor(const MenuItem& item, QWidget* owner);
     void mirrorMenus();
     void showChild(Form* child);
+    void makeRoomFor(const QWidget& child);
 
     Form* frame_;
     FormView* panel_ = nullptr;

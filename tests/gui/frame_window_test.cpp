@@ -6,7 +6,10 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QApplication>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include "gui_fixture.h"
@@ -146,6 +149,43 @@ TEST_F(FrameWindowTest, TheActiveChildIsShownInTheChildArea) {
     EXPECT_EQ(window_->findChild<QScrollArea*>(QStringLiteral("childArea"))->widget(), window_->childView());
     child.unload();
     EXPECT_EQ(window_->childView(), nullptr);
+}
+
+TEST_F(FrameWindowTest, AChildStandsAtTheTopOfTheChildAreaCentredAcrossIt) {
+    window_->resize(1400, 800);
+    TwoFields& child = load<TwoFields>();
+    QApplication::processEvents();
+    auto* area = window_->findChild<QScrollArea*>(QStringLiteral("childArea"));
+    const QWidget* view = window_->childView();
+    ASSERT_LT(view->width(), area->viewport()->width());
+    EXPECT_EQ(view->y(), 0);
+    const int left = view->x();
+    const int right = area->viewport()->width() - view->x() - view->width();
+    EXPECT_LE(std::abs(left - right), 1) << "left " << left << ", right " << right;
+    child.unload();
+}
+
+// A form wider and taller than any screen of the tests.
+class WideFields : public TwoFields {
+public:
+    WideFields() {
+        width = 30000;  // 2000 pixels
+        height = 15000;
+    }
+};
+
+TEST_F(FrameWindowTest, TheWindowGrowsForAWideFormUpToTheScreenAndThenScrolls) {
+    window_->resize(300, 200);
+    WideFields& child = load<WideFields>();
+    QApplication::processEvents();
+    const QRect room = window_->screen()->availableGeometry();
+    EXPECT_GT(window_->width(), 300);
+    EXPECT_LE(window_->frameGeometry().width(), room.width());
+    EXPECT_LE(window_->frameGeometry().height(), room.height());
+    EXPECT_TRUE(room.contains(window_->frameGeometry().topLeft()));
+    auto* area = window_->findChild<QScrollArea*>(QStringLiteral("childArea"));
+    EXPECT_GT(area->horizontalScrollBar()->maximum(), 0) << "the rest of the form is reached by scrolling";
+    child.unload();
 }
 
 }  // namespace
