@@ -49,6 +49,16 @@ QRect controlRect(const Control& control, double scale) {
                  toPixels(control.top + control.height, scale) - y);
 }
 
+QRect paintedExtent(const Control& control, double scale) {
+    QRect extent = control.kind == ControlKind::Line
+                       ? QRect(QPoint(toPixels(control.left, scale), toPixels(control.top, scale)),
+                               QPoint(toPixels(control.x2, scale), toPixels(control.y2, scale)))
+                             .normalized()
+                       : controlRect(control, scale);
+    const int stroke = std::max(2, static_cast<int>(std::ceil(control.borderWidth * 15 * scale))) + 1;
+    return extent.adjusted(-stroke, -stroke, stroke, stroke);
+}
+
 QSize formSize(const Form& form, double scale) {
     return QSize(std::max(1, toPixels(form.width, scale)), std::max(1, toPixels(form.height, scale)));
 }
@@ -138,6 +148,18 @@ void FormPainter::paintForm(QPainter& painter, const Form& form, bool skipEditor
     painter.fillRect(QRect(QPoint(0, 0), formSize(form, scale_)), toQColor(form.backColor));
     for (const Control* control : paintOrder(form)) {
         if (!control->visible || (skipEditors && hasEditor(control->kind))) continue;
+        paintControl(painter, *control);
+    }
+    painter.restore();
+}
+
+void FormPainter::paintArea(QPainter& painter, const Form& form, const QRect& area, bool skipEditors) const {
+    painter.save();
+    painter.setClipRect(area);
+    painter.fillRect(area, toQColor(form.backColor));
+    for (const Control* control : paintOrder(form)) {
+        if (!control->visible || (skipEditors && hasEditor(control->kind))) continue;
+        if (!paintedExtent(*control, scale_).intersects(area)) continue;
         paintControl(painter, *control);
     }
     painter.restore();

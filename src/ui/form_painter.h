@@ -24,6 +24,9 @@ QFont controlFont(const Control& control, double scale);
 // Whole device pixels of a length or position in twips.
 int toPixels(int twips, double scale);
 QRect controlRect(const Control& control, double scale);
+// Everything a control's painting may touch: its rectangle (a line's two ends) and the width of its
+// border and strokes.
+QRect paintedExtent(const Control& control, double scale);
 QSize formSize(const Form& form, double scale);
 
 // The kinds a form view hosts as real editors instead of painting them.
@@ -47,6 +50,8 @@ public:
     // Paints the form's background and its visible controls; with skipEditors the kinds a view hosts
     // as widgets are left out.
     void paintForm(QPainter& painter, const Form& form, bool skipEditors = false) const;
+    // As paintForm, within one area only: the background there and the controls that reach into it.
+    void paintArea(QPainter& painter, const Form& form, const QRect& area, bool skipEditors) const;
     void paintControl(QPainter& painter, const Control& control) const;
 
 private:

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -60,6 +61,9 @@ QWidget* FormView::editorOf(const Control& control) const { return editors_.valu
 
 void FormView::detach() {
     form_ = nullptr;
+    looks_.reset();
+    paintedAt_.clear();
+    face_ = QPixmap();
     editors_.clear();
     controlOfWidget_.clear();
     hide();
@@ -154,16 +158,50 @@ void FormView::refresh() {
     refreshing_ = true;
     const QSize size = extent_.isValid() ? extent_ : formSize(*form_, kScreenScale);
     if (this->size() != size) setFixedSize(size);
-    for (const auto& owned : form_->controls()) {
-        Control& control = *owned;
-        if (!hasEditor(control.kind)) continue;
-        QWidget* editor = editors_.value(&control, nullptr);
-        if (!editor) editor = createEditor(control);
-        if (editor) mirror(control, editor);
+    // A new colour or size of the form itself repaints it whole.
+    const std::size_t formLook = std::hash<Color>{}(form_->backColor) ^
+                                 (std::hash<int>{}(form_->width) << 1) ^
+                                 (std::hash<int>{}(form_->height) << 2);
+    if (formLook != formLook_) {
+        formLook_ = formLook;
+        face_ = QPixmap();
+        update();
     }
-    update();
+    QRegion damaged;
+    for (Control* control : looks_.changedSince(*form_)) {
+        if (hasEditor(control->kind)) {
+            QWidget* editor = editors_.value(control, nullptr);
+            if (!editor) editor = createEditor(*control);
+            if (editor) mirror(*control, editor);
+            continue;
+        }
+        const QRect now = paintedExtent(*control, kScreenScale);
+        damaged += paintedAt_.value(control, now);
+        damaged += now;
+        paintedAt_.insert(control, now);
+    }
+    if (!damaged.isEmpty() && !face_.isNull()) {
+        repaintFace(damaged);
+        update(damaged);
+    }
     placeFocus();
     refreshing_ = false;
+}
+
+void FormView::ensureFace() {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = size() * ratio;
+    if (!face_.isNull() && face_.size() == pixels && face_.devicePixelRatio() == ratio) return;
+    face_ = QPixmap(pixels);
+    face_.setDevicePixelRatio(ratio);
+    face_.fill(palette().window().color());
+    QPainter painter(&face_);
+    if (form_) FormPainter(kScreenScale).paintForm(painter, *form_, true);
+}
+
+void FormView::repaintFace(const QRegion& area) {
+    QPainter painter(&face_);
+    for (const QRect& rect : area) FormPainter(kScreenScale).paintArea(painter, *form_, rect, true);
 }
 
 void FormView::placeFocus() {
@@ -185,13 +223,17 @@ void FormView::placeFocus() {
         if (target != this) area->ensureWidgetVisible(target);
 }
 
-void FormView::paintEvent(QPaintEvent*) {
+void FormView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     if (!form_) {
         painter.fillRect(rect(), palette().window());
         return;
     }
-    FormPainter(kScreenScale).paintForm(painter, *form_, true);
+    ensureFace();
+    for (const QRect& rect : event->region())
+        painter.drawPixmap(
+            rect, face_,
+            QRectF(rect.topLeft() * face_.devicePixelRatio(), rect.size() * face_.devicePixelRatio()));
 }
 
 Control* FormView::controlAt(QPoint point) const {

@@ -3,10 +3,13 @@
 // input goes to the model, which alone decides what they then show.
 
 #include <QHash>
+#include <QPixmap>
+#include <QRegion>
 #include <QWidget>
 #include <vector>
 
 #include "model/form.h"
+#include "model/look_tracker.h"
 #include "ui/input_bridge.h"
 
 class QKeyEvent;
@@ -21,7 +24,8 @@ public:
     ~FormView() override;
 
     Form* form() const { return form_; }
-    // Copies every control's properties to its widget and puts Qt's focus where the model has it.
+    // Copies the properties of the controls whose look changed to their widgets, repaints the rest of
+    // what changed, and puts Qt's focus where the model has it.
     void refresh() override;
     // Shows only the top-left part of the form, as the frame's panel shows picLegends alone.
     void setExtent(const QSize& pixels) { extent_ = pixels; }
@@ -29,6 +33,8 @@ public:
     void detach();
 
     QWidget* editorOf(const Control& control) const;
+    // The painted face as it stands: the controls that have no editor, drawn once and kept.
+    const QPixmap& face() const { return face_; }
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
     static QString objectNameOf(const Control& control);
     static std::vector<FormView*> viewsOf(const Form& form);
@@ -58,7 +64,15 @@ private:
     bool forwardComboMouse(Control& control, QEvent* event);
     void forwardCommitted(const QString& text);
 
+    // The fixed face: every painted control drawn once, then redrawn only where a control changed.
+    void ensureFace();
+    void repaintFace(const QRegion& area);
+
     Form* form_;
+    LookTracker looks_;
+    std::size_t formLook_ = 0;
+    QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn
+    QPixmap face_;
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
     bool refreshing_ = false;
