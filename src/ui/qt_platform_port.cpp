@@ -121,6 +121,7 @@ void QtPlatformPort::setRaiseHandler(std::function<void()> handler) { raise_ = s
 
 void QtPlatformPort::sleep(int milliseconds) {
     if (milliseconds <= 0) return;
+    slept_ += milliseconds;
     if (!QCoreApplication::instance()) {
         QThread::msleep(static_cast<unsigned long>(milliseconds));
         return;

@@ -32,6 +32,8 @@ public:
     void activateEarlierInstance(const std::string& title) override;
     // Waits while the screen goes on painting; the operator's input waits until after.
     void sleep(int milliseconds) override;
+    // The deliberate waits so far, in milliseconds.
+    long long slept() const { return slept_; }
     std::vector<std::string> printers() override;
     int screenWidthTwips() override;
     bool debuggerAttached() override;
@@ -47,6 +49,7 @@ private:
     QStringList arguments_;
     std::unique_ptr<SingleInstance> instance_;
     std::function<void()> raise_;
+    long long slept_ = 0;
 };
 
 }  // namespace lw::ui

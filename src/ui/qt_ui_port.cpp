@@ -51,6 +51,7 @@ void QtUiPort::formUnloaded(Form& form) {
 }
 
 void QtUiPort::childActivated(Form&) {
+    if (!frame_ && makeFrame_) makeFrame_();
     if (frame_) frame_->refresh();
 }
 
@@ -102,9 +103,6 @@ void QtUiPort::inputRefused(const std::string& why) {
         std::cerr << toQString(why).toStdString() << "\n";
 }
 
-bool QtUiPort::printForm(Form& form, const std::string& printerName) {
-    return ui::printForm(form, printerName);
-}
 
 }  // namespace lw::ui
 

@@ -2,6 +2,7 @@
 // The screen of the window program: modal boxes as dialogs, the child form in the frame, the clipboard.
 
 #include <QPointer>
+#include <functional>
 #include <string>
 
 #include "model/ports.h"
@@ -17,6 +18,9 @@ public:
     // The frame window that hosts child forms and shows refusals in its status line. It may come after
     // the first child form has been loaded: it then shows the desktop's active child.
     void setFrameWindow(FrameWindow* window);
+    // Makes the frame window when the first child form shows, so that the frame is on the screen while
+    // the rest of the start-up runs; the maker calls setFrameWindow.
+    void makeFrameWindowWith(std::function<void()> maker) { makeFrame_ = std::move(maker); }
     FrameWindow* frameWindow() const { return frame_; }
 
     void runModal(Form& form) override;
@@ -34,9 +38,6 @@ public:
     void quit() override;
     void inputRefused(const std::string& why) override;
 
-    // Prints the form on the named printer (the current one when none has the name).
-    bool printForm(Form& form, const std::string& printerName);
-
     // The last refusal shown, for the tests.
     const std::string& lastRefusal() const { return lastRefusal_; }
 
@@ -45,6 +46,7 @@ public:
 
 private:
     QPointer<FrameWindow> frame_;
+    std::function<void()> makeFrame_;
     std::string lastRefusal_;
 };
 
