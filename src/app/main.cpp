@@ -15,9 +15,10 @@ bool hasDisplay() {
 
 int main(int argc, char** argv) {
     if (!hasDisplay()) {
-        std::fprintf(stderr,
-                     "Ledgerwick needs a display and none is set; without a desktop run it as: xvfb-run -a %s\n",
-                     argv[0]);
+        std::fprintf(
+            stderr,
+            "Ledgerwick needs a display and none is set; without a desktop run it as: xvfb-run -a %s\n",
+            argv[0]);
         return 1;
     }
     QApplication app(argc, argv);

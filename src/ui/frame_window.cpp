@@ -107,7 +107,18 @@ void FrameWindow::refresh() {
         buildMenus();
     }
     mirrorMenus();
-    showChild(hasProgram() ? program().desktop.activeChild() : nullptr);
+    showChild(shownChild());
+}
+
+// The active child; before one is active, the child form loaded last, which shows as it loads.
+Form* FrameWindow::shownChild() const {
+    if (!hasProgram()) return nullptr;
+    Desktop& desktop = program().desktop;
+    Form* shown = desktop.activeChild();
+    if (shown) return shown;
+    for (Form* form : desktop.forms())
+        if (form->isChild && form->isLoaded() && form != frame_) shown = form;
+    return shown;
 }
 
 QAction* FrameWindow::actionFor(const MenuItem& item, QWidget* owner) {

@@ -50,6 +50,7 @@ private:
     void mirrorMenus();
     void showChild(Form* child);
     void makeRoomFor(const QWidget& child);
+    Form* shownChild() const;
 
     Form* frame_;
     FormView* panel_ = nullptr;

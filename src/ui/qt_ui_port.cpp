@@ -1,12 +1,9 @@
 #include "ui/qt_ui_port.h"
 
-#include <QFileDialog>
-
-#include "text/cp1252.h"
-
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QUrl>
 #include <cstdio>
@@ -14,6 +11,7 @@
 
 #include "model/app_error.h"
 #include "model/form.h"
+#include "text/cp1252.h"
 #include "ui/clipboard_picture.h"
 #include "ui/form_printer.h"
 #include "ui/form_view.h"
@@ -40,7 +38,9 @@ void QtUiPort::runModal(Form& form) {
     if (programEnded()) throw ProgramEnded{};
 }
 
-void QtUiPort::formLoaded(Form&) {
+void QtUiPort::formLoaded(Form& form) {
+    // Showing a child form brings up its frame.
+    if (!frame_ && makeFrame_ && form.isChild) makeFrame_();
     if (frame_) frame_->refresh();
 }
 
@@ -59,7 +59,9 @@ void QtUiPort::refresh() { refreshAll(); }
 
 void QtUiPort::copyPictureToClipboard(Form& form) { copyFormPicture(form); }
 
-bool QtUiPort::printForm(const Form& form, const std::string& printer) { return ui::printForm(form, printer); }
+bool QtUiPort::printForm(const Form& form, const std::string& printer) {
+    return ui::printForm(form, printer);
+}
 
 std::string QtUiPort::clipboardText() {
     const QString text = QApplication::clipboard()->text();
@@ -102,7 +104,6 @@ void QtUiPort::inputRefused(const std::string& why) {
     else
         std::cerr << toQString(why).toStdString() << "\n";
 }
-
 
 }  // namespace lw::ui
 
