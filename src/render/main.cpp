@@ -1,15 +1,12 @@
 // ledgerwick-render: saved documents with the print look, into one PDF or one picture per page.
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QApplication>
-#include <QFileInfo>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "render/render_job.h"
-#include "shell/paths.h"
+#include "script/headless_program.h"
 
 int main(int argc, char** argv) {
     std::vector<std::string> arguments(argv + 1, argv + argc);
@@ -20,14 +17,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     // The pages are drawn off-screen: no display is needed.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        std::string runtime = "/tmp/ledgerwick-runtime-" + std::to_string(getuid());
-        mkdir(runtime.c_str(), 0700);
-        qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
-    }
+    lw::script::prepareHeadlessQt();
     QApplication app(argc, argv);
-    const std::string folder =
-        lw::shippedFilesFolder(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath().toStdString());
-    return lw::render::renderDocuments(*options, folder, std::cout, std::cerr);
+    return lw::render::renderDocuments(*options, lw::script::shippedFilesOf(argv[0]), std::cout, std::cerr);
 }

@@ -8,14 +8,10 @@
 #include <memory>
 #include <sstream>
 
-#include "forms/register_forms.h"
 #include "model/app_error.h"
 #include "model/program.h"
 #include "output/screen_clip.h"
-#include "script/script_platform.h"
-#include "script/script_session.h"
-#include "script/script_ui.h"
-#include "shell/frame_window_model.h"
+#include "script/headless_program.h"
 #include "text/cp1252.h"
 #include "ui/document_pages.h"
 
@@ -92,20 +88,7 @@ public:
         session_.executableFolder = executableFolder;
         // The tax year of the documents is the one in force on a day of that year past its first of March.
         if (options.year) session_.today = DateTime{*options.year, 6, 15, 12, 0, 0};
-        ui_ = std::make_unique<script::ScriptUi>(session_);
-        platform_ = std::make_unique<script::ScriptPlatform>(session_);
-        program_ = std::make_unique<Program>(*ui_, *platform_);
-        registerAllForms();
-        try {
-            loadFrame();
-        } catch (const ProgramEnded&) {
-            session_.ended = true;
-        }
-    }
-    ~Renderer() {
-        program_.reset();
-        platform_.reset();
-        ui_.reset();
+        headless_ = std::make_unique<script::HeadlessProgram>(session_);
     }
 
     bool started() const { return !root_.path().empty() && !session_.ended; }
@@ -131,7 +114,7 @@ public:
         }
         session_.answers.push_back({0, "file", {*inCodePage}});
         try {
-            program_->desktop.chooseMenu("mnuControlOpen");
+            headless_->program().desktop.chooseMenu("mnuControlOpen");
         } catch (const ProgramEnded&) {
             session_.ended = true;
             why = "the program ended while reading it";
@@ -139,7 +122,7 @@ public:
         }
         session_.answers.clear();
         why = troubleSince(session_, reports, boxes);
-        Form* form = program_->desktop.activeChild();
+        Form* form = headless_->program().desktop.activeChild();
         if (why.empty() && !form) why = "no form was opened";
         if (!why.empty()) return nullptr;
         // The print look: cut to the document, white fields, no selection.
@@ -151,9 +134,7 @@ private:
     std::ostringstream log_;
     ScratchRoot root_;
     script::Session session_;
-    std::unique_ptr<script::ScriptUi> ui_;
-    std::unique_ptr<script::ScriptPlatform> platform_;
-    std::unique_ptr<Program> program_;
+    std::unique_ptr<script::HeadlessProgram> headless_;
 };
 
 std::string progress(std::size_t done, std::size_t total) {

@@ -7,8 +7,7 @@
 #include "forms/register_forms.h"
 #include "model/app_error.h"
 #include "model/program.h"
-#include "script/script_platform.h"
-#include "script/script_ui.h"
+#include "script/headless_program.h"
 #include "script/script_words.h"
 #include "shell/frame_window_model.h"
 #include "text/words.h"
@@ -18,8 +17,8 @@ namespace lw::script {
 namespace {
 
 bool isSetUpCommand(const std::string& word) {
-    static const char* const setUp[] = {"root",     "edition", "args",     "user",
-                                        "computer", "today",   "printers", "running", "app"};
+    static const char* const setUp[] = {"root",  "edition",  "args",    "user", "computer",
+                                        "today", "printers", "running", "app"};
     for (const char* name : setUp)
         if (word == name) return true;
     return false;
@@ -55,9 +54,8 @@ ScriptRunner::ScriptRunner(std::ostream& out, std::string executableFolder) : ou
 }
 
 ScriptRunner::~ScriptRunner() {
-    program_.reset();
-    platform_.reset();
-    ui_.reset();
+    program_ = nullptr;
+    headless_.reset();
 }
 
 int ScriptRunner::run(std::istream& script) {
@@ -181,15 +179,8 @@ void ScriptRunner::start() {
     started_ = true;
     ensureRoot();
     out_ << "start " << session_.edition << " in " << session_.root << "\n";
-    ui_ = std::make_unique<ScriptUi>(session_);
-    platform_ = std::make_unique<ScriptPlatform>(session_);
-    program_ = std::make_unique<Program>(*ui_, *platform_);
-    registerAllForms();
-    try {
-        loadFrame();
-    } catch (const ProgramEnded&) {
-        session_.ended = true;
-    }
+    headless_ = std::make_unique<HeadlessProgram>(session_);
+    program_ = &headless_->program();
     if (session_.ended) out_ << "the program ended\n";
 }
 

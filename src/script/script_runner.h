@@ -18,8 +18,7 @@ class Form;
 
 namespace lw::script {
 
-class ScriptUi;
-class ScriptPlatform;
+class HeadlessProgram;
 
 class ScriptRunner {
 public:
@@ -52,9 +51,8 @@ private:
 
     std::ostream& out_;
     Session session_;
-    std::unique_ptr<ScriptUi> ui_;
-    std::unique_ptr<ScriptPlatform> platform_;
-    std::unique_ptr<Program> program_;
+    std::unique_ptr<HeadlessProgram> headless_;
+    Program* program_ = nullptr;
     bool started_ = false;
     int line_ = 0;
     std::string lineText_;
