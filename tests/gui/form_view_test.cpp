@@ -13,29 +13,7 @@
 namespace lw::ui::test {
 namespace {
 
-class FormViewTest : public GuiTest {
-protected:
-    void SetUp() override {
-        GuiTest::SetUp();
-        form_ = &load<TwoFields>();
-        view_ = std::make_unique<FormView>(*form_);
-        show(*view_);
-        first_ = &form_->at("Text1", 0);
-        second_ = &form_->at("Text1", 1);
-        desktop().setFocus(*first_);
-        refreshAll();
-    }
-    void TearDown() override {
-        view_.reset();
-        GuiTest::TearDown();
-    }
-    QLineEdit* editor(const char* name) { return view_->findChild<QLineEdit*>(QString::fromLatin1(name)); }
-
-    TwoFields* form_ = nullptr;
-    Control* first_ = nullptr;
-    Control* second_ = nullptr;
-    std::unique_ptr<FormView> view_;
-};
+using FormViewTest = TwoFieldsViewTest;
 
 TEST_F(FormViewTest, EditorsAreNamedAfterTheirControls) {
     ASSERT_NE(editor("Text1_0"), nullptr);

@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QWidget>
 #include <memory>
 #include <string>
 
 #include "model/program.h"
+#include "ui/form_view.h"
 #include "ui/qt_ui_port.h"
 
 namespace lw::ui::test {
@@ -67,6 +69,19 @@ protected:
     QtUiPort ui_;
     StillMachine machine_;
     std::unique_ptr<Program> program_;
+};
+
+// A form of two fields shown in its own view, the first field in focus.
+class TwoFieldsViewTest : public GuiTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    QLineEdit* editor(const char* name) const;
+
+    TwoFields* form_ = nullptr;
+    Control* first_ = nullptr;
+    Control* second_ = nullptr;
+    std::unique_ptr<FormView> view_;
 };
 
 }  // namespace lw::ui::test

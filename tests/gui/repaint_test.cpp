@@ -38,20 +38,11 @@ private:
     QWidget& root_;
 };
 
-class RepaintTest : public GuiTest {
+class RepaintTest : public TwoFieldsViewTest {
 protected:
     void SetUp() override {
-        GuiTest::SetUp();
-        form_ = &load<TwoFields>();
-        view_ = std::make_unique<FormView>(*form_);
-        show(*view_);
-        desktop().setFocus(form_->at("Text1", 0));
-        refreshAll();
+        TwoFieldsViewTest::SetUp();
         settle();
-    }
-    void TearDown() override {
-        view_.reset();
-        GuiTest::TearDown();
     }
     // Lets every pending paint happen.
     void settle() {
@@ -68,9 +59,6 @@ protected:
     QImage facePicture() const {
         return view_->face().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
-
-    TwoFields* form_ = nullptr;
-    std::unique_ptr<FormView> view_;
 };
 
 TEST_F(RepaintTest, AKeystrokeRepaintsOnlyItsField) {
