@@ -161,8 +161,8 @@ void putBack(Form& form, const std::string& key) {
 
 }  // namespace
 
+// Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
 bool Screen_Clip() {
-    bool ready = true;
     runGuarded("M5_ClipCode:Screen_Clip", [&] {
         Form* form = g().CurrentForm;
         if (!form) return;
@@ -170,7 +170,7 @@ bool Screen_Clip() {
         cutToDocument(*form, key);
         paintAsPaper(*form, key);
     });
-    return ready;
+    return true;
 }
 
 void MDI_Clip() {
