@@ -98,6 +98,31 @@ bool SS_MC_Validate_All(Form& configureForm) {
 
 bool SS_MC_Validate_All() { return SS_MC_Validate_All(configureFormInUse()); }
 
+bool SS_MC_Rates_In_Force() {
+    const Globals& g = program().g;
+    struct Figure {
+        const char* field;
+        const std::string& value;
+        bool (*edit)(Control&);
+    };
+    const Figure figures[] = {
+        {"txtSSRate", g.SSRate, SS_MC_Edit_Rate},
+        {"txtSSMax", g.SSMax, SS_MC_Edit_Money},
+        {"txtMCInitRate", g.MCInitRate, SS_MC_Edit_Rate},
+        {"txtMCChgRateAfter", g.MCChgRateAfter, SS_MC_Edit_Money},
+        {"txtMCRateAfter", g.MCRateAfter, SS_MC_Edit_Rate},
+    };
+    for (const Figure& figure : figures) {
+        // The figure goes through its field's edit on a stand-in for the field, which no form holds.
+        Control standIn;
+        standIn.kind = ControlKind::TextBox;
+        standIn.name = figure.field;
+        standIn.text = figure.value;
+        if (!figure.edit(standIn)) return false;
+    }
+    return true;
+}
+
 Form& configureFormInUse() {
     if (Form* loaded = program().desktop.findForm("F1_Configure")) return *loaded;
     Form* current = program().g.CurrentForm;

@@ -22,6 +22,11 @@ bool SS_MC_Validate_All(Form& configureForm);
 // As above, on the configuration form that is loaded (CurrentForm when none is).
 bool SS_MC_Validate_All();
 
+// The figures in force for the W-2's computation (rates, wage base, change point), each through the edit
+// of its field on the configuration form: false, with that edit's Data Error shown, when one cannot be
+// used, as in a year that SSMC.inf has no figures for.
+bool SS_MC_Rates_In_Force();
+
 // Writes the six figures to the section of the form's year when all of them pass, and sets their
 // globals. The frame's Save on the configuration form.
 void SS_MC_Save();

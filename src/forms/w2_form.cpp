@@ -2,8 +2,11 @@
 
 #include <charconv>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
+#include "config/rates.h"
+#include "fields/edit_failure.h"
 #include "model/app_error.h"
 #include "model/program.h"
 #include "shell/form_registry.h"
@@ -24,6 +27,7 @@ constexpr int kMedicareWages = 7;        // box 5
 constexpr int kMedicareTax = 8;          // box 6
 constexpr int kVerificationCode = 45;    // box 9
 constexpr int kBox9Caption = 14;
+constexpr int kMoneyColour = 3;  // the legend's colour of a money field
 
 Globals& g() { return program().g; }
 
@@ -49,7 +53,9 @@ text::Currency share(double ratePercent, double amount) {
     return text::Currency::fromDouble((ratePercent / 100) * amount);
 }
 
-std::string shown(text::Currency amount) { return text::formatNumber(amount.toDecimalString(), "###,###.00"); }
+std::string shown(text::Currency amount) {
+    return text::formatNumber(amount.toDecimalString(), "###,###.00");
+}
 
 }  // namespace
 
@@ -66,10 +72,21 @@ void TF_W2::onValidate(Control& ctl, bool& Cancel) {
     if (!text::equalsNoCase(ctl.name, "Text1") || ctl.index == kNoIndex) return;
     TaxForm::onValidate(ctl, Cancel);
     if (Cancel || ctl.text.empty()) return;
-    if (ctl.index == kSocialSecurityWages)
-        SocialSecurity_Compute();
-    else if (ctl.index == kMedicareWages)
-        Medicare_Compute();
+    if (ctl.index != kSocialSecurityWages && ctl.index != kMedicareWages) return;
+    // A year without its figures computes nothing: the operator reads why, and the box stands.
+    if (!SS_MC_Rates_In_Force()) return;
+    try {
+        if (ctl.index == kSocialSecurityWages)
+            SocialSecurity_Compute();
+        else
+            Medicare_Compute();
+    } catch (const std::overflow_error&) {
+        // An amount beyond what the program can count is the box's own fault: it keeps the focus, and
+        // the tax box no longer claims a value.
+        at("Text1", ctl.index == kSocialSecurityWages ? kSocialSecurityTax : kMedicareTax).text.clear();
+        EditCtl_ShowInvalid(ctl, kMoneyColour, "");
+        Cancel = true;
+    }
 }
 
 void TF_W2::SocialSecurity_Compute() {

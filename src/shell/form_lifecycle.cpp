@@ -210,10 +210,13 @@ void Form_Position(Form& frm) {
         Desktop& desktop = program().desktop;
         for (Form* open : desktop.forms()) {
             if (open->name() == "F1_Configure" && !g().bStartup && !ratesOfConfigureFormPass(*open)) {
-                // A bad rate keeps the configuration form on the screen; the new form does not open.
+                // A bad rate keeps the configuration form on the screen; the new form does not open, and
+                // the shared procedures work on the configuration form again.
                 if (open != &frm) {
                     desktop.unload(frm);
                     desktop.activate(*open);
+                    g().CurrentForm = open;
+                    g().FormKey = formKeyOf(open->name());
                 }
                 return;
             }
