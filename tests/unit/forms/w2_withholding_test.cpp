@@ -185,15 +185,18 @@ TEST_F(W2Withholding, TheRatesInForceWhenTheBoxIsLeftAreUsed) {
     EXPECT_EQ(ssTax().text, "50.00");
 }
 
-TEST_F(W2Withholding, ARateThatIsNoNumberIsAFaultOfTheProgram) {
+TEST_F(W2Withholding, ARateThatIsNoNumberComputesNothingAndSaysWhy) {
+    ASSERT_EQ(ssTaxOf("1000"), "62.00");
     g().SSRate = "six";
-    typeInto(ssWages(), "1000");
-    try {
-        tab();
-        FAIL() << "no fault";
-    } catch (const AppError& fault) {
-        EXPECT_EQ(fault.number(), err::kTypeMismatch);
-    }
+    test.ui.boxes.clear();
+    desktop().setFocus(ssWages());
+    const std::string before = ssTax().text;
+    typeInto(ssWages(), "2000");
+    tab();
+    ASSERT_EQ(test.ui.boxes.size(), 1u);
+    EXPECT_NE(test.ui.boxes[0].find("Social Security/Medicare Rate must be NUMERIC"), std::string::npos);
+    EXPECT_EQ(ssTax().text, before) << "the tax box keeps its value";
+    EXPECT_NE(focus(), &ssWages()) << "the wages themselves stand";
 }
 
 TEST_F(W2Withholding, OutsideTaxYear2018Box9IsBareAndHidden) {
