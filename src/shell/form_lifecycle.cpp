@@ -61,7 +61,6 @@ int frameInnerHeight() {
     return frame ? frame->height - 900 : 0;
 }
 
-std::string lastTwo(const std::string& s) { return s.size() >= 2 ? s.substr(s.size() - 2) : s; }
 
 void showYearDigits(Form& frm) {
     const std::string digits = taxYearDigits();
