@@ -61,7 +61,6 @@ int frameInnerHeight() {
     return frame ? frame->height - 900 : 0;
 }
 
-
 void showYearDigits(Form& frm) {
     const std::string digits = taxYearDigits();
     frm.at("TaxYear", 1).caption = digits;
