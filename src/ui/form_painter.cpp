@@ -1,5 +1,6 @@
 #include "ui/form_painter.h"
 
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <algorithm>
@@ -13,10 +14,16 @@ void installFontSubstitutes() {
     static bool done = false;
     if (done) return;
     done = true;
+    // Debian's Wine fonts carry a Tahoma of the same metrics as the one the forms were laid out with; it
+    // lies outside the fonts the system lists, so the program takes it in itself. Its bold face lists no
+    // characters and would draw nothing, so bold text is the regular face made heavier.
+    const QString wineTahoma = QStringLiteral("/usr/share/wine/fonts/tahoma.ttf");
+    if (QFileInfo::exists(wineTahoma)) QFontDatabase::addApplicationFont(wineTahoma);
     const QStringList families = QFontDatabase::families();
     // Metric twins keep the official forms' text inside their boxes where the originals are missing.
     const std::pair<const char*, const char*> twins[] = {
         {"Tahoma", "DejaVu Sans"},          {"Arial Narrow", "Liberation Sans Narrow"},
+        {"ArialNarrow", "Liberation Sans Narrow"},
         {"Arial", "Liberation Sans"},       {"Times New Roman", "Liberation Serif"},
         {"Courier New", "Liberation Mono"}, {"MS Sans Serif", "DejaVu Sans"},
     };
