@@ -14,7 +14,9 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "catalogue/field_names.h"
 #include "model/program.h"
+#include "ui/form_view_accessible.h"
 #include "ui/command_icons.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
@@ -35,6 +37,8 @@ FormView::FormView(Form& form, QWidget* parent) : QWidget(parent), form_(&form) 
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_InputMethodEnabled, true);
     setAttribute(Qt::WA_OpaquePaintEvent, true);
+    installFormViewAccessibility();
+    setAccessibleName(toQString(form.caption));
     allViews().push_back(this);
     refresh();
 }
@@ -143,6 +147,7 @@ QWidget* FormView::createEditor(Control& control) {
             return nullptr;
     }
     editor->setObjectName(objectNameOf(control));
+    editor->setAccessibleName(toQString(accessibleNameOf(*form_, control)));
     // Only the model moves the focus; a click asks the model first.
     editor->setFocusPolicy(Qt::NoFocus);
     editor->setContextMenuPolicy(Qt::PreventContextMenu);

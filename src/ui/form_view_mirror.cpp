@@ -17,8 +17,10 @@ namespace lw::ui {
 
 namespace {
 
+// The tip is also what a screen reader says of the field after its name.
 void setWhenDifferent(QWidget* w, const QString& tip) {
     if (w->toolTip() != tip) w->setToolTip(tip);
+    if (w->accessibleDescription() != tip) w->setAccessibleDescription(tip);
 }
 
 }  // namespace
