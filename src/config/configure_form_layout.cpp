@@ -88,10 +88,12 @@ F1_Configure::F1_Configure()
         year->opaque = false;
         year->backColor = kButtonFace;
     }
+    // The two halves meet in the middle, so that the year reads as one number.
     TaxYear0.caption = "20";
+    TaxYear0.alignment = 1;
     TaxYear0.place(kMargin, 3480, 600, 495);
     TaxYear1.caption = "??";
-    TaxYear1.place(720, 3480, 600, 495);
+    TaxYear1.place(kMargin + 600, 3480, 600, 495);
     label(lblTaxYearInfo, "", 1440, 3480, kFormWidth - 1440 - kMargin, 660);
 
     label(Label3, "Choose Filing Status to set withholding rates >", kMargin, 4290, 3840, kLineHeight);

@@ -19,6 +19,13 @@ TEST_F(ConfigureFormTest, JanuaryAndFebruaryStillBelongToTheYearBefore) {
     EXPECT_EQ(form->txtSSMax.text, "176,100.00");
 }
 
+TEST_F(ConfigureFormTest, TheYearReadsAsOneNumber) {
+    open();
+    EXPECT_EQ(form->TaxYear0.left + form->TaxYear0.width, form->TaxYear1.left);
+    EXPECT_EQ(form->TaxYear0.alignment, 1) << "the century is aligned to the right";
+    EXPECT_EQ(form->TaxYear1.alignment, 0);
+}
+
 TEST_F(ConfigureFormTest, MarchStartsTheNewTaxYear) {
     platform.clock = DateTime{2026, 3, 1, 9, 0, 0};
     open();
