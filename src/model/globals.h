@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "model/color.h"
 
@@ -62,6 +63,10 @@ struct Globals {
     // The printer that pages go to: the configured one once a print has found it among the machine's
     // printers, else the machine's default (empty).
     std::string CurrentPrinter;
+
+    // The holidays that move a license's issue date: a comma list of MM/DD, and the same list split.
+    std::string DL_HolidayList;
+    std::vector<std::string> DL_Holidays;
     std::string FileNameFormat;
 
     // The tax year: Last Year, This Year, Next Year and "20XX".

@@ -1,0 +1,97 @@
+#include "forms/license_dates.h"
+
+#include <cstdio>
+
+#include "model/app_error.h"
+#include "model/program.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+std::string twoDigits(int number) {
+    char buffer[4];
+    std::snprintf(buffer, sizeof buffer, "%02d", number);
+    return buffer;
+}
+
+std::string monthDayOf(const text::CalendarDay& day) {
+    return twoDigits(day.month) + "/" + twoDigits(day.day);
+}
+
+// The first of days 1 to 7 of the month that is the weekday, and `later` days on, appended as MM/DD. A
+// year that is no number ("20XX") forms no date, and nothing is added.
+void addMovingHoliday(const std::string& year, const char* month, const char* weekday, int later) {
+    for (int day = 1; day <= 7; ++day) {
+        const auto date = text::dayOf(std::string(month) + "/" + twoDigits(day) + "/" + year);
+        if (!date || text::weekdayName(*date) != weekday) continue;
+        g().DL_HolidayList += std::string(",") + month + "/" + twoDigits(day + later);
+        return;
+    }
+}
+
+// A day of the calendar, or the type mismatch the conversion of a text that is no date raises.
+text::CalendarDay dateOrFault(const std::string& mmddyyyy) {
+    const auto day = text::dayOf(mmddyyyy);
+    if (!day) throw AppError(err::kTypeMismatch, "Type mismatch");
+    return *day;
+}
+
+}  // namespace
+
+void DL_BuildHolidays() {
+    const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+    addMovingHoliday(year, "01", "Mon", 14);
+    addMovingHoliday(year, "09", "Mon", 0);
+    addMovingHoliday(year, "11", "Thu", 21);
+    g().DL_Holidays = text::split(g().DL_HolidayList, ",");
+}
+
+bool DL_IsHoliday(const std::string& sMonthDay) {
+    for (const std::string& holiday : g().DL_Holidays)
+        if (holiday == sMonthDay) return true;
+    return false;
+}
+
+bool DL_IsWeekend(const text::CalendarDay& dDate) {
+    const std::string name = text::weekdayName(dDate);
+    return name == "Sat" || name == "Sun";
+}
+
+text::CalendarDay DL_ShiftDay(const text::CalendarDay& dDate) {
+    const std::string name = text::weekdayName(dDate);
+    if (name == "Mon" || name == "Fri") return dDate;
+    if (name == "Sat") return text::plusDays(dDate, -1);
+    return text::plusDays(dDate, 1);
+}
+
+void DL_FillDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
+                  Control& ctlExpire) {
+    if (sBirthDate.empty()) {
+        ctlIssue.text.clear();
+        ctlExpire.text.clear();
+        return;
+    }
+    const int thisYear = program().platform.now().year;
+    const std::string monthDay = sBirthDate.substr(0, 6);
+    ctlExpire.text = text::dateText(dateOrFault(monthDay + std::to_string(thisYear + 5)));
+
+    const text::CalendarDay birthday = dateOrFault(monthDay + std::to_string(thisYear));
+    text::CalendarDay d = text::plusDays(birthday, sLicense == "1" ? -12 : -17);
+    std::string sMonthDay = monthDayOf(d);
+    for (;;) {
+        if (DL_IsHoliday(sMonthDay)) {
+            d = DL_ShiftDay(d);
+            sMonthDay = monthDayOf(d);
+        }
+        if (!DL_IsWeekend(dateOrFault(sMonthDay + "/" + std::to_string(d.year)))) break;
+        d = DL_ShiftDay(d);
+        sMonthDay = monthDayOf(d);
+    }
+    ctlIssue.text = text::dateText(d);
+}
+
+}  // namespace lw

@@ -1,0 +1,28 @@
+#pragma once
+// The dates of a training driver's license, worked out from the birth date alone: it expires on the
+// birthday five years on, and was issued 12 days (the first license) or 17 days (the second) before this
+// year's birthday, on a day moved off weekends and holidays.
+
+#include <string>
+
+#include "model/control.h"
+#include "text/calendar.h"
+
+namespace lw {
+
+// The seven fixed holidays, set as the license form loads.
+constexpr const char* kFixedHolidays = "01/01,02/20,05/30,06/19,07/04,11/11,12/25";
+
+// Adds the third Monday of January, the first Monday of September and the fourth Thursday of November
+// of the tax year in force to DL_HolidayList, and splits it into DL_Holidays.
+void DL_BuildHolidays();
+bool DL_IsHoliday(const std::string& sMonthDay);
+bool DL_IsWeekend(const text::CalendarDay& dDate);
+// Monday and Friday stay; Saturday goes back a day; Sunday, Tuesday, Wednesday and Thursday go on a day.
+text::CalendarDay DL_ShiftDay(const text::CalendarDay& dDate);
+// sLicense "1" or "2". An empty birth date empties both fields. A birthday that this year or the year of
+// expiration does not have (February 29) is a fault of type mismatch, for the caller's handler.
+void DL_FillDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
+                  Control& ctlExpire);
+
+}  // namespace lw
