@@ -28,3 +28,17 @@ install(DIRECTORY ${LW_ICON_THEME}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/h
 configure_file(${PROJECT_SOURCE_DIR}/packaging/linux/net.ledgerwick.Ledgerwick.metainfo.xml
                ${CMAKE_BINARY_DIR}/net.ledgerwick.Ledgerwick.metainfo.xml @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/net.ledgerwick.Ledgerwick.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+
+# The pictures of the cards and licenses, drawn by the build beside the executables.
+set(LW_PICTURES SSN.jpg ITIN.jpg)
+foreach(n RANGE 1 16)
+  list(APPEND LW_PICTURES P${n}GS.jpg)
+endforeach()
+list(TRANSFORM LW_PICTURES PREPEND ${LW_BIN_DIR}/)
+add_custom_command(
+  OUTPUT ${LW_PICTURES}
+  COMMAND $<TARGET_FILE:build-assets> pictures ${LW_BIN_DIR}
+  DEPENDS build-assets ${PROJECT_SOURCE_DIR}/tools/build-assets/pictures.cpp
+  COMMENT "Drawing the pictures of the cards and licenses"
+  VERBATIM)
+add_custom_target(lw_pictures ALL DEPENDS ${LW_PICTURES})

@@ -1,5 +1,6 @@
 // Build-time maker of the files that ship around the program: the desktop icons drawn from the
-// editions' .ICO files, and the user guide turned from Markdown into PDF with Qt's own text document.
+// editions' .ICO files, the user guide turned from Markdown into PDF with Qt's own text document, and
+// the pictures of the cards and licenses.
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,12 +15,14 @@
 #include <QTextStream>
 #include <iostream>
 
+#include "pictures.h"
+
 namespace {
 
 int usage() {
-    std::cerr
-        << "usage: build-assets icons ICO.ICO THEME-FOLDER NAME\n"
-           "       build-assets guide GUIDE.md PICTURES-FOLDER OUT.pdf EDITION EXTENSION FORMS-FOLDER\n";
+    std::cerr << "usage: build-assets icons ICO.ICO THEME-FOLDER NAME\n"
+                 "       build-assets guide GUIDE.md PICTURES-FOLDER OUT.pdf EDITION EXTENSION FORMS-FOLDER\n"
+                 "       build-assets pictures FOLDER\n";
     return 2;
 }
 
@@ -133,5 +136,6 @@ int main(int argc, char** argv) {
     const QStringList args = app.arguments().mid(1);
     if (args.size() == 4 && args[0] == QLatin1String("icons")) return makeIcons(args[1], args[2], args[3]);
     if (args.size() == 7 && args[0] == QLatin1String("guide")) return makeGuide(args.mid(1));
+    if (args.size() == 2 && args[0] == QLatin1String("pictures")) return drawShippedPictures(args[1]) ? 0 : 1;
     return usage();
 }
