@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
@@ -120,6 +121,19 @@ std::string piece(const std::vector<std::string>& pieces, std::size_t i) {
     return i < pieces.size() ? pieces[i] : std::string();
 }
 
+}  // namespace
+
+std::string safeFileName(const std::string& name) {
+    std::string safe = name;
+    for (char& c : safe) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte == 0x7F || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
+    }
+    return safe;
+}
+
+namespace {
+
 std::string buildFileName(int& FocusIndex) {
     Form* found = loadedCurrentForm();
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
@@ -130,7 +144,7 @@ std::string buildFileName(int& FocusIndex) {
         std::string name = "SS_ITIN_" + fieldText(form, 1);
         if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
         g().FormRecord = Build_Record();
-        return name + "_000";
+        return safeFileName(name + "_000");
     }
 
     if (isK1(formKey) && !K1_Required_Fields(form, FocusIndex)) return kK1Error;
@@ -183,7 +197,8 @@ std::string buildFileName(int& FocusIndex) {
 
     fileName = replaceNoCase(fileName, "<SEQ>", "000");
     while (fileName.find("__") != std::string::npos) fileName = text::replaceAll(fileName, "__", "_");
-    return fileName;
+    // Names and employers come from the operator: none may point into another folder.
+    return safeFileName(fileName);
 }
 
 // Shows F7_Save for a path that holds a file; true when Save_File is still to write it.

@@ -482,3 +482,17 @@ TEST_F(Saving, SavingWithNoFormIsADataErrorAndWritesNothing) {
 
 }  // namespace
 }  // namespace lw
+
+namespace lw::testing {
+namespace {
+
+TEST(SafeFileName, CharactersThatAFileNameCannotHoldBecomeDashes) {
+    EXPECT_EQ(safeFileName("DOE,JOHN_W2_A/B PLUMBING_000.venturo"), "DOE,JOHN_W2_A-B PLUMBING_000.venturo");
+    EXPECT_EQ(safeFileName("..\\..\\x:y*z?\"q\"<a>|b"), "..-..-x-y-z--q--a--b");
+    EXPECT_EQ(safeFileName(std::string("TAB\tLINE\r\nDEL\x7F")), "TAB-LINE--DEL-");
+    EXPECT_EQ(safeFileName("O'BRIEN, MARY-ANN & SONS (2025)"), "O'BRIEN, MARY-ANN & SONS (2025)");
+    EXPECT_EQ(safeFileName("CAF\xC9"), "CAF\xC9") << "letters of the code page stay";
+}
+
+}  // namespace
+}  // namespace lw::testing
