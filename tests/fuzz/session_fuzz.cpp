@@ -4,6 +4,7 @@
 // sanitizers watch everything else.
 #include <fuzzer/FuzzedDataProvider.h>
 
+#include <cctype>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -45,7 +46,11 @@ public:
     bool openDocument(const std::string&) override { return data_.ConsumeBool(); }
     std::optional<std::string> fileDialog(const lw::FileDialogRequest&) override {
         if (data_.ConsumeBool()) return std::nullopt;
-        return folder_ + "/" + data_.ConsumeRandomLengthString(12) + ".venturo";
+        // Any name the input likes, but always a file of the session's own folder.
+        std::string name = data_.ConsumeRandomLengthString(12);
+        for (char& c : name)
+            if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+        return folder_ + "/" + name + ".venturo";
     }
     bool printForm(const lw::Form&, const std::string&) override { return data_.ConsumeBool(); }
     void quit() override { throw lw::ProgramEnded{}; }
