@@ -11,7 +11,7 @@
 #include "store/record_line.h"
 #include "text/case.h"
 #include "text/cp1252.h"
-#include "text/date_text.h"
+#include "taxpayer/tpinfo_sheet.h"
 
 namespace lw {
 
@@ -23,10 +23,6 @@ constexpr const char* kCardsError = "Error SS_ITIN";
 const std::string kCancel(1, text::kFieldSeparator);
 
 Globals& g() { return program().g; }
-
-bool isDigits(const std::string& s) {
-    return !s.empty() && s.size() <= 4 && s.find_first_not_of("0123456789") == std::string::npos;
-}
 
 bool isCheckLabel(const Control& c) {
     return (c.kind == ControlKind::CheckLabel || c.kind == ControlKind::Label) &&
@@ -74,41 +70,11 @@ int chosenPictureOf(Form& form, int which) {
     return 0;
 }
 
-// The age at the end of the tax year in force: the difference of the calendar years alone.
-std::string ageAtYearEnd(Form& form, const std::string& dob) {
-    const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-    if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
-    std::vector<std::string> parts = text::split(dob, "/");
-    int born = 0;
-    bool isDate = parts.size() == 3 && parts[2].size() == 4 && isDigits(parts[0]) && isDigits(parts[1]) &&
-                  isDigits(parts[2]);
-    if (isDate) {
-        born = std::stoi(parts[2]);
-        isDate = text::isCalendarDate(born, std::stoi(parts[0]), std::stoi(parts[1]));
-    }
-    // A birth date that is no date cannot be aged, as the classic date conversion refuses it.
-    if (!isDate || !isDigits(year)) throw AppError(err::kTypeMismatch, "Type mismatch");
-    const int age = std::stoi(year) - born;
-    if (age < 0) {
-        if (Control* status = form.find("labelMisc")) {
-            status->foreColor = kRed;
-            status->caption = "One or more date(s) are invalid";
-        }
-    }
-    return std::to_string(age);
-}
-
 // The ages of the taxpayer sheet follow the birth dates just read; only the sheet has them.
 void fillAges() {
     Form* sheet = program().desktop.findForm("F5_TPInfo");
     if (!sheet || sheet != g().CurrentForm) return;
-    for (const auto& row : g().PersonTable) {
-        if (row[1].empty() || row[2].empty()) continue;
-        Control* dob = sheet->find("Text1", std::stoi(row[1]));
-        Control* age = sheet->find("Text2", std::stoi(row[2]));
-        if (!dob || !age || dob->text.empty()) continue;
-        age->text = ageAtYearEnd(*sheet, dob->text);
-    }
+    UpdateAllAges(*sheet);
 }
 
 }  // namespace

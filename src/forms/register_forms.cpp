@@ -5,16 +5,22 @@
 #include "config/configure_form.h"
 #include "config/rates.h"
 #include "documents/record.h"
+#include "documents/f7_save.h"
 #include "documents/saving.h"
 #include "model/program.h"
 #include "output/form_print.h"
 #include "output/screen_clip.h"
 #include "shell/frame_command_hooks.h"
+#include "forms/cards_form.h"
+#include "forms/check_form.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
 #include "forms/tax_form.h"
+#include "forms/tpinfo_form.h"
 #include "forms/w2_form.h"
 #include "shell/form_registry.h"
+#include "taxpayer/load_tp.h"
+#include "taxpayer/tpinfo_sheet.h"
 
 namespace lw {
 
@@ -52,6 +58,12 @@ void registerAllForms() {
     registerW2Form();
     register1099BForm();
     register1099GForm();
+    registerTPInfoForm();
+    registerCardsForm();
+    registerCheckForm();
+    // The people of the case: the sheet fills the store, the Load TP buttons read it.
+    frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };
+    taxpayerStoreSave() = [] { TPInfo_Save(); };
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

@@ -193,6 +193,8 @@ std::string ScriptRunner::property(const Control& c, const std::string& name) co
     if (is("FontBold")) return flag(c.fontBold);
     if (is("Value")) return flag(c.value);
     if (is("ListIndex")) return std::to_string(c.listIndex);
+    // The picture's file name alone, as it stands on disk; "" when the control shows none.
+    if (is("Picture")) return utf8(c.picture.substr(c.picture.find_last_of("/\\") + 1));
     throw ScriptError("unknown property " + name);
 }
 

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "text/case.h"
+
 namespace fs = std::filesystem;
 
 namespace lw {
@@ -46,6 +48,15 @@ std::string fileFilter(const std::string& description, const std::string& patter
     filter += pattern;
     filter.push_back('\0');
     return filter;
+}
+
+std::string fileNamedNoCase(const std::string& folder, const std::string& name) {
+    std::error_code ec;
+    for (std::filesystem::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string entry = it->path().filename().string();
+        if (text::equalsNoCase(entry, name)) return joinPath(folder, entry);
+    }
+    return joinPath(folder, name);
 }
 
 bool folderExists(const std::string& path) {

@@ -25,6 +25,10 @@ Edition venturoEdition(const std::string& root, const std::string& appFolder, co
 Edition othAgcyEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor);
 std::string fileFilter(const std::string& description, const std::string& pattern);
 
+// The file of `folder` whose name is `name` blind to case, as the classic file system finds it; the plain
+// join when none is there.
+std::string fileNamedNoCase(const std::string& folder, const std::string& name);
+
 bool folderExists(const std::string& path);
 bool fileExists(const std::string& path);
 

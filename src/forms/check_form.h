@@ -1,0 +1,24 @@
+// F4_CHK, a blank check with sample routing and account numbers: nothing on it is edited when left, and
+// Clear brings the two sample numbers back.
+#pragma once
+
+#include "forms/tax_form.h"
+
+namespace lw {
+
+class F4_CHK : public TaxForm {
+public:
+    F4_CHK();
+
+    // Every key, copy and paste included, goes through the keystroke filter.
+    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    // No edit on leaving: the check takes whatever the operator wrote.
+    void onValidate(Control&, bool&) override {}
+    // A left field turns white and keeps its text colour.
+    void onLostFocus(Control& ctl) override;
+    void refillAfterClear() override;
+};
+
+void registerCheckForm();
+
+}  // namespace lw

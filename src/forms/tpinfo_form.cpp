@@ -1,0 +1,98 @@
+#include "forms/tpinfo_form.h"
+
+#include "fields/edit_ctl.h"
+#include "fields/key_press.h"
+#include "model/keys.h"
+#include "model/program.h"
+#include "shell/form_registry.h"
+#include "taxpayer/tpinfo_sheet.h"
+#include "diagnostics/error_tail.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+constexpr const char* kNumberFields = "1,4,7,11,15,19,23,27,31";
+constexpr const char* kDateFields = "2,5,8,12,16,20,24,28,32";
+
+// How the sheet feeds the other forms, a line of the instructions each.
+constexpr const char* kInstructions[] = {
+    "Use this form to enter and save data about the Taxpayers, Dependents and Other Persons. ONLY enter SSN/ITIN ",
+    "for TAXPAYERS and DEPENDENTS. Once this data has been entered, you can copy the following information into "
+    "the form you are working on by pressing the appropriate button:",
+    " Press the [Load TP 1] button to copy Taxpayer's Name, Address, Social Security Number, and Date of Birth",
+    " Press the [Load TP 2] button to copy Spouse's Name, Address, Social Security Number, and Date of Birth",
+    " On the SS/ITIN form, pressing [Load TP 1] or [Load TP 2] causes all SS/ITIN cards to be created for all",
+    "     persons on the TPInfo form that have SSN or ITIN Numbers.",
+};
+
+// An item of a comma list, compared exactly.
+bool List_Contains(const std::string& list, const std::string& item) {
+    for (const std::string& entry : text::split(list, ","))
+        if (entry == item) return true;
+    return false;
+}
+
+bool isTextOne(const Control& ctl) { return ctl.isTextBox() && ctl.name == "Text1" && ctl.index >= 0; }
+
+}  // namespace
+
+F5_TPInfo::F5_TPInfo() : TaxForm("F5_TPInfo") {}
+
+void F5_TPInfo::onLoad() {
+    TaxForm::onLoad();
+    showAgeYear();
+    std::string instructions;
+    for (const char* line : kInstructions) {
+        if (!instructions.empty()) instructions += '\r';
+        instructions += line;
+    }
+    at("lblInstr").caption = instructions;
+}
+
+void F5_TPInfo::showAgeYear() {
+    const std::string& year = program().g.TaxYears[static_cast<std::size_t>(program().g.TaxYearIndex)];
+    Control& yearDigits = at("TaxYear", 1);
+    yearDigits.caption = year.size() >= 2 ? year.substr(year.size() - 2) : year;
+    const std::string caption = "Age as of 12/31/20" + yearDigits.caption;
+    at("LabelTPAge", 0).caption = caption;
+    at("LabelTPAge", 1).caption = caption;
+    at("LabelOthers", 3).caption = caption;
+}
+
+void F5_TPInfo::onKeyPress(Control& ctl, int& KeyAscii) {
+    if (!isFieldArray(ctl)) return;
+    if (KeyAscii == keys::kCtrlC || KeyAscii == keys::kCtrlV || KeyAscii == keys::kCtrlX) return;
+    Key_Press(ctl, KeyAscii);
+}
+
+void F5_TPInfo::onValidate(Control& ctl, bool& Cancel) {
+    if (!isFieldArray(ctl)) return;
+    at("labelMisc").caption.clear();
+    if (!EditCtl(ctl)) {
+        Cancel = true;
+        return;
+    }
+    if (!isTextOne(ctl)) return;
+    const std::string index = std::to_string(ctl.index);
+    // A repeated number is pointed out; the field may still be left.
+    if (List_Contains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
+    if (!List_Contains(kDateFields, index)) return;
+    runGuarded("F5_TPInfo:Text1_Validate", [&] {
+        for (const auto& row : program().g.PersonTable)
+            if (row[1] == index) UpdateAge(*this, row[1], row[2]);
+    });
+}
+
+void F5_TPInfo::afterYearChange() {
+    if (!isLoaded()) return;
+    UpdateAllAges(*this);
+    showAgeYear();
+}
+
+void registerTPInfoForm() {
+    registerForm("F5_TPInfo", [] { return std::make_unique<F5_TPInfo>(); });
+}
+
+}  // namespace lw

@@ -1,0 +1,113 @@
+// [Load TP 1] and [Load TP 2]: reads both taxpayers from the store and fills the form on the screen by
+// its record prefix; afterwards the focus goes back where the operator left it.
+#include "taxpayer/load_tp.h"
+
+#include <cstdio>
+#include <vector>
+
+#include "diagnostics/error_tail.h"
+#include "fields/control_setup.h"
+#include "model/program.h"
+#include "shell/startup.h"
+#include "taxpayer/tin_cards.h"
+#include "text/case.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+TPInfoRec readPerson(const char* slot) {
+    const std::string prefix(slot);
+    TPInfoRec rec;
+    rec.NameAddr = readUserInf(prefix + "NameAddr");
+    rec.DOB = readUserInf(prefix + "DOB");
+    rec.SSN = readUserInf(prefix + "SSN");
+    TPInfo_Parse_NameAddr(rec);
+    return rec;
+}
+
+// The first index of a comma list of the catalogue, or none when the list is empty.
+int firstIndexOf(const std::string& list) {
+    const std::string first = text::trim(text::split(list, ",").front());
+    return first.empty() ? -1 : std::stoi(first);
+}
+
+// The general fill: the block to the first name field, the number to the first number field.
+void fillGeneral(Form& form, const TPInfoRec& A) {
+    const int nameIndex = firstIndexOf(g().NameAddrIndex);
+    const int numberIndex = firstIndexOf(g().SSNIndex);
+    if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.NameAddr;
+    if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.SSN;
+}
+
+// The check is drawn to both persons of the button's household, at the address of the first.
+void fillCheck(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
+    Control& payer = form.at("Text1", 0);
+    payer.fontSize = 9;
+    payer.text = A.Name + "\r\n" + B.Name + "\r\n" + A.Address;
+}
+
+// Fourteen digits of the present moment, year first: the number of a training license.
+std::string timeStamp(const DateTime& now) {
+    char stamp[32];
+    std::snprintf(stamp, sizeof stamp, "%04d%02d%02d%02d%02d%02d", now.year, now.month, now.day, now.hour,
+                  now.minute, now.second);
+    return stamp;
+}
+
+// Numbers and expiry of the licenses just filled: a license runs out on the birthday five years on.
+void stampLicenses(Form& form) {
+    const DateTime now = program().platform.now();
+    auto text = [&](int index) -> std::string& { return form.at("Text1", index).text; };
+    const std::string inFiveYears = std::to_string(now.year + 5);
+    text(2) = timeStamp(now);
+    text(3) = text(1).substr(0, 6) + inFiveYears;
+    if (!text(4).empty()) text(6) = timeStamp(program().platform.now());
+    if (!text(5).empty()) text(7) = text(5).substr(0, 6) + inFiveYears;
+}
+
+void fillByPrefix(Form& form, const std::string& prefix, const std::string& Who, const TPInfoRec& A,
+                  const TPInfoRec& B) {
+    if (prefix == "ss_itin") return TPInfo_Process_TIN_Cards(form, Who == "TP 2" ? 2 : 1);
+    if (prefix == "dl" || prefix == "drvlic") {
+        TPInfo_Process_DriverLicenses(form, A, B);
+        return stampLicenses(form);
+    }
+    if (prefix == "chk" || prefix == "check") return fillCheck(form, A, B);
+    if (prefix == "1095-a") return TPInfo_Process_1095A(form, A, B);
+    if (prefix == "tpinfo") return;
+    if (prefix == "1095b") return TPInfo_Process_1095B(form, A);
+    if (prefix == "1095c") return TPInfo_Process_1095C(form, A);
+    if (prefix == "ssa") return TPInfo_Process_SSA1099(form, A);
+    fillGeneral(form, A);
+}
+
+}  // namespace
+
+void TPInfo_Read(const std::string& Who) {
+    runGuarded("M6_TPInfo:TPInfo_Read", [&] {
+        Form* form = g().CurrentForm;
+        if (!form) return;
+        const TPInfoRec tp1 = readPerson("TP1");
+        const TPInfoRec tp2 = readPerson("TP2");
+        const bool second = Who == "TP 2";
+        const TPInfoRec& A = second ? tp2 : tp1;
+        const TPInfoRec& B = second ? tp1 : tp2;
+        fillByPrefix(*form, text::toLower(g().RecordPrefix), Who, A, B);
+
+        const std::string prefix = text::toUpper(g().RecordPrefix);
+        if (prefix == "RRB") {
+            // The lower statement repeats the payee's number; the focus stays where it is.
+            form->at("Text1", 15).text = form->at("Text1", 2).text;
+            form->at("Text1", 16).text = form->at("Text1", 3).text;
+        } else {
+            TPInfo_Focus_After();
+        }
+        program().ui.refresh();
+    });
+}
+
+}  // namespace lw

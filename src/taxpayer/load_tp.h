@@ -1,0 +1,22 @@
+#pragma once
+// [Load TP 1] and [Load TP 2]: the people of the store copied into the form on the screen.
+
+#include <string>
+
+#include "taxpayer/tp_record.h"
+
+namespace lw {
+
+class Form;
+
+// Who is "TP 1" or "TP 2", the end of the pressed button's caption. Every fill reads the store afresh.
+void TPInfo_Read(const std::string& Who);
+
+// The fills of the forms that do not take the general one; A is the person of the button, B the other.
+void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B);
+void TPInfo_Process_1095B(Form& form, const TPInfoRec& A);
+void TPInfo_Process_1095C(Form& form, const TPInfoRec& A);
+void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoRec& B);
+void TPInfo_Process_SSA1099(Form& form, const TPInfoRec& A);
+
+}  // namespace lw

@@ -1,0 +1,87 @@
+#include "taxpayer/tpinfo_sheet.h"
+
+#include <vector>
+
+#include "diagnostics/error_tail.h"
+#include "model/app_error.h"
+#include "model/program.h"
+#include "shell/startup.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+#include "text/date_text.h"
+#include "text/pieces.h"
+
+namespace lw {
+
+namespace {
+
+Globals& g() { return program().g; }
+
+bool isYearDigits(const std::string& s) {
+    return !s.empty() && s.size() <= 4 && s.find_first_not_of("0123456789") == std::string::npos;
+}
+
+bool endsIn20XX(const std::string& s) { return s.size() >= 4 && text::toUpper(s.substr(s.size() - 4)) == "20XX"; }
+
+}  // namespace
+
+std::string Age_At_YearEnd(Form& form, const std::string& DOB) {
+    const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+    if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
+    const std::vector<std::string> parts = text::split(DOB, "/");
+    bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) && isYearDigits(parts[1]) &&
+                  isYearDigits(parts[2]);
+    const int born = isDate ? std::stoi(parts[2]) : 0;
+    isDate = isDate && text::isCalendarDate(born, std::stoi(parts[0]), std::stoi(parts[1]));
+    // A birth date that is no date cannot be aged, as the classic date conversion refuses it.
+    if (!isDate || !isYearDigits(year)) throw AppError(err::kTypeMismatch, "Type mismatch");
+    const int age = std::stoi(year) - born;
+    if (age < 0) {
+        if (Control* status = form.find("labelMisc")) {
+            status->foreColor = kRed;
+            status->caption = "One or more date(s) are invalid";
+        }
+    }
+    return std::to_string(age);
+}
+
+void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
+    const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
+    Control& age = sheet.at("Text2", std::stoi(AgeIndex));
+    if (dob.text.empty()) return;
+    age.text = endsIn20XX(dob.text) ? "N/A" : Age_At_YearEnd(sheet, dob.text);
+}
+
+void UpdateAllAges(Form& sheet) {
+    // A row that cannot be aged leaves the others to be aged all the same.
+    for (const auto& row : g().PersonTable)
+        runGuarded("F5_TPInfo:UpdateAge", [&] { UpdateAge(sheet, row[1], row[2]); });
+}
+
+void TPInfo_Save() {
+    runGuarded("M6_TPInfo:TPInfo_Save", [] {
+        std::string fields[6];
+        const std::vector<std::string> pieces = text::split(g().FormRecord, std::string(1, text::kFieldSeparator));
+        for (std::size_t i = 2; i < pieces.size(); ++i) {
+            const std::string head = text::toUpper(pieces[i].substr(0, 5));
+            for (int k = 0; k < 6; ++k)
+                if (head == "TXT" + std::to_string(k) + "=") fields[k] = pieces[i].substr(5);
+        }
+        writeUserInf("TP1NameAddr", fields[0]);
+        writeUserInf("TP1SSN", fields[1]);
+        writeUserInf("TP1DOB", fields[2]);
+        writeUserInf("TP2NameAddr", fields[3]);
+        writeUserInf("TP2SSN", fields[4]);
+        writeUserInf("TP2DOB", fields[5]);
+        Form* sheet = g().CurrentForm;
+        if (!sheet) return;
+        for (int i = 6, k = 1; i <= 30; i += 4, ++k) {
+            const std::string& name = sheet->at("Text1", i).text;
+            const std::string& number = sheet->at("Text1", i + 1).text;
+            const bool blank = text::trim(name).empty() && text::trim(number).empty();
+            writeUserInf("Dependent" + std::to_string(k), blank ? "" : name + text::kFieldSeparator + number);
+        }
+    });
+}
+
+}  // namespace lw
