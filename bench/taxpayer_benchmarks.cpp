@@ -1,0 +1,49 @@
+// Load TP from a store that holds a whole case: two taxpayers and seven dependants.
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "bench_program.h"
+#include "model/form.h"
+#include "shell/startup.h"
+#include "taxpayer/load_tp.h"
+
+namespace lw::bench {
+namespace {
+
+void storeWholeCase() {
+    writeUserInf("TP1NameAddr", "JOHN Q DOE JR\xBB" "12 MAIN ST\xBB" "ANYTOWN, OH 44000");
+    writeUserInf("TP1SSN", "123-45-6789");
+    writeUserInf("TP1DOB", "03/15/1980");
+    writeUserInf("TP2NameAddr", "MARY DOE\xBB" "12 MAIN ST\xBB" "ANYTOWN, OH 44000");
+    writeUserInf("TP2SSN", "234-56-7890");
+    writeUserInf("TP2DOB", "07/04/1982");
+    for (int k = 1; k <= 7; ++k)
+        writeUserInf("Dependent" + std::to_string(k), "CHILD " + std::to_string(k) + "\xB7" "3" +
+                                                            std::to_string(k) + "5-67-890" + std::to_string(k));
+}
+
+void LoadTP(benchmark::State& state, const std::string& formName) {
+    OpenedForm opened(state, formName);
+    if (!opened.form) return;
+    storeWholeCase();
+    for (auto _ : state) {
+        TPInfo_Read("TP 1");
+        if (opened.form->at("Text1", 0).text.empty() && opened.form->at("Text1", 13).text.empty()) {
+            state.SkipWithError("nothing was filled");
+            break;
+        }
+        benchmark::DoNotOptimize(opened.form->at("Text1", 0).text);
+    }
+}
+
+void LoadTPOnW2(benchmark::State& state) { LoadTP(state, "TF_W2"); }
+void LoadTPOnCards(benchmark::State& state) { LoadTP(state, "F2_SS_ITIN"); }
+
+}  // namespace
+
+BENCHMARK(LoadTPOnW2)->Unit(benchmark::kMicrosecond);
+BENCHMARK(LoadTPOnCards)->Unit(benchmark::kMicrosecond);
+
+}  // namespace lw::bench
