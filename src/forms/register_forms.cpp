@@ -15,6 +15,7 @@
 #include "forms/check_form.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
+#include "forms/license_form.h"
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
 #include "forms/w2_form.h"
@@ -61,6 +62,7 @@ void registerAllForms() {
     registerTPInfoForm();
     registerCardsForm();
     registerCheckForm();
+    registerLicenseForm();
     // The people of the case: the sheet fills the store, the Load TP buttons read it.
     frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };
     taxpayerStoreSave() = [] { TPInfo_Save(); };

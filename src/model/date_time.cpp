@@ -13,6 +13,12 @@ std::string DateTime::toDisplayText() const {
     return buffer;
 }
 
+std::string DateTime::toStampText() const {
+    char buffer[48];
+    std::snprintf(buffer, sizeof buffer, "%04d%02d%02d%02d%02d%02d", year, month, day, hour, minute, second);
+    return buffer;
+}
+
 DateTime DateTime::plusMilliseconds(long long ms) const {
     std::tm tm{};
     tm.tm_year = year - 1900;

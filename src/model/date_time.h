@@ -15,6 +15,8 @@ struct DateTime {
 
     // "mm/dd/yyyy hh:mm:ss AM", the way the report form shows the moment of an error.
     std::string toDisplayText() const;
+    // "yyyymmddHhNnss": fourteen digits, year first, the hour on the 24-hour clock; a license's number.
+    std::string toStampText() const;
     DateTime plusMilliseconds(long long ms) const;
 };
 

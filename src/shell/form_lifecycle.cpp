@@ -278,7 +278,7 @@ void Form_Clear() {
             Control& c = *owned;
             if (c.isTextBox()) c.text.clear();
             if (isLabel(c) && text::equalsNoCase(c.name, "Check")) c.caption.clear();
-            if (c.kind == ControlKind::Picture &&
+            if ((c.kind == ControlKind::Picture || c.kind == ControlKind::Image) &&
                 (text::equalsNoCase(c.name, "Picture2") || text::equalsNoCase(c.name, "Picture4")))
                 c.picture.clear();
         }

@@ -2,7 +2,6 @@
 // its record prefix; afterwards the focus goes back where the operator left it.
 #include "taxpayer/load_tp.h"
 
-#include <cstdio>
 #include <vector>
 
 #include "diagnostics/error_tail.h"
@@ -50,22 +49,14 @@ void fillCheck(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     payer.text = A.Name + "\r\n" + B.Name + "\r\n" + A.Address;
 }
 
-// Fourteen digits of the present moment, year first: the number of a training license.
-std::string timeStamp(const DateTime& now) {
-    char stamp[32];
-    std::snprintf(stamp, sizeof stamp, "%04d%02d%02d%02d%02d%02d", now.year, now.month, now.day, now.hour,
-                  now.minute, now.second);
-    return stamp;
-}
-
 // Numbers and expiry of the licenses just filled: a license runs out on the birthday five years on.
 void stampLicenses(Form& form) {
     const DateTime now = program().platform.now();
     auto text = [&](int index) -> std::string& { return form.at("Text1", index).text; };
     const std::string inFiveYears = std::to_string(now.year + 5);
-    text(2) = timeStamp(now);
+    text(2) = now.toStampText();
     text(3) = text(1).substr(0, 6) + inFiveYears;
-    if (!text(4).empty()) text(6) = timeStamp(program().platform.now());
+    if (!text(4).empty()) text(6) = program().platform.now().toStampText();
     if (!text(5).empty()) text(7) = text(5).substr(0, 6) + inFiveYears;
 }
 

@@ -1,0 +1,79 @@
+#include "forms/license_form.h"
+
+#include "diagnostics/error_tail.h"
+#include "fields/edit_ctl.h"
+#include "forms/license_dates.h"
+#include "model/program.h"
+#include "shell/form_lifecycle.h"
+#include "shell/form_registry.h"
+#include "shell/paths.h"
+#include "text/case.h"
+
+namespace lw {
+
+std::string portraitFile(int number) {
+    return joinPath(program().g.PicturesFolder, "P" + std::to_string(number) + "GS.jpg");
+}
+
+F3_DL::F3_DL() : TaxForm("F3_DL") {}
+
+void F3_DL::onLoad() {
+    TaxForm::onLoad();
+    for (Control* portrait : arrayOf("picDL")) portrait->picture = portraitFile(portrait->index + 1);
+    program().g.DL_HolidayList = kFixedHolidays;
+    DL_BuildHolidays();
+}
+
+void F3_DL::onClick(Control& ctl, MouseButton button) {
+    if (!text::equalsNoCase(ctl.name, "picDL") || ctl.index < 0) return TaxForm::onClick(ctl, button);
+    const bool first = button == MouseButton::Left;
+    at(first ? "Picture2" : "Picture4").picture = ctl.picture;
+    chosenPicture(first ? 1 : 2) = ctl.index + 1;
+}
+
+void F3_DL::onValidate(Control& ctl, bool& Cancel) {
+    if (!isFieldArray(ctl)) return;
+    if (!EditCtl(ctl)) {
+        ctl.select(0, 99);
+        setFocus(ctl);
+        Cancel = true;
+        return;
+    }
+    // A fault of the dates, such as a February 29 birthday in a year without one, is reported and the
+    // field is left.
+    runGuarded("F3_DL:Text1_Validate", [&] { fillAfterLeaving(ctl, Cancel); });
+}
+
+void F3_DL::fillAfterLeaving(Control& ctl, bool& Cancel) {
+    if (ctl.name != "Text1") return;
+    auto field = [&](int index) -> Control& { return at("Text1", index); };
+    switch (ctl.index) {
+        case 0:
+            // The first license must have a name; the field is simply kept, with no word.
+            if (ctl.text.empty()) Cancel = true;
+            else field(2).text = program().platform.now().toStampText();
+            break;
+        case 1:
+            DL_FillDates("1", ctl.text, field(8), field(3));
+            break;
+        case 4:
+            if (!ctl.text.empty()) field(6).text = program().platform.now().toStampText();
+            break;
+        case 5:
+            DL_FillDates("2", ctl.text, field(9), field(7));
+            break;
+        default:
+            break;
+    }
+}
+
+void F3_DL::refillAfterClear() {
+    p_iDL1PicIndex = 0;
+    p_iDL2PicIndex = 0;
+}
+
+void registerLicenseForm() {
+    registerForm("F3_DL", [] { return std::make_unique<F3_DL>(); });
+}
+
+}  // namespace lw
