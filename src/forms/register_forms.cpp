@@ -12,6 +12,8 @@
 #include "shell/frame_command_hooks.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
+#include "forms/form_rrb1099.h"
+#include "forms/form_ssa1099.h"
 #include "forms/tax_form.h"
 #include "forms/w2_form.h"
 #include "shell/form_registry.h"
@@ -52,6 +54,8 @@ void registerAllForms() {
     registerW2Form();
     register1099BForm();
     register1099GForm();
+    registerSSA1099Form();
+    registerRRB1099Form();
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {
