@@ -2,12 +2,15 @@
 
 #include <memory>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
 #include "fields/control_setup.h"
 #include "fields/edit_ctl.h"
 #include "model/app_error.h"
+#include "model/desktop.h"
 #include "model/program.h"
 #include "shell/form_registry.h"
 #include "text/case.h"
