@@ -15,6 +15,8 @@
 #include "forms/check_form.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
+#include "forms/form_rrb1099.h"
+#include "forms/form_ssa1099.h"
 #include "forms/license_form.h"
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
@@ -63,6 +65,8 @@ void registerAllForms() {
     registerCardsForm();
     registerCheckForm();
     registerLicenseForm();
+    registerSSA1099Form();
+    registerRRB1099Form();
     // The people of the case: the sheet fills the store, the Load TP buttons read it.
     frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };
     taxpayerStoreSave() = [] { TPInfo_Save(); };

@@ -110,21 +110,32 @@ std::string layDecimalSide(const std::string& side, const Decimal& value) {
     return out;
 }
 
+// The value rounded to the mask's decimals and laid out; `significant` digits are kept first, none
+// dropped when it is 0.
+std::string layNumber(const Decimal& parsed, std::string_view mask, std::size_t significant) {
+    const NumberMask parts = parseMask(mask);
+    const auto places = std::count_if(parts.decimalSide.begin(), parts.decimalSide.end(), isPlaceholder);
+    const Decimal value =
+        roundToPlaces(significant > 0 ? roundToSignificant(parsed, significant) : parsed, places);
+
+    std::string out = value.negative && !value.isZero() ? "-" : "";
+    out += layIntegerSide(parts, integerDigits(value));
+    if (parts.hasPoint) out += "." + layDecimalSide(parts.decimalSide, value);
+    return out;
+}
+
 }  // namespace
 
 std::string formatNumber(std::string_view numberText, std::string_view mask) {
     const std::optional<Decimal> parsed = parseDecimal(numberText);
     if (!parsed || !isNumeric(numberText))
         throw std::invalid_argument("not a number: \"" + std::string(numberText) + "\"");
+    return layNumber(*parsed, mask, kSignificantDigits);
+}
 
-    const NumberMask parts = parseMask(mask);
-    const auto places = std::count_if(parts.decimalSide.begin(), parts.decimalSide.end(), isPlaceholder);
-    const Decimal value = roundToPlaces(roundToSignificant(*parsed, kSignificantDigits), places);
-
-    std::string out = value.negative && !value.isZero() ? "-" : "";
-    out += layIntegerSide(parts, integerDigits(value));
-    if (parts.hasPoint) out += "." + layDecimalSide(parts.decimalSide, value);
-    return out;
+std::string formatCurrency(Currency amount, std::string_view mask) {
+    // The exact decimal text of a count always reads back.
+    return layNumber(*parseDecimal(amount.toDecimalString()), mask, 0);
 }
 
 std::string formatText(std::string_view text, std::string_view mask) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/currency.h"
+
 namespace lw::text {
 
 // Classic Format of a number under a one-section mask such as "$###,###.00", "(###,###,###)",
@@ -19,6 +21,11 @@ namespace lw::text {
 // double-to-text conversion would, then to the mask's decimals; halves go away from nought
 // (2.675 gives 2.68). Throws std::invalid_argument when isNumeric refuses the text.
 std::string formatNumber(std::string_view numberText, std::string_view mask);
+
+// As formatNumber, for an amount of money: all of its digits, up to the nineteen of the largest count,
+// take part in the rounding to the mask's decimals, with none lost to the 15 digits of a double.
+// 922337203685477.5807 under "$##,###.00" is $922,337,203,685,477.58.
+std::string formatCurrency(Currency amount, std::string_view mask);
 
 // Classic Format of a text under an "@" mask: each "@" takes one character, filled from the right;
 // left placeholders with no character left show a blank; characters beyond the placeholders come out

@@ -1,0 +1,46 @@
+// TF_RRB1099, the two railroad retirement statements on one screen: the upper RRB-1099 works its net
+// amount out and reports a shortfall, the lower RRB-1099-R totals its gross payments, and the payer's
+// and recipient's identity typed above is copied below.
+#pragma once
+
+#include "forms/benefit_amounts.h"
+#include "forms/tax_form.h"
+
+namespace lw {
+
+class TF_RRB1099 : public TaxForm {
+public:
+    TF_RRB1099();
+
+    void onLoad() override;
+    void onGotFocus(Control& ctl) override;
+    void onLostFocus(Control& ctl) override;
+    void onValidate(Control& ctl, bool& Cancel) override;
+
+    // Works the net amount of the upper statement out; Index is the field being left.
+    void ComputeRRB(int Index);
+
+    // The field that last took the focus, a computed one included.
+    int myIndex = 0;
+
+    static constexpr int kGross = 4;     // box 3
+    static constexpr int kNet = 6;       // box 5
+    static constexpr int kPremium = 12;  // box 11
+    static constexpr int kTotalGrossPaid = 21;
+
+private:
+    Control& field(int index) const { return at("Text1", index); }
+    void Text1_Validate(int Index, bool& Cancel);
+    // Sums boxes 4, 5 and 6 of the lower statement into its box 7.
+    void totalGrossPaid();
+    // The identity fields of the upper statement to their places on the lower one.
+    void copyIdentity();
+
+    RrbAmounts amount_{};
+    text::Currency grossPaid_{};
+};
+
+// Makes TF_RRB1099 known by name, in place of the standard tax form.
+void registerRRB1099Form();
+
+}  // namespace lw
