@@ -70,6 +70,15 @@ QSize formSize(const Form& form, double scale) {
     return QSize(std::max(1, toPixels(form.width, scale)), std::max(1, toPixels(form.height, scale)));
 }
 
+QRect textArea(const Control& control, double scale) {
+    const auto px = [scale](int pixelsAt96) {
+        return std::max(1, static_cast<int>(std::lround(pixelsAt96 * kTwipsPerPixel * scale)));
+    };
+    QRect inner = controlRect(control, scale);
+    if (control.borderStyle != 0) inner.adjust(px(1), px(1), -px(1), -px(1));
+    return inner.adjusted(px(2), control.multiLine ? px(1) : 0, -px(2), 0);
+}
+
 bool hasEditor(ControlKind kind) {
     switch (kind) {
         case ControlKind::TextBox:

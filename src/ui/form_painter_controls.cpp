@@ -126,12 +126,8 @@ void FormPainter::paintFrame(QPainter& p, const Control& c, const QRect& r) cons
 
 void FormPainter::paintTextBox(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
-    QRect inner = r;
-    if (c.borderStyle != 0) {
-        strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
-        inner.adjust(px(1), px(1), -px(1), -px(1));
-    }
-    inner.adjust(px(2), c.multiLine ? px(1) : 0, -px(2), 0);
+    if (c.borderStyle != 0) strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
+    const QRect inner = textArea(c, scale_);
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
     p.setClipRect(r);
     const Qt::Alignment vertical = c.multiLine ? Qt::AlignTop : Qt::AlignVCenter;
