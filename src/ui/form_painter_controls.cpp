@@ -81,21 +81,8 @@ void FormPainter::paintLabel(QPainter& p, const Control& c, const QRect& r) cons
     // A label is its caption and, when opaque, its back colour; boxes around text are shapes of their own.
     if (c.opaque) p.fillRect(r, toQColor(c.backColor));
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    // As on any label, "&&" shows one "&" and a single "&" marks an access key.
-    QString text = withoutAccessMarks(withLineFeeds(c.caption));
-    QRect box = r.adjusted(px(1), 0, -px(1), 0);
-    // A long text opens each of its lines with a blank; drawn as an indent, the lines it wraps stay flush
-    // with the first.
-    QStringList lines = text.split(QLatin1Char('\n'));
-    const bool indented = c.alignment == 0 && std::all_of(lines.cbegin(), lines.cend(), [](const QString& line) {
-        return line.startsWith(QLatin1Char(' '));
-    });
-    if (indented) {
-        for (QString& line : lines) line.remove(0, 1);
-        text = lines.join(QLatin1Char('\n'));
-        box.setLeft(box.left() + QFontMetrics(p.font()).horizontalAdvance(QLatin1Char(' ')));
-    }
-    p.drawText(box, Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap, text);
+    const LabelLayout layout = labelLayout(c, scale_);
+    p.drawText(layout.box, Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap, layout.text);
 }
 
 void FormPainter::paintCheckLabel(QPainter& p, const Control& c, const QRect& r) const {

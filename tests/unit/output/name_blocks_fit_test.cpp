@@ -52,7 +52,8 @@ std::vector<std::string> drawnForms() {
 }
 
 bool isNameBlock(const Control& c) {
-    return c.kind == ControlKind::TextBox && c.multiLine && c.visible && (c.tag == "ISSUER" || c.tag == "TPNAME");
+    return c.kind == ControlKind::TextBox && c.multiLine && c.visible &&
+           (c.tag == "ISSUER" || c.tag == "TPNAME");
 }
 
 class NameBlocks : public ::testing::TestWithParam<std::string> {
@@ -111,12 +112,14 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitThePrintedBlockAt100And200Percent)
             for (const std::string& line : lines) {
                 const int advance = metrics.horizontalAdvance(ui::toQString(line));
                 EXPECT_LE(advance, area.width())
-                    << GetParam() << " " << c->key() << " at " << zoom * 100 << "% cuts \"" << line << "\": "
-                    << c->width << " twips wide, needs " << std::lround((advance + marginX) / scale);
+                    << GetParam() << " " << c->key() << " at " << zoom * 100 << "% cuts \"" << line
+                    << "\": " << c->width << " twips wide, needs "
+                    << std::lround((advance + marginX) / scale);
             }
             EXPECT_LE(metrics.lineSpacing() * 5, area.height())
-                << GetParam() << " " << c->key() << " at " << zoom * 100 << "% loses its last line: "
-                << c->height << " twips high, needs " << std::lround((metrics.lineSpacing() * 5 + marginY) / scale);
+                << GetParam() << " " << c->key() << " at " << zoom * 100
+                << "% loses its last line: " << c->height << " twips high, needs "
+                << std::lround((metrics.lineSpacing() * 5 + marginY) / scale);
         }
     }
 }
@@ -141,8 +144,8 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
         const auto twips = [](int pixels) { return std::lround(pixels * ui::kTwipsPerPixel); };
         for (QTextBlock block = box->document()->begin(); block.isValid(); block = block.next())
             EXPECT_EQ(block.layout()->lineCount(), 1)
-                << GetParam() << " " << c->key() << " wraps \"" << block.text().toStdString() << "\": " << c->width
-                << " twips wide, needs " << twips(widest + chrome + box->cursorWidth());
+                << GetParam() << " " << c->key() << " wraps \"" << block.text().toStdString()
+                << "\": " << c->width << " twips wide, needs " << twips(widest + chrome + box->cursorWidth());
         QTextCursor start(box->document());
         QTextCursor end(box->document());
         end.movePosition(QTextCursor::End);
