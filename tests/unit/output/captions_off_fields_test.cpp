@@ -1,5 +1,6 @@
-// No caption of a drawn form runs onto a field, at 100% and at 200%: each label's words, wrapped in its own
-// width in the face it is drawn in, stay clear of every text box, list and check box.
+// No caption of a drawn form runs onto a field or across a line of its grid, at 100% and at 200%: each
+// label's words, wrapped in its own width in the face it is drawn in, stay clear of every text box, list,
+// check box and drawn line.
 #include <gtest/gtest.h>
 
 #include <QFontMetrics>
@@ -50,7 +51,7 @@ protected:
     Form* form = nullptr;
 };
 
-TEST_P(CaptionsOffFields, NoCaptionRunsOntoAField) {
+TEST_P(CaptionsOffFields, NoCaptionRunsOntoAFieldOrAcrossALine) {
     for (const double zoom : {1.0, 2.0}) {
         const double scale = ui::kScreenScale * zoom;
         for (const auto& label : form->controls()) {
@@ -62,6 +63,16 @@ TEST_P(CaptionsOffFields, NoCaptionRunsOntoAField) {
             const QRect words =
                 QFontMetrics(ui::controlFont(*label, scale))
                     .boundingRect(layout.box, Qt::AlignTop | align | Qt::TextWordWrap, layout.text);
+            for (const auto& line : form->controls()) {
+                if (line->kind != ControlKind::Line || !line->visible || line->borderStyle == 0) continue;
+                const QRect drawn =
+                    QRect(QPoint(ui::toPixels(line->left, scale), ui::toPixels(line->top, scale)),
+                          QPoint(ui::toPixels(line->x2, scale), ui::toPixels(line->y2, scale)))
+                        .normalized();
+                EXPECT_FALSE(words.intersects(drawn))
+                    << GetParam() << " at " << zoom * 100 << "%: the caption of " << label->key() << " \""
+                    << label->caption << "\" is crossed by the line " << line->key();
+            }
             for (const auto& field : form->controls()) {
                 if (!isField(*field)) continue;
                 const QRect place = ui::controlRect(*field, scale);
