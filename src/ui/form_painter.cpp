@@ -70,6 +70,35 @@ QSize formSize(const Form& form, double scale) {
     return QSize(std::max(1, toPixels(form.width, scale)), std::max(1, toPixels(form.height, scale)));
 }
 
+LabelLayout labelLayout(const Control& label, double scale) {
+    const int margin = std::max(1, static_cast<int>(std::lround(kTwipsPerPixel * scale)));
+    // As on any label, "&&" shows one "&" and a single "&" marks an access key.
+    LabelLayout layout{controlRect(label, scale).adjusted(margin, 0, -margin, 0),
+                       withoutAccessMarks(withLineFeeds(label.caption))};
+    // A long text opens each of its lines with a blank; drawn as an indent, the lines it wraps stay flush
+    // with the first.
+    QStringList lines = layout.text.split(QLatin1Char('\n'));
+    const bool indented = label.alignment == 0 &&
+                          std::all_of(lines.cbegin(), lines.cend(),
+                                      [](const QString& line) { return line.startsWith(QLatin1Char(' ')); });
+    if (indented) {
+        for (QString& line : lines) line.remove(0, 1);
+        layout.text = lines.join(QLatin1Char('\n'));
+        layout.box.setLeft(layout.box.left() +
+                           QFontMetrics(controlFont(label, scale)).horizontalAdvance(QLatin1Char(' ')));
+    }
+    return layout;
+}
+
+QRect textArea(const Control& control, double scale) {
+    const auto px = [scale](int pixelsAt96) {
+        return std::max(1, static_cast<int>(std::lround(pixelsAt96 * kTwipsPerPixel * scale)));
+    };
+    QRect inner = controlRect(control, scale);
+    if (control.borderStyle != 0) inner.adjust(px(1), px(1), -px(1), -px(1));
+    return inner.adjusted(px(2), control.multiLine ? px(1) : 0, -px(2), 0);
+}
+
 bool hasEditor(ControlKind kind) {
     switch (kind) {
         case ControlKind::TextBox:

@@ -28,6 +28,14 @@ QRect controlRect(const Control& control, double scale);
 // border and strokes.
 QRect paintedExtent(const Control& control, double scale);
 QSize formSize(const Form& form, double scale);
+// What a label writes and the rectangle it writes it in, word-wrapped from the top.
+struct LabelLayout {
+    QRect box;
+    QString text;
+};
+LabelLayout labelLayout(const Control& label, double scale);
+// Where a text box writes its text: inside its border, with the small margins of an edit control.
+QRect textArea(const Control& control, double scale);
 
 // The kinds a form view hosts as real editors instead of painting them.
 bool hasEditor(ControlKind kind);

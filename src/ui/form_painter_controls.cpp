@@ -81,9 +81,8 @@ void FormPainter::paintLabel(QPainter& p, const Control& c, const QRect& r) cons
     // A label is its caption and, when opaque, its back colour; boxes around text are shapes of their own.
     if (c.opaque) p.fillRect(r, toQColor(c.backColor));
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    // As on any label, "&&" shows one "&" and a single "&" marks an access key.
-    p.drawText(r.adjusted(px(1), 0, -px(1), 0), Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap,
-               withoutAccessMarks(withLineFeeds(c.caption)));
+    const LabelLayout layout = labelLayout(c, scale_);
+    p.drawText(layout.box, Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap, layout.text);
 }
 
 void FormPainter::paintCheckLabel(QPainter& p, const Control& c, const QRect& r) const {
@@ -126,12 +125,8 @@ void FormPainter::paintFrame(QPainter& p, const Control& c, const QRect& r) cons
 
 void FormPainter::paintTextBox(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
-    QRect inner = r;
-    if (c.borderStyle != 0) {
-        strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
-        inner.adjust(px(1), px(1), -px(1), -px(1));
-    }
-    inner.adjust(px(2), c.multiLine ? px(1) : 0, -px(2), 0);
+    if (c.borderStyle != 0) strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
+    const QRect inner = textArea(c, scale_);
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
     p.setClipRect(r);
     const Qt::Alignment vertical = c.multiLine ? Qt::AlignTop : Qt::AlignVCenter;

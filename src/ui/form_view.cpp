@@ -86,6 +86,8 @@ QWidget* FormView::createEditor(Control& control) {
                 box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
                 box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
                 box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+                // The narrow margin of a classic edit box: the field shows the lines its print shows.
+                box->document()->setDocumentMargin(1);
                 box->setAcceptDrops(false);
                 box->viewport()->installEventFilter(this);
                 box->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);

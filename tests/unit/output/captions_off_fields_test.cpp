@@ -1,0 +1,92 @@
+// No caption of a drawn form runs onto a field or across a line of its grid, at 100% and at 200%: each
+// label's words, wrapped in its own width in the face it is drawn in, stay clear of every text box, list,
+// check box and drawn line.
+#include <gtest/gtest.h>
+
+#include <QFontMetrics>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue_table.h"
+#include "catalogue/definitions.h"
+#include "forms/register_forms.h"
+#include "qt_offscreen.h"
+#include "test_program.h"
+#include "ui/form_painter.h"
+
+namespace lw {
+namespace {
+
+const auto* const kQt = testing::addQtOffscreen();
+
+std::vector<std::string> drawnForms() {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue())
+        if (hasDefinition(entry.form) && std::string(entry.menuItem).rfind("mnu", 0) == 0 &&
+            std::string(entry.form).rfind("TF_", 0) == 0)
+            names.push_back(entry.form);
+    return names;
+}
+
+bool isField(const Control& c) {
+    return c.visible && (c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox ||
+                         c.kind == ControlKind::CheckLabel);
+}
+
+class CaptionsOffFields : public ::testing::TestWithParam<std::string> {
+protected:
+    void SetUp() override {
+        test.program.reset();
+        test.program = std::make_unique<Program>(test.ui, test.platform);
+        registerAllForms();
+        test.start();
+        for (const CatalogueEntry& entry : catalogue())
+            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
+        form = test.program->desktop.activeChild();
+        ASSERT_NE(form, nullptr);
+        ASSERT_EQ(form->name(), GetParam());
+    }
+
+    testing::TestProgram test;
+    Form* form = nullptr;
+};
+
+TEST_P(CaptionsOffFields, NoCaptionRunsOntoAFieldOrAcrossALine) {
+    for (const double zoom : {1.0, 2.0}) {
+        const double scale = ui::kScreenScale * zoom;
+        for (const auto& label : form->controls()) {
+            if (label->kind != ControlKind::Label || !label->visible || label->caption.empty()) continue;
+            const ui::LabelLayout layout = ui::labelLayout(*label, scale);
+            const int align = label->alignment == 1   ? Qt::AlignRight
+                              : label->alignment == 2 ? Qt::AlignHCenter
+                                                      : Qt::AlignLeft;
+            const QRect words =
+                QFontMetrics(ui::controlFont(*label, scale))
+                    .boundingRect(layout.box, Qt::AlignTop | align | Qt::TextWordWrap, layout.text);
+            for (const auto& line : form->controls()) {
+                if (line->kind != ControlKind::Line || !line->visible || line->borderStyle == 0) continue;
+                const QRect drawn =
+                    QRect(QPoint(ui::toPixels(line->left, scale), ui::toPixels(line->top, scale)),
+                          QPoint(ui::toPixels(line->x2, scale), ui::toPixels(line->y2, scale)))
+                        .normalized();
+                EXPECT_FALSE(words.intersects(drawn))
+                    << GetParam() << " at " << zoom * 100 << "%: the caption of " << label->key() << " \""
+                    << label->caption << "\" is crossed by the line " << line->key();
+            }
+            for (const auto& field : form->controls()) {
+                if (!isField(*field)) continue;
+                const QRect place = ui::controlRect(*field, scale);
+                EXPECT_FALSE(words.intersects(place))
+                    << GetParam() << " at " << zoom * 100 << "%: the caption of " << label->key() << " \""
+                    << label->caption << "\" runs onto " << field->key() << " by "
+                    << std::lround(words.intersected(place).height() / scale) << " twips";
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(DrawnForms, CaptionsOffFields, ::testing::ValuesIn(drawnForms()),
+                         [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
+
+}  // namespace
+}  // namespace lw

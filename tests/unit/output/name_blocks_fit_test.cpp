@@ -1,0 +1,165 @@
+// Every name and address block of every drawn form holds five lines of forty capitals -- a payer with a
+// long name, an attention line, a street, a city with its ZIP code and a telephone number -- with no line
+// wrapped or cut, in the faces the forms are drawn in, on the printed picture at 100% and 200% and in the
+// field the operator types into.
+#include <gtest/gtest.h>
+
+#include <QFontMetrics>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue_table.h"
+#include "catalogue/definitions.h"
+#include "forms/register_forms.h"
+#include "qt_offscreen.h"
+#include "test_program.h"
+#include "ui/form_painter.h"
+#include "ui/form_view.h"
+#include "ui/qt_text.h"
+
+namespace lw {
+namespace {
+
+const auto* const kQt = testing::addQtOffscreen();
+
+const std::vector<std::string> kPayer = {
+    "NORTHWESTERN REGIONAL MEDICAL GROUP, LLC", "ATTN: ACCOUNTS PAYABLE AND TAX REPORTING",
+    "12845 WEST RIVERSIDE BOULEVARD, STE 1400", "SOUTH SAN FRANCISCO, CA 94080-1234 (USA)",
+    "TELEPHONE (650) 555-0198, EXTENSION 2047"};
+const std::vector<std::string> kRecipient = {
+    "MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE", "C/O ROSEMARY WILHELMINA BARTHOLOMEW-KING",
+    "APARTMENT 12B, 4500 MASSACHUSETTS AVE NW", "WASHINGTON, DC 20016-5512, UNITED STATES",
+    "PHONE (202) 555-0143, FAX (202) 555-0199"};
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string block;
+    for (const std::string& line : lines) block += (block.empty() ? "" : "\r\n") + line;
+    return block;
+}
+
+std::vector<std::string> drawnForms() {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue())
+        if (hasDefinition(entry.form) && std::string(entry.menuItem).rfind("mnu", 0) == 0 &&
+            std::string(entry.form).rfind("TF_", 0) == 0)
+            names.push_back(entry.form);
+    return names;
+}
+
+bool isNameBlock(const Control& c) {
+    return c.kind == ControlKind::TextBox && c.multiLine && c.visible &&
+           (c.tag == "ISSUER" || c.tag == "TPNAME");
+}
+
+class NameBlocks : public ::testing::TestWithParam<std::string> {
+protected:
+    void SetUp() override {
+        test.program.reset();
+        test.program = std::make_unique<Program>(test.ui, test.platform);
+        registerAllForms();
+        test.start();
+        for (const CatalogueEntry& entry : catalogue())
+            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
+        form = test.program->desktop.activeChild();
+        ASSERT_NE(form, nullptr);
+        ASSERT_EQ(form->name(), GetParam());
+        for (const auto& c : form->controls())
+            if (isNameBlock(*c)) blocks.push_back(c.get());
+    }
+
+    // Types the block into the field as a paste would and returns what the field holds.
+    std::vector<std::string> fill(Control& c) {
+        Desktop& desktop = test.program->desktop;
+        desktop.setFocus(c);
+        c.select(0, static_cast<int>(c.text.size()));
+        desktop.paste(joined(c.tag == "ISSUER" ? kPayer : kRecipient));
+        std::vector<std::string> lines;
+        std::string rest = c.text;
+        for (std::size_t at; (at = rest.find("\r\n")) != std::string::npos; rest.erase(0, at + 2))
+            lines.push_back(rest.substr(0, at));
+        lines.push_back(rest);
+        return lines;
+    }
+
+    testing::TestProgram test;
+    Form* form = nullptr;
+    std::vector<Control*> blocks;
+};
+
+TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitThePrintedBlockAt100And200Percent) {
+    // The SSA-1099 names its beneficiary on one line and has no address block.
+    if (GetParam() == "TF_SSA1099") {
+        EXPECT_TRUE(blocks.empty());
+        GTEST_SKIP() << GetParam() << " has no name block of several lines";
+    }
+    ASSERT_FALSE(blocks.empty()) << "no name block on " << GetParam();
+    for (Control* c : blocks) {
+        const std::vector<std::string> lines = fill(*c);
+        ASSERT_EQ(lines.size(), 5u) << c->key() << " holds \"" << c->text << "\"";
+        for (const std::string& line : lines) ASSERT_EQ(line.size(), 40u) << c->key() << ": " << line;
+        for (const double zoom : {1.0, 2.0}) {
+            const double scale = ui::kScreenScale * zoom;
+            const QRect area = ui::textArea(*c, scale);
+            const QFontMetrics metrics(ui::controlFont(*c, scale));
+            // What the box would need, in twips, told when it falls short.
+            const int marginX = ui::controlRect(*c, scale).width() - area.width();
+            const int marginY = ui::controlRect(*c, scale).height() - area.height();
+            for (const std::string& line : lines) {
+                const int advance = metrics.horizontalAdvance(ui::toQString(line));
+                EXPECT_LE(advance, area.width())
+                    << GetParam() << " " << c->key() << " at " << zoom * 100 << "% cuts \"" << line
+                    << "\": " << c->width << " twips wide, needs "
+                    << std::lround((advance + marginX) / scale);
+            }
+            EXPECT_LE(metrics.lineSpacing() * 5, area.height())
+                << GetParam() << " " << c->key() << " at " << zoom * 100
+                << "% loses its last line: " << c->height << " twips high, needs "
+                << std::lround((metrics.lineSpacing() * 5 + marginY) / scale);
+        }
+    }
+}
+
+TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
+    if (blocks.empty()) GTEST_SKIP() << GetParam() << " has no name block of several lines";
+    for (Control* c : blocks) fill(*c);
+    ui::FormView view(*form);
+    view.resize(ui::formSize(*form, ui::kScreenScale));
+    view.show();
+    view.refresh();
+    for (Control* c : blocks) {
+        auto* box = qobject_cast<QPlainTextEdit*>(view.editorOf(*c));
+        ASSERT_NE(box, nullptr) << c->key();
+        ASSERT_EQ(box->document()->blockCount(), 5) << c->key();
+        // What the field would need, in twips, told when it falls short.
+        const QFontMetrics metrics(box->font());
+        const int chrome = static_cast<int>(2 * box->document()->documentMargin()) + 2 * box->frameWidth();
+        int widest = 0;
+        for (QTextBlock block = box->document()->begin(); block.isValid(); block = block.next())
+            widest = std::max(widest, metrics.horizontalAdvance(block.text()));
+        const auto twips = [](int pixels) { return std::lround(pixels * ui::kTwipsPerPixel); };
+        for (QTextBlock block = box->document()->begin(); block.isValid(); block = block.next())
+            EXPECT_EQ(block.layout()->lineCount(), 1)
+                << GetParam() << " " << c->key() << " wraps \"" << block.text().toStdString()
+                << "\": " << c->width << " twips wide, needs " << twips(widest + chrome + box->cursorWidth());
+        QTextCursor start(box->document());
+        QTextCursor end(box->document());
+        end.movePosition(QTextCursor::End);
+        const int needed = twips(5 * metrics.height() + chrome);
+        EXPECT_GE(box->cursorRect(start).top(), 0)
+            << GetParam() << " " << c->key() << " scrolls: " << c->height << " twips high, needs " << needed;
+        EXPECT_LE(box->cursorRect(end).bottom(), box->viewport()->height())
+            << GetParam() << " " << c->key() << " hides its last line: " << c->height << " twips high, needs "
+            << needed;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(DrawnForms, NameBlocks, ::testing::ValuesIn(drawnForms()),
+                         [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
+
+}  // namespace
+}  // namespace lw
