@@ -1,4 +1,5 @@
-// Load TP from a store that holds a whole case: two taxpayers and seven dependants.
+// The forms of a case's people: Load TP from a store that holds two taxpayers and seven dependants, and
+// the driver's license working out its dates.
 
 #include <benchmark/benchmark.h>
 
@@ -41,8 +42,26 @@ void LoadTP(benchmark::State& state, const std::string& formName) {
 void LoadTPOnW2(benchmark::State& state) { LoadTP(state, "TF_W2"); }
 void LoadTPOnCards(benchmark::State& state) { LoadTP(state, "F2_SS_ITIN"); }
 
+// Leaving a license's birth date: the edit, then the issue date moved off weekends and holidays and the
+// expiration date.
+void LeaveBirthDate(benchmark::State& state) {
+    OpenedForm opened(state, "F3_DL");
+    if (!opened.form) return;
+    Control& birth = opened.form->at("Text1", 1);
+    for (auto _ : state) {
+        birth.text = "06/15/1980";
+        bool cancel = false;
+        opened.form->onValidate(birth, cancel);
+        if (cancel || opened.form->at("Text1", 8).text.empty()) {
+            state.SkipWithError("the dates were not filled");
+            break;
+        }
+    }
+}
+
 }  // namespace
 
+BENCHMARK(LeaveBirthDate)->Unit(benchmark::kMicrosecond);
 BENCHMARK(LoadTPOnW2)->Unit(benchmark::kMicrosecond);
 BENCHMARK(LoadTPOnCards)->Unit(benchmark::kMicrosecond);
 
