@@ -35,6 +35,11 @@ constexpr int kNoIndex = -1;
 
 enum class Alignment { Left = 0, Right = 1, Center = 2 };
 
+// A grid column's ColAlignment, all centred vertically.
+constexpr int kGridAlignLeftCenter = 1;
+constexpr int kGridAlignCenterCenter = 4;
+constexpr int kGridAlignRightCenter = 7;
+
 struct Control {
     ControlKind kind = ControlKind::Label;
     std::string name;
@@ -85,7 +90,11 @@ struct Control {
     bool fontBold = false;
     bool fontItalic = false;
 
-    std::vector<std::string> items;  // combo and list boxes
+    std::vector<std::string> items;  // combo and list boxes; grid rows with their cells joined by tabs
+    // Grid columns: ColWidth in twips and ColAlignment by the grid's numbers (kGridAlign...). With no
+    // widths the columns share the grid evenly and read from the left.
+    std::vector<int> colWidths;
+    std::vector<int> colAlignments;
     int listIndex = -1;
     bool value = false;   // option buttons
     std::string picture;  // picture file or icon name
