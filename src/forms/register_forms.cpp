@@ -12,6 +12,7 @@
 #include "shell/frame_command_hooks.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
+#include "forms/k1_form.h"
 #include "forms/tax_form.h"
 #include "forms/w2_form.h"
 #include "shell/form_registry.h"
@@ -52,6 +53,7 @@ void registerAllForms() {
     registerW2Form();
     register1099BForm();
     register1099GForm();
+    registerK1Forms();
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

@@ -99,6 +99,13 @@ struct Control {
     bool value = false;   // option buttons
     std::string picture;  // picture file or icon name
 
+    // A control drawn inside another (a panel, a tab control) has its place relative to that container,
+    // as a designer lays it out, and shows only while the container does. On a tab control, `page` is
+    // the tab whose page holds it.
+    Control* container = nullptr;
+    int page = -1;
+    int tabHeight = 300;  // a tab control: the height of its strip of captions, in twips
+
     // Puts the control at a place of its form, in twips, as a designer lays it out.
     void place(int leftTwips, int topTwips, int widthTwips, int heightTwips) {
         left = leftTwips;

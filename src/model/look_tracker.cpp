@@ -1,5 +1,7 @@
 #include "model/look_tracker.h"
 
+#include "model/containers.h"
+
 #include <functional>
 #include <string>
 
@@ -29,7 +31,7 @@ std::size_t lookOf(const Control& c) {
         mix(seed, number);
     for (Color colour : {c.backColor, c.foreColor, c.borderColor}) mix(seed, colour);
     for (bool flag : {c.visible, c.enabled, c.locked, c.multiLine, c.wordWrap, c.opaque, c.fontBold,
-                      c.fontItalic, c.value, c.isDefault})
+                      c.fontItalic, c.value, c.isDefault, isShown(c)})
         mix(seed, flag);
     return seed;
 }

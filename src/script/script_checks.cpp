@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "model/containers.h"
 #include "model/program.h"
 #include "output/form_print.h"
 #include "script/script_runner.h"
@@ -193,6 +194,7 @@ std::string ScriptRunner::property(const Control& c, const std::string& name) co
     if (is("FontBold")) return flag(c.fontBold);
     if (is("Value")) return flag(c.value);
     if (is("ListIndex")) return std::to_string(c.listIndex);
+    if (is("Tab") && c.kind == ControlKind::TabControl) return std::to_string(tabOf(c));
     throw ScriptError("unknown property " + name);
 }
 

@@ -6,6 +6,7 @@
 #include <QPolygon>
 #include <algorithm>
 
+#include "model/containers.h"
 #include "ui/command_icons.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
@@ -103,8 +104,8 @@ void FormPainter::paintLine(QPainter& p, const Control& c) const {
     QPen pen = borderPen(c, toQColor(c.borderColor));
     pen.setCapStyle(Qt::SquareCap);
     p.setPen(pen);
-    p.drawLine(QPoint(toPixels(c.left, scale_), toPixels(c.top, scale_)),
-               QPoint(toPixels(c.x2, scale_), toPixels(c.y2, scale_)));
+    p.drawLine(QPoint(toPixels(formLeft(c), scale_), toPixels(formTop(c), scale_)),
+               QPoint(toPixels(c.x2 + originLeft(c), scale_), toPixels(c.y2 + originTop(c), scale_)));
 }
 
 void FormPainter::paintFrame(QPainter& p, const Control& c, const QRect& r) const {

@@ -14,6 +14,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "model/containers.h"
 #include "catalogue/field_names.h"
 #include "model/program.h"
 #include "ui/form_view_accessible.h"
@@ -246,7 +247,7 @@ Control* FormView::controlAt(QPoint point) const {
     const std::vector<const Control*> order = paintOrder(*form_);
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         const Control* control = *it;
-        if (!control->visible || hasEditor(control->kind)) continue;
+        if (!isShown(*control) || hasEditor(control->kind)) continue;
         if (control->kind == ControlKind::Shape || control->kind == ControlKind::Line) continue;
         if (controlRect(*control, kScreenScale).contains(point)) return const_cast<Control*>(control);
     }
