@@ -11,6 +11,7 @@
 
 namespace lw::bench {
 void registerFormBenchmarks();
+void registerK1Benchmarks();
 void registerOutputBenchmarks();
 }  // namespace lw::bench
 
@@ -32,6 +33,7 @@ int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QGuiApplication app(argc, argv);
     lw::bench::registerFormBenchmarks();
+    lw::bench::registerK1Benchmarks();
     lw::bench::registerOutputBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
