@@ -205,8 +205,17 @@ void FormView::ensureFace() {
     if (form_) FormPainter(kScreenScale).paintForm(painter, *form_, true);
 }
 
+namespace {
+constexpr int kMostAreasApart = 8;
+}  // namespace
+
 void FormView::repaintFace(const QRegion& area) {
     QPainter painter(&face_);
+    // Many small areas at once (a page of a tab control turned) cost less painted as one.
+    if (area.rectCount() > kMostAreasApart) {
+        FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
+        return;
+    }
     for (const QRect& rect : area) FormPainter(kScreenScale).paintArea(painter, *form_, rect, true);
 }
 
