@@ -111,7 +111,11 @@ void K1Form::onKeyDown(Control& ctl, int& KeyCode, int) {
 }
 
 void K1Form::onKeyPress(Control& ctl, int& KeyAscii) {
-    if (isCheckBoxField(ctl)) ctl.text = ctl.text.empty() ? "X" : "";
+    if (isCheckBoxField(ctl)) {
+        ctl.text = ctl.text.empty() ? "X" : "";
+        // Text set by the program leaves the caret at the start, as the platform's box does.
+        ctl.select(0, 0);
+    }
     TaxForm::onKeyPress(ctl, KeyAscii);
 }
 

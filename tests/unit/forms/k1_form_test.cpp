@@ -153,5 +153,23 @@ TEST_F(K1Forms, AKeyInTheCheckMarkAmountTogglesItBeforeTheKeyIsFiltered) {
     EXPECT_EQ(mark.text, "");
 }
 
+TEST_F(K1Forms, TypingInTheLockedCheckMarkOfTheSCorporationOnlyTogglesIt) {
+    open("TF_K11120S");
+    Control& mark = field("Text5", 5);
+    desktop().setFocus(mark);
+    desktop().typeCharacter('x');
+    EXPECT_EQ(mark.text, "X");
+    desktop().typeCharacter('x');
+    EXPECT_EQ(mark.text, "");
+}
+
+TEST_F(K1Forms, TypingInThePartnershipsCheckMarkTogglesItAndTheKeyGoesOnToTheField) {
+    open("TF_K11065");
+    Control& mark = field("Text5", 4);
+    desktop().setFocus(mark);
+    desktop().typeCharacter('x');
+    EXPECT_EQ(mark.text, "XX") << "the box is not locked: the key lands before the mark it made";
+}
+
 }  // namespace
 }  // namespace lw
