@@ -17,9 +17,9 @@ struct K1CodedRows {
 };
 
 enum class K1HelpKeys {
-    F1Only,    // only F1 opens the list
-    F1ToF12,   // any function key opens it
-    AnyKey,    // any key that reaches the field opens it, a letter too
+    F1Only,   // only F1 opens the list
+    F1ToF12,  // any function key opens it
+    AnyKey,   // any key that reaches the field opens it, a letter too
 };
 
 struct K1Design {

@@ -33,7 +33,8 @@ void K1Form::onLoad() {
     setUpCodeColumn("Text4", design_.text4Rows, prefix);
 }
 
-void K1Form::setUpCodeColumn(const char* array, const std::vector<K1CodedRows>& rows, const std::string& prefix) {
+void K1Form::setUpCodeColumn(const char* array, const std::vector<K1CodedRows>& rows,
+                             const std::string& prefix) {
     for (Control* code : arrayOf(array)) {
         // A code comes from the list, never from typing.
         code->locked = true;

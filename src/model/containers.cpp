@@ -27,7 +27,8 @@ bool isShown(const Control& c) {
     if (!inner->visible) return false;
     for (const Control* up = c.container; up; inner = up, up = up->container) {
         if (!up->visible) return false;
-        if (up->kind == ControlKind::TabControl && inner->page >= 0 && inner->page != tabOf(*up)) return false;
+        if (up->kind == ControlKind::TabControl && inner->page >= 0 && inner->page != tabOf(*up))
+            return false;
     }
     return true;
 }

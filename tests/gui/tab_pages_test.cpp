@@ -57,7 +57,8 @@ TEST_F(TabPagesTest, OnlyTheFieldsOfThePageOnShowAreOnTheScreen) {
     EXPECT_TRUE(editor(0)->isVisible());
     EXPECT_FALSE(editor(1)->isVisible());
     // The field stands inside its panel, which stands below the tab strip.
-    EXPECT_EQ(editor(0)->geometry().topLeft(), QPoint(toPixels(300, kScreenScale), toPixels(960, kScreenScale)));
+    EXPECT_EQ(editor(0)->geometry().topLeft(),
+              QPoint(toPixels(300, kScreenScale), toPixels(960, kScreenScale)));
 }
 
 TEST_F(TabPagesTest, AClickOnTheSecondTabTurnsThePage) {

@@ -1,10 +1,11 @@
 // The three Schedule K-1 forms as the program opens them: the keys that open the code list on each,
 // Clear after a code picked from the list, the tab order and the amount that fails its edit.
+#include "forms/k1_form.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "forms/k1_form.h"
 #include "forms/register_forms.h"
 #include "model/containers.h"
 #include "model/keys.h"
@@ -24,7 +25,8 @@ struct K1Forms : ::testing::Test {
         test.program->g.K1HelpInfFile = (test.root / "K1Help.inf").string();
         std::ofstream(test.program->g.K1HelpInfFile, std::ios::binary)
             << "[K1-1065-Box11]\r\nA|Other portfolio income|\r\n"
-               "[K1-1065-Box14]\r\nA|Net earnings from self-employment|\r\nC|Gross nonfarm income {words}|\tX\r\n"
+               "[K1-1065-Box14]\r\nA|Net earnings from self-employment|\r\nC|Gross nonfarm income "
+               "{words}|\tX\r\n"
                "[K1-1120S-Box13]\r\nA|Low-income housing credit|\r\n"
                "[K1-1041-Box9]\r\nA|Depreciation|\r\n[K1-1041-Box11]\r\nA|Excess deductions|\r\n";
     }

@@ -1,6 +1,7 @@
+#include "model/containers.h"
+
 #include <gtest/gtest.h>
 
-#include "model/containers.h"
 #include "model/form.h"
 
 namespace lw {
