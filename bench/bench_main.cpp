@@ -12,6 +12,7 @@
 namespace lw::bench {
 void registerFormBenchmarks();
 void registerOutputBenchmarks();
+void registerK1HelpBenchmarks();
 }  // namespace lw::bench
 
 namespace {
@@ -33,6 +34,7 @@ int main(int argc, char** argv) {
     QGuiApplication app(argc, argv);
     lw::bench::registerFormBenchmarks();
     lw::bench::registerOutputBenchmarks();
+    lw::bench::registerK1HelpBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();
