@@ -9,7 +9,9 @@
 
 #include "bench_program.h"
 #include "forms/k1_help.h"
+#include "forms/k1_help_form.h"
 #include "model/form.h"
+#include "ui/clipboard_picture.h"
 
 namespace lw::bench {
 namespace {
@@ -42,9 +44,34 @@ void OpenK1CodeList(benchmark::State& state, const std::string& section) {
     }
 }
 
+// The list made and drawn whole, as the dialog paints it when it opens.
+void DrawK1CodeList(benchmark::State& state, const std::string& section) {
+    BenchProgram bench;
+    if (!bench.start()) {
+        state.SkipWithError("the program ended during start-up");
+        return;
+    }
+    Desktop& desktop = bench.program->desktop;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        k1HelpMembers().F97_K1Key = section;
+        Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+        const QImage picture = ui::renderForm(list);
+        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
+        desktop.unload(list);
+        if (picture.isNull()) {
+            state.SkipWithError("the list was not drawn");
+            break;
+        }
+    }
+}
+
 }  // namespace
 
 void registerK1HelpBenchmarks() {
+    benchmark::RegisterBenchmark("DrawK1CodeList/K1-1065-Box20", DrawK1CodeList, std::string("K1-1065-Box20"))
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
     for (const char* section : {"K1-1041-Box9", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box13"}) {
         benchmark::RegisterBenchmark((std::string("OpenK1CodeList/") + section).c_str(), OpenK1CodeList,
                                      std::string(section))
