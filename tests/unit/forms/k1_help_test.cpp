@@ -146,6 +146,16 @@ TEST_F(K1Help, ClearOfAnotherFormLeavesItsTagsAlone) {
     EXPECT_EQ(field("Text2", 1).text, "");
 }
 
+TEST_F(K1Help, ACodeFieldWithNoAmountIsReportedAndNothingBreaks) {
+    Control& stray = form->add(ControlKind::TextBox, "Text2", 7);
+    stray.tag = "K1HELP" + kDot + "K1-1065-Box11";
+    pick(stray, "A");
+    EXPECT_EQ(stray.text, "A") << "the code was written before the amount was looked for";
+    ASSERT_EQ(test.ui.reports.size(), 1u);
+    EXPECT_EQ(test.ui.reports[0].rfind("M3_Ledgerwick:K1_Help_KeyDown: ", 0), 0u) << test.ui.reports[0];
+    EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
+}
+
 TEST_F(K1Help, SaveInfoKeepsTheArraysByIndex) {
     EXPECT_EQ(g().K1Text2, (std::vector<std::string>{"", "9b", ""}));
     EXPECT_EQ(g().K1Tag3, (std::vector<std::string>{"MONEY", "MONEY", "-MONEY"}));

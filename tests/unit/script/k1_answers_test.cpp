@@ -77,6 +77,17 @@ TEST_F(ScriptK1Answers, CancelAndNoAnswerBothPressCancel) {
     EXPECT_FALSE(session.scriptError.has_value());
 }
 
+TEST_F(ScriptK1Answers, BytesOfTheListOutsideTheCodePageAreWrittenWithoutHarm) {
+    std::ofstream(program->g.K1HelpInfFile, std::ios::binary)
+        << "[K1-1120S-Box12]\r\nA|Caf\xE9 \x81 {\x9D\xB7}|\r\n";
+    queue("A");
+    callList();
+    EXPECT_EQ(form->at("Text2", 0).text, "A");
+    ASSERT_TRUE(session.lastK1List.has_value());
+    ASSERT_EQ(session.lastK1List->rows.size(), 1u);
+    EXPECT_EQ(session.lastK1List->rows[0], "A|Caf\u00E9 \u0081|\u009D\u00B7|");
+}
+
 TEST_F(ScriptK1Answers, ACodeTheListDoesNotHoldIsAFaultOfTheScript) {
     queue("Q");
     callList();
