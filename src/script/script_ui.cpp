@@ -154,7 +154,10 @@ void ScriptUi::answerK1List(Form& list) {
     *session_.out << " -> " << (cancel ? "cancel" : forOutput(code)) << "\n";
     if (cancel && code != "cancel" && !session_.scriptError)
         session_.scriptError = {answer->line, "the list has no code \"" + text::cp1252ToUtf8(code) + "\""};
-    if (!cancel) return program().desktop.choose(*grid, grid->items[static_cast<std::size_t>(chosen - codes.begin()) + 1]);
+    if (!cancel) {
+        const std::size_t row = static_cast<std::size_t>(chosen - codes.begin()) + 1;
+        return program().desktop.choose(*grid, grid->items[row]);
+    }
     if (Control* button = list.find("cmdCancel")) program().desktop.click(*button);
 }
 

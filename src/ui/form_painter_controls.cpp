@@ -234,7 +234,8 @@ namespace {
 
 // A grid's ColAlignment across the cell, the header row's included.
 Qt::Alignment columnAlignment(const Control& c, int col) {
-    if (c.kind != ControlKind::Grid || static_cast<size_t>(col) >= c.colAlignments.size()) return Qt::AlignLeft;
+    if (c.kind != ControlKind::Grid || static_cast<size_t>(col) >= c.colAlignments.size())
+        return Qt::AlignLeft;
     switch (c.colAlignments[static_cast<size_t>(col)]) {
         case kGridAlignRightCenter: return Qt::AlignRight;
         case kGridAlignCenterCenter: return Qt::AlignHCenter;
@@ -258,7 +259,9 @@ void FormPainter::paintRows(QPainter& p, const Control& c, const QRect& r) const
         if (chosen) p.fillRect(line, QColor(0x33, 0x99, 0xFF));
         const QStringList cells = toQString(c.items[row]).split(QLatin1Char('\t'));
         const bool sized = grid && !c.colWidths.empty();
-        const int columns = sized ? static_cast<int>(c.colWidths.size()) : grid ? static_cast<int>(cells.size()) : 1;
+        const int columns = sized  ? static_cast<int>(c.colWidths.size())
+                            : grid ? static_cast<int>(cells.size())
+                                   : 1;
         int x0 = line.left();
         for (int col = 0; col < columns; ++col) {
             const int x1 = sized ? x0 + toPixels(c.colWidths[static_cast<size_t>(col)], scale_)
@@ -267,9 +270,11 @@ void FormPainter::paintRows(QPainter& p, const Control& c, const QRect& r) const
             x0 = x1;
             if (grid) strokeInside(p, cell, QPen(QBrush(kShadow), px(1)));
             p.setPen(chosen ? kLight : toQColor(c.foreColor));
-            const QString shown = !grid ? cells.join(QLatin1Char(' ')) : col < cells.size() ? cells[col] : QString();
-            p.drawText(cell.adjusted(px(3), 0, -px(2), 0), Qt::AlignVCenter | Qt::TextSingleLine | columnAlignment(c, col),
-                       shown);
+            const QString shown = !grid                ? cells.join(QLatin1Char(' '))
+                                  : col < cells.size() ? cells[col]
+                                                       : QString();
+            p.drawText(cell.adjusted(px(3), 0, -px(2), 0),
+                       Qt::AlignVCenter | Qt::TextSingleLine | columnAlignment(c, col), shown);
         }
     }
     p.setClipping(false);

@@ -35,14 +35,15 @@ const std::map<std::string, std::set<std::string>>& referenceCodes() {
         {"K1-1041-Box13", {"A", "B", "C", "D", "F", "G", "H", "J", "K", "M", "N", "O", "P", "Q", "R", "ZZ"}},
         {"K1-1041-Box14", with(letters('A', 'I'), {"ZZ"})},
         {"K1-1065-Box11", with(letters('A', 'H'), {"ZZ"})},
-        {"K1-1065-Box13", with(letters('A', 'S'), {"V", "W", "X", "Y", "Z", "AA", "AB", "AC", "AD", "AE", "ZZ"})},
+        {"K1-1065-Box13",
+         with(letters('A', 'S'), {"V", "W", "X", "Y", "Z", "AA", "AB", "AC", "AD", "AE", "ZZ"})},
         {"K1-1065-Box14", letters('A', 'C')},
         {"K1-1065-Box15", credits},
         {"K1-1065-Box17", letters('A', 'F')},
         {"K1-1065-Box18", letters('A', 'C')},
         {"K1-1065-Box19", letters('A', 'C')},
-        {"K1-1065-Box20",
-         with(letters('A', 'T'), {"V", "W", "X", "Y", "Z", "AA", "AB", "AC", "AD", "AE", "AF", "AG", "AJ", "ZZ"})},
+        {"K1-1065-Box20", with(letters('A', 'T'), {"V", "W", "X", "Y", "Z", "AA", "AB", "AC", "AD", "AE",
+                                                   "AF", "AG", "AJ", "ZZ"})},
         {"K1-1120S-Box10", with(letters('A', 'D'), {"ZZ"})},
         {"K1-1120S-Box12", with(letters('A', 'J'), {"ZZ"})},
         {"K1-1120S-Box13", credits},
@@ -71,14 +72,16 @@ TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode)
         for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
             const std::vector<std::string> parts = text::split(line, "|");
             ASSERT_EQ(parts.size(), 3u) << section << ": " << line;
-            EXPECT_EQ(codes.count(parts[0]), 1u) << section << " has a code the instructions do not: " << line;
+            EXPECT_EQ(codes.count(parts[0]), 1u)
+                << section << " has a code the instructions do not: " << line;
             EXPECT_TRUE(seen.insert(parts[0]).second) << section << " lists a code twice: " << line;
             const std::vector<std::string> row = text::split(K1Help_GridRow(line), "\t");
             ASSERT_EQ(row.size(), 4u);
             EXPECT_FALSE(row[1].empty()) << line;
             EXPECT_FALSE(row[2].empty()) << section << " " << parts[0] << " tells nowhere to read more";
             EXPECT_EQ(row[2].find('{'), std::string::npos) << line;
-            EXPECT_TRUE(parts[2].empty() || parts[2] == "\tX") << "only a tab and X mark an override: " << line;
+            EXPECT_TRUE(parts[2].empty() || parts[2] == "\tX")
+                << "only a tab and X mark an override: " << line;
         }
     }
 }

@@ -19,7 +19,8 @@ TEST(K1HelpRow, WithNoBracesThePurposeStandsUnchangedAndColumnTwoIsEmpty) {
 }
 
 TEST(K1HelpRow, ASecondOpeningBraceStaysAndEveryClosingOneGoes) {
-    EXPECT_EQ(K1Help_GridRow("C|Purpose {see {Form 6781} and } more}|"), "C\tPurpose\tsee {Form 6781 and  more\t");
+    EXPECT_EQ(K1Help_GridRow("C|Purpose {see {Form 6781} and } more}|"),
+              "C\tPurpose\tsee {Form 6781 and  more\t");
 }
 
 TEST(K1HelpRow, ABraceLeftOpenTakesTheRestAsInformation) {
@@ -63,7 +64,8 @@ struct K1HelpList : ::testing::Test {
         Desktop& desktop = test.program->desktop;
         Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
         labels.clear();
-        for (const char* name : {"Label0", "Label1", "Label2", "Label3"}) labels.push_back(list.at(name).caption);
+        for (const char* name : {"Label0", "Label1", "Label2", "Label3"})
+            labels.push_back(list.at(name).caption);
         listWidth = list.width;
         listHeight = list.height;
         desktop.showModal(list);
@@ -88,9 +90,10 @@ TEST_F(K1HelpList, TheLabelsTellWhereToReadMoreForTheKeysReturn) {
               "       An X in the O/R column will cause the MONEY edit\r\n"
               "       to be overridden and will allow TEXTUAL data.");
     EXPECT_EQ(labels[2], "Click to Select the appropriate Code - It will be inserted in the K1 form.");
-    EXPECT_EQ(labels[3],
-              "NOTE: If NO information available for an entry, you MUST refer to the document named above for "
-              "information.");
+    EXPECT_EQ(
+        labels[3],
+        "NOTE: If NO information available for an entry, you MUST refer to the document named above for "
+        "information.");
     EXPECT_NE(show("K1-1041-Box9")[0], "");
     EXPECT_NE(labels[0].find("(Form 1041)"), std::string::npos);
     EXPECT_NE(show("K1-1065-Box20")[0], "");
@@ -133,7 +136,9 @@ TEST_F(K1HelpList, ALineWithoutBarsIsReportedAndTheRowsBeforeItStay) {
 
 TEST_F(K1HelpList, ASectionPastTheBufferIsCutAtItsEnd) {
     std::string section = "[K1-1065-Box20]\r\n";
-    const auto line = [](int n) { return std::to_string(n) + "|Purpose of code " + std::to_string(n) + " {where to read}|"; };
+    const auto line = [](int n) {
+        return std::to_string(n) + "|Purpose of code " + std::to_string(n) + " {where to read}|";
+    };
     int lines = 0;
     while (section.size() < 5000) section += line(100 + lines++) + "\r\n";
     write(section + "[Next]\r\nQ|q|\r\n");

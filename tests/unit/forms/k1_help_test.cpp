@@ -1,8 +1,9 @@
+#include "forms/k1_help.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "forms/k1_help.h"
 #include "forms/k1_help_form.h"
 #include "shell/form_lifecycle.h"
 #include "test_program.h"

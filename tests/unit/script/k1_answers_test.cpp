@@ -4,10 +4,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "fixed_platform.h"
 #include "forms/k1_help.h"
 #include "model/program.h"
 #include "script/script_ui.h"
-#include "fixed_platform.h"
 
 namespace lw::script {
 namespace {
