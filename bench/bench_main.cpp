@@ -13,6 +13,7 @@ namespace lw::bench {
 void registerFormBenchmarks();
 void registerK1Benchmarks();
 void registerOutputBenchmarks();
+void registerK1HelpBenchmarks();
 }  // namespace lw::bench
 
 namespace {
@@ -35,6 +36,7 @@ int main(int argc, char** argv) {
     lw::bench::registerFormBenchmarks();
     lw::bench::registerK1Benchmarks();
     lw::bench::registerOutputBenchmarks();
+    lw::bench::registerK1HelpBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

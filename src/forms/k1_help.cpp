@@ -17,7 +17,8 @@ constexpr std::size_t kSectionStart = 7;
 std::vector<std::string> keep(const Form& form, const char* name, bool tags) {
     const std::vector<Control*> fields = form.arrayOf(name);
     std::vector<std::string> kept(fields.size());
-    for (const Control* field : fields) kept.at(static_cast<std::size_t>(field->index)) = tags ? field->tag : field->text;
+    for (const Control* field : fields)
+        kept.at(static_cast<std::size_t>(field->index)) = tags ? field->tag : field->text;
     return kept;
 }
 

@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kColumns = 4;
 
-const char* const kIrsSentence = "Additional information is available on the IRS website (www.irs.gov) in the";
+const char* const kIrsSentence =
+    "Additional information is available on the IRS website (www.irs.gov) in the";
 const char* const kColumnSentence = "Also refer to the Additional Information column in the screen.";
 
 // The instructions that the key's return type names; none when the key names no return.
@@ -57,7 +58,8 @@ std::string K1Help_GridRow(const std::string& line) {
         information = text::trim(text::replaceAll(purposePart.substr(brace + 1), "}", ""));
     }
     // The third part runs on from the additional information: only a tab in it reaches the O/R column.
-    std::vector<std::string> cells = text::split(parts.at(0) + "\t" + purpose + "\t" + information + rest, "\t");
+    std::vector<std::string> cells =
+        text::split(parts.at(0) + "\t" + purpose + "\t" + information + rest, "\t");
     cells.resize(kColumns);
     std::string row = cells[0];
     for (int col = 1; col < kColumns; ++col) row += "\t" + cells[static_cast<std::size_t>(col)];
@@ -96,8 +98,8 @@ void F6_K1Help::onLoad() {
                            kGridAlignCenterCenter};
     Grid1.items = {"Box #\tPurpose\tAdditional Information\tO/R"};
     caption = K1Help_Caption(members.F97_K1Key);
-    Label0.caption = std::string(kIrsSentence) + "\r\n" + instructionsFor(members.F97_K1Key) + "\r\n" +
-                     kColumnSentence;
+    Label0.caption =
+        std::string(kIrsSentence) + "\r\n" + instructionsFor(members.F97_K1Key) + "\r\n" + kColumnSentence;
     Label1.caption =
         "Note: Most K1 codes require a MONETARY response.\r\n"
         "       A few require a TEXTUAL response.\r\n"
@@ -113,8 +115,8 @@ void F6_K1Help::onLoad() {
 }
 
 void F6_K1Help::readSection() {
-    const std::vector<std::string> lines = store::ReadINFSection(
-        k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile, kK1HelpSectionBuffer);
+    const std::vector<std::string> lines =
+        store::ReadINFSection(k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile, kK1HelpSectionBuffer);
     for (const std::string& line : lines) Grid1.items.push_back(K1Help_GridRow(line));
 }
 

@@ -33,7 +33,7 @@ class F6_K1Help : public Form {
 public:
     static constexpr int kGridWidth = 660 + 9500 + 5000 + 600;
     static constexpr int kMargin = 120;
-    static constexpr int kRowHeight = 270;
+    static constexpr int kRowHeight = 240;
 
     F6_K1Help();
 

@@ -99,6 +99,15 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
         return expectThat(session_.lastDialog && contains(dialog, words[2]),
                           session_.lastDialog ? "\"" + dialog + "\"" : "no dialog");
     }
+    if (what == "k1list") {
+        need(words, 3, "expect k1list \"PART\"");
+        if (!session_.lastK1List) return expectThat(false, "no list");
+        const ShownK1List& list = *session_.lastK1List;
+        bool held = contains(list.caption, words[2]);
+        for (const std::string& row : list.rows) held = held || contains(row, words[2]);
+        return expectThat(held, "\"" + list.caption + "\" with " + std::to_string(list.rows.size()) +
+                                    " rows, none with that text");
+    }
     if (what == "report") {
         need(words, 3, "expect report \"PART\"");
         if (session_.reports.empty()) return expectThat(false, "no report");

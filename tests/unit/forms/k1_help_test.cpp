@@ -1,8 +1,9 @@
+#include "forms/k1_help.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "forms/k1_help.h"
 #include "forms/k1_help_form.h"
 #include "shell/form_lifecycle.h"
 #include "test_program.h"
@@ -144,6 +145,16 @@ TEST_F(K1Help, ClearOfAnotherFormLeavesItsTagsAlone) {
     Form_Clear();
     EXPECT_EQ(field("Text3", 0).tag, "") << "only the K-1 forms keep their design";
     EXPECT_EQ(field("Text2", 1).text, "");
+}
+
+TEST_F(K1Help, ACodeFieldWithNoAmountIsReportedAndNothingBreaks) {
+    Control& stray = form->add(ControlKind::TextBox, "Text2", 7);
+    stray.tag = "K1HELP" + kDot + "K1-1065-Box11";
+    pick(stray, "A");
+    EXPECT_EQ(stray.text, "A") << "the code was written before the amount was looked for";
+    ASSERT_EQ(test.ui.reports.size(), 1u);
+    EXPECT_EQ(test.ui.reports[0].rfind("M3_Ledgerwick:K1_Help_KeyDown: ", 0), 0u) << test.ui.reports[0];
+    EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
 }
 
 TEST_F(K1Help, SaveInfoKeepsTheArraysByIndex) {
