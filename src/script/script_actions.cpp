@@ -70,6 +70,8 @@ MouseButton mouseButton(const std::string& word) {
 // A click on a tab control lands on one of its tabs: the one named by its number or caption, or with
 // none named, the tab after the one on show (with two tabs, the other one).
 void ScriptRunner::clickTab(Control& tabs, const std::string& which) {
+    // Only the left button turns a page.
+    if (which == "right" || which == "middle") return;
     const int count = static_cast<int>(tabs.items.size());
     int tab = (tabOf(tabs) + 1) % count;
     if (!which.empty() && which != "left") {
