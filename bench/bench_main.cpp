@@ -11,7 +11,9 @@
 
 namespace lw::bench {
 void registerFormBenchmarks();
+void registerK1Benchmarks();
 void registerOutputBenchmarks();
+void registerK1HelpBenchmarks();
 }  // namespace lw::bench
 
 namespace {
@@ -32,7 +34,9 @@ int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QGuiApplication app(argc, argv);
     lw::bench::registerFormBenchmarks();
+    lw::bench::registerK1Benchmarks();
     lw::bench::registerOutputBenchmarks();
+    lw::bench::registerK1HelpBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

@@ -25,6 +25,12 @@ void BenchUi::runModal(Form& form) {
         program().desktop.click(*button);
         return;
     }
+    // The list of K-1 codes: the first code is clicked.
+    if (form.name() == "F6_K1Help") {
+        Control* grid = form.find("Grid1");
+        if (grid && grid->items.size() > 1) program().desktop.choose(*grid, grid->items[1]);
+        return;
+    }
     if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
         reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
         report->unload();

@@ -64,12 +64,12 @@ double timed(const std::function<void()>& input) {
     return clock.nsecsElapsed() / 1e6;
 }
 
-void key(int code, const QString& text = QString()) {
+void key(int code, const QString& text = QString(), Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QWidget* target = QApplication::focusWidget();
     if (!target) return;
-    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
+    QKeyEvent press(QEvent::KeyPress, code, modifiers, text);
     QApplication::sendEvent(target, &press);
-    QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier, text);
+    QKeyEvent release(QEvent::KeyRelease, code, modifiers, text);
     QApplication::sendEvent(target, &release);
 }
 
@@ -143,6 +143,23 @@ std::vector<Figure> measureInWindow(ui::FrameWindow& window) {
     for (int i = 0; i < kRuns; ++i)
         samples.push_back(timed([&] { choose(window, i % 2 ? "mnuW2" : "mnu1099Int"); }));
     figures.push_back(figureOf("switch", samples));
+
+    // A K-1 turns its page when the focus crosses the limit of a column: Tab from the last row of the
+    // Top half, and Shift+Tab back from the first row of the Bottom half, each with the repaint.
+    choose(window, "mnuK11065");
+    paintNow();
+    require(program().desktop.activeChild()->name() == "TF_K11065", "the K-1 did not open");
+    const Control& tabs = program().desktop.activeChild()->at("SSTab1");
+    samples.clear();
+    for (int i = 0; i < kRuns; ++i) {
+        focusField("Text3", 13, "");
+        samples.push_back(timed([] { key(Qt::Key_Tab); }));
+        require(tabs.listIndex == 1, "Tab did not turn the K-1 to its Bottom half");
+        focusField("Text3", 14, "");
+        samples.push_back(timed([] { key(Qt::Key_Backtab, QString(), Qt::ShiftModifier); }));
+        require(tabs.listIndex == 0, "Shift+Tab did not turn the K-1 back to its Top half");
+    }
+    figures.push_back(figureOf("k1-page-turn", samples));
     return figures;
 }
 

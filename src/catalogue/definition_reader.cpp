@@ -4,6 +4,7 @@
 #include <map>
 #include <sstream>
 
+#include "model/containers.h"
 #include "model/form.h"
 #include "text/words.h"
 
@@ -86,7 +87,19 @@ bool isFlag(const std::string& word) {
     return false;
 }
 
-void readProperty(LineReader& line, const std::string& word, Control& c) {
+std::vector<std::string> captionsOf(const std::string& value) {
+    std::vector<std::string> captions;
+    std::size_t from = 0;
+    for (std::size_t bar = value.find('|'); bar != std::string::npos; bar = value.find('|', from)) {
+        captions.push_back(value.substr(from, bar - from));
+        from = bar + 1;
+    }
+    captions.push_back(value.substr(from));
+    return captions;
+}
+
+void readProperty(LineReader& line, const std::string& word, ControlDefinition& designed) {
+    Control& c = designed.control;
     std::size_t equals = word.find('=');
     if (equals == std::string::npos) {
         if (word == "locked") c.locked = true;
@@ -120,6 +133,10 @@ void readProperty(LineReader& line, const std::string& word, Control& c) {
     else if (key == "style") c.borderStyle = line.toNumber(value, "border style");
     else if (key == "color") c.borderColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
     else if (key == "picture") c.picture = value;
+    else if (key == "in") designed.container = value == "-" ? std::string() : value;
+    else if (key == "page") c.page = line.toNumber(value, "page");
+    else if (key == "tabs") c.items = captionsOf(value), c.listIndex = 0, c.text = c.items.front();
+    else if (key == "tabheight") c.tabHeight = line.toNumber(value, "tab height");
     else line.fail("unknown property \"" + key + "\"");
 }
 
@@ -145,6 +162,8 @@ FormDefinition readDefinition(const std::string& text) {
     int number = 0;
     int tabOrder = 0;
     bool haveForm = false;
+    std::string inside;  // the container of the lines that name none
+    std::map<std::string, ControlKind> containers;
     while (std::getline(in, raw)) {
         ++number;
         if (!raw.empty() && raw.back() == '\r') raw.pop_back();
@@ -167,12 +186,21 @@ FormDefinition readDefinition(const std::string& text) {
             continue;
         }
         if (!haveForm) line.fail("the first line must be the form line");
+        if (kindWord == "in") {
+            inside = line.take("container");
+            if (inside == "-") inside.clear();
+            else if (!containers.count(inside)) line.fail("no container \"" + inside + "\" drawn before");
+            if (line.more()) line.fail("more than a container after in");
+            continue;
+        }
         const Kind* kind = nullptr;
         for (const Kind& k : kKinds)
             if (kindWord == k.word) kind = &k;
         if (!kind) line.fail("unknown kind \"" + kindWord + "\"");
 
-        Control c;
+        ControlDefinition designed;
+        designed.container = inside;
+        Control& c = designed.control;
         c.kind = kind->kind;
         applyDefaults(c);
         std::string name = line.take("name");
@@ -196,9 +224,18 @@ FormDefinition readDefinition(const std::string& text) {
         if (line.more() && line.peek().find('=') == std::string::npos && !isFlag(line.peek()))
             c.caption = line.take("caption");
         c.tabIndex = tabOrder++;
-        while (line.more()) readProperty(line, line.take("property"), c);
+        while (line.more()) readProperty(line, line.take("property"), designed);
         if (c.kind == ControlKind::TextBox && c.text.empty()) c.text = c.caption, c.caption.clear();
-        definition.controls.push_back(ControlDefinition{c});
+        if (!designed.container.empty()) {
+            auto holder = containers.find(designed.container);
+            if (holder == containers.end()) line.fail("no container \"" + designed.container + "\" drawn before");
+            if (holder->second != ControlKind::TabControl) c.page = -1;
+            else if (c.page < 0) line.fail("a control on a tab control needs page=");
+        } else {
+            c.page = -1;
+        }
+        if (c.index == kNoIndex) containers[c.name] = c.kind;
+        definition.controls.push_back(std::move(designed));
     }
     if (!haveForm) throw DefinitionError("no form line");
     return definition;
@@ -213,6 +250,11 @@ void realizeDefinition(const FormDefinition& definition, Form& form) {
         Form* owner = made.form;
         made = designed.control;
         made.form = owner;
+        made.container = nullptr;
+        if (!designed.container.empty()) {
+            Control* holder = form.find(designed.container);
+            if (holder) placeInside(made, *holder, designed.control.page);
+        }
     }
 }
 

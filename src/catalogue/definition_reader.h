@@ -11,6 +11,11 @@
 // After the kind come the name (`-` for an unnamed drawing element), left, top, width and height in
 // twips (for a line: the two end points), an optional caption in quotes, then properties: key=value or
 // flags. `#` starts a comment line.
+//
+// Controls can be drawn inside a container drawn before them (a panel, a tab control), with places
+// relative to it: `in=NAME` on the line, or a line `in NAME` for every line after it (`in -` ends it).
+// A control straight on a tab control names its page: `page=1`. A tab control lists its captions as
+// `tabs="First|Second"`.
 
 #include <stdexcept>
 #include <string>

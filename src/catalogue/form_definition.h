@@ -11,6 +11,7 @@ namespace lw {
 
 struct ControlDefinition {
     Control control;  // the properties as designed; `form` is set when the control is made
+    std::string container;  // the control it is drawn inside, drawn before it; empty for the form
 };
 
 struct FormDefinition {

@@ -17,6 +17,7 @@
 #include "forms/form_1099g.h"
 #include "forms/form_rrb1099.h"
 #include "forms/form_ssa1099.h"
+#include "forms/k1_form.h"
 #include "forms/license_form.h"
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
@@ -67,6 +68,7 @@ void registerAllForms() {
     registerLicenseForm();
     registerSSA1099Form();
     registerRRB1099Form();
+    registerK1Forms();
     // The people of the case: the sheet fills the store, the Load TP buttons read it.
     frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };
     taxpayerStoreSave() = [] { TPInfo_Save(); };

@@ -35,6 +35,11 @@ constexpr int kNoIndex = -1;
 
 enum class Alignment { Left = 0, Right = 1, Center = 2 };
 
+// A grid column's ColAlignment, all centred vertically.
+constexpr int kGridAlignLeftCenter = 1;
+constexpr int kGridAlignCenterCenter = 4;
+constexpr int kGridAlignRightCenter = 7;
+
 struct Control {
     ControlKind kind = ControlKind::Label;
     std::string name;
@@ -85,10 +90,21 @@ struct Control {
     bool fontBold = false;
     bool fontItalic = false;
 
-    std::vector<std::string> items;  // combo and list boxes
+    std::vector<std::string> items;  // combo and list boxes; grid rows with their cells joined by tabs
+    // Grid columns: ColWidth in twips and ColAlignment by the grid's numbers (kGridAlign...). With no
+    // widths the columns share the grid evenly and read from the left.
+    std::vector<int> colWidths;
+    std::vector<int> colAlignments;
     int listIndex = -1;
     bool value = false;   // option buttons
     std::string picture;  // picture file or icon name
+
+    // A control drawn inside another (a panel, a tab control) has its place relative to that container,
+    // as a designer lays it out, and shows only while the container does. On a tab control, `page` is
+    // the tab whose page holds it.
+    Control* container = nullptr;
+    int page = -1;
+    int tabHeight = 300;  // a tab control: the height of its strip of captions, in twips
 
     // Puts the control at a place of its form, in twips, as a designer lays it out.
     void place(int leftTwips, int topTwips, int widthTwips, int heightTwips) {

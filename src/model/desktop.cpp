@@ -371,7 +371,7 @@ void Desktop::click(Control& control, MouseButton button) {
             for (Control* other : form->arrayOf(control.name)) other->value = false;
             control.value = true;
         }
-        if (!control.isTextBox()) form->onClick(control, button);
+        form->onClick(control, button);
     });
 }
 

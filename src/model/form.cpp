@@ -22,6 +22,18 @@ Control& Form::add(ControlKind kind, const std::string& name, int index) {
     return *controls_.back();
 }
 
+void Form::setTabIndex(Control& control, int tabIndex) {
+    std::vector<Control*> order;
+    order.reserve(controls_.size());
+    for (const auto& c : controls_)
+        if (c.get() != &control) order.push_back(c.get());
+    std::stable_sort(order.begin(), order.end(),
+                     [](const Control* a, const Control* b) { return a->tabIndex < b->tabIndex; });
+    const auto at = static_cast<std::size_t>(std::clamp(tabIndex, 0, static_cast<int>(order.size())));
+    order.insert(order.begin() + static_cast<std::ptrdiff_t>(at), &control);
+    for (std::size_t i = 0; i < order.size(); ++i) order[i]->tabIndex = static_cast<int>(i);
+}
+
 Control* Form::find(std::string_view name, int index) const {
     for (const auto& control : controls_) {
         if (control->index == index && text::equalsNoCase(control->name, name)) return control.get();

@@ -54,6 +54,9 @@ public:
     // The controls in the order they were created: the Controls collection.
     const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
     MenuItem* findMenu(std::string_view name);
+    // Gives a control a place in the tab order as a designer's TabIndex does: the controls from that
+    // place on move one back, so the tab indexes stay 0 to n-1 without a gap.
+    void setTabIndex(Control& control, int tabIndex);
 
     Desktop* desktop() const { return desktop_; }
     Control* activeControl() const { return activeControl_; }

@@ -37,6 +37,13 @@ struct Globals {
     // Rows TP1, TP2, OP1..OP7: slot, Text1 index of the birth date, Text2 index of the age.
     std::array<std::array<std::string, 3>, 9> PersonTable{};
 
+    // The design Text of the K-1 code fields (Text2, Text4) and the design Tag of their amounts (Text3,
+    // Text5), kept at each K-1 form's load: Clear puts them back and the code list takes back an override.
+    std::vector<std::string> K1Text2;
+    std::vector<std::string> K1Tag3;
+    std::vector<std::string> K1Text4;
+    std::vector<std::string> K1Tag5;
+
     // The form that the shared procedures work on, and the values of it read from the catalogue.
     Form* CurrentForm = nullptr;
     std::string FormKey;

@@ -1,5 +1,7 @@
 #include "model/look_tracker.h"
 
+#include "model/containers.h"
+
 #include <functional>
 #include <string>
 
@@ -25,11 +27,11 @@ std::size_t lookOf(const Control& c) {
     mix(seed, c.fontSize);
     for (const std::string& item : c.items) mix(seed, item);
     for (int number : {c.left, c.top, c.width, c.height, c.x2, c.y2, c.alignment, c.maxLength, c.selStart(),
-                       c.selLength(), c.borderStyle, c.borderWidth, c.listIndex, c.tabIndex})
+                       c.selLength(), c.borderStyle, c.borderWidth, c.listIndex, c.tabIndex, c.tabHeight})
         mix(seed, number);
     for (Color colour : {c.backColor, c.foreColor, c.borderColor}) mix(seed, colour);
     for (bool flag : {c.visible, c.enabled, c.locked, c.multiLine, c.wordWrap, c.opaque, c.fontBold,
-                      c.fontItalic, c.value, c.isDefault})
+                      c.fontItalic, c.value, c.isDefault, isShown(c)})
         mix(seed, flag);
     return seed;
 }

@@ -7,6 +7,7 @@
 #include "diagnostics/picture_capture.h"
 #include "fields/control_setup.h"
 #include "model/app_error.h"
+#include "model/containers.h"
 #include "model/program.h"
 #include "shell/form_lifecycle.h"
 #include "text/case.h"
@@ -26,6 +27,42 @@ std::string clipKeyOf(const Form& form) {
     const std::string& name = form.name();
     const std::size_t bar = name.find('_');
     return text::toUpper(bar == std::string::npos ? name : name.substr(bar + 1));
+}
+
+// The two panels of the page on show of a K-1: "1" for the Top half, "2" for the Bottom half.
+std::string shownHalf(const Form& form) { return tabOf(form.at("SSTab1")) == 1 ? "2" : "1"; }
+
+// The tab strip all but goes and the half on show moves up to the top: each half is a clip of its own.
+struct K1Tabs {
+    int height = 0;
+    int width = 0;
+};
+
+K1Tabs liftShownHalf(Form& form) {
+    Control& tabs = form.at("SSTab1");
+    const K1Tabs noted{tabs.height, tabs.width};
+    tabs.backColor = kWhite;
+    tabs.tabHeight = 1;
+    const std::string half = shownHalf(form);
+    Control& left = form.at("Pic" + half + "L");
+    Control& right = form.at("Pic" + half + "R");
+    left.top = 0;
+    right.top = 0;
+    form.height = left.height;
+    form.width = left.width + right.width;
+    left.backColor = kWhite;
+    right.backColor = kWhite;
+    return noted;
+}
+
+void putBackTabs(Form& form, const K1Tabs& noted) {
+    Control& tabs = form.at("SSTab1");
+    tabs.height = noted.height;
+    tabs.width = noted.width;
+    tabs.tabHeight = 295;
+    const std::string half = shownHalf(form);
+    form.at("Pic" + half + "L").top = 360;
+    form.at("Pic" + half + "R").top = 360;
 }
 
 void cutBelow(Form& form, const char* control) {
@@ -91,7 +128,11 @@ void cutToDocument(Form& form, const std::string& key) {
         form.height = last.top + last.height;
     } else if (key == "CONFIGURE") {
         cutBelow(form, "Frame6");
-    } else if (!isKOne(key)) {
+    } else if (isKOne(key)) {
+        const std::string half = shownHalf(form);
+        const Control& left = form.at("Pic" + half + "L");
+        form.height = half == "1" ? left.top + left.height : left.top + form.at("Pic2R").height;
+    } else {
         cutToBorder(form);
     }
 }
@@ -137,8 +178,11 @@ void paintAsPaper(Form& form, const std::string& key) {
     }
 }
 
-void putBack(Form& form, const std::string& key) {
-    if (key == "CONFIGURE") {
+void putBack(Form& form, const std::string& key, const K1Tabs& tabs) {
+    if (isKOne(key)) {
+        // The K-1 gets its tab strip and panels back; its status line and focus stay as the clip left them.
+        putBackTabs(form, tabs);
+    } else if (key == "CONFIGURE") {
         if (auto* configure = dynamic_cast<F1_Configure*>(&form)) configure->bChanged = false;
         form.setFocus(form.at("cbxPrinters"));
     } else if (key == "1099A") {
@@ -179,6 +223,7 @@ void MDI_Clip() {
     const int height = form->height;
     const int width = form->width;
     bool restyled = false;
+    K1Tabs tabs;
     runGuarded("F0_MDI:MDI_Clip", [&] {
         // The way to try out the error report: the clip fails before it touches the form.
         if (text::containsNoCase(program().platform.commandLine(), "error"))
@@ -187,6 +232,7 @@ void MDI_Clip() {
         const std::string key = clipKeyOf(*form);
         if (key == "SSA1099") form->height = 8500;
         if (key == "RRB1099") form->height = 9560;
+        if (isKOne(key)) tabs = liftShownHalf(*form);
         form->at("labelMisc").visible = false;
         // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
         if (Screen_Clip()) CopyEntirePicture(*form);
@@ -197,7 +243,7 @@ void MDI_Clip() {
         form->height = height;
         form->width = width;
         Form_Init_Reset();
-        putBack(*form, clipKeyOf(*form));
+        putBack(*form, clipKeyOf(*form), tabs);
     });
 }
 

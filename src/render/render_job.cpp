@@ -14,6 +14,7 @@
 #include "script/headless_program.h"
 #include "text/cp1252.h"
 #include "ui/document_pages.h"
+#include "model/containers.h"
 
 namespace lw::render {
 
@@ -45,10 +46,12 @@ public:
     explicit PageSink(const RenderOptions& options) : options_(options) {
         if (!options.pdf.empty()) book_ = std::make_unique<ui::PdfBook>(QString::fromStdString(options.pdf));
     }
-    bool add(const Form& form, const std::string& file) {
+    // `sheet` counts the pages of a document on a tab control from 1; 0 for a document of one page.
+    bool add(const Form& form, const std::string& file, int sheet = 0) {
         if (book_) return book_->addPage(form);
-        const QString name =
-            QFileInfo(QString::fromStdString(file)).completeBaseName() + QStringLiteral(".png");
+        QString name = QFileInfo(QString::fromStdString(file)).completeBaseName();
+        if (sheet > 0) name += QStringLiteral("-%1").arg(sheet);
+        name += QStringLiteral(".png");
         return ui::writePagePicture(form, QDir(QString::fromStdString(options_.pngFolder)).filePath(name),
                                     options_.zoom);
     }
@@ -144,6 +147,24 @@ std::string progress(std::size_t done, std::size_t total) {
     return s.str();
 }
 
+// A document on a tab control (a K-1's two halves) is a page for each tab; any other is one page.
+bool addPages(PageSink& pages, Form& form, const std::string& file, int& count) {
+    Control* tabs = form.find("SSTab1");
+    if (!tabs || tabs->kind != ControlKind::TabControl || tabs->items.size() < 2) {
+        count = 1;
+        return pages.add(form, file);
+    }
+    const int shown = tabOf(*tabs);
+    count = static_cast<int>(tabs->items.size());
+    bool written = true;
+    for (int tab = 0; tab < count && written; ++tab) {
+        setTab(*tabs, tab);
+        written = pages.add(form, file, tab + 1);
+    }
+    setTab(*tabs, shown);
+    return written;
+}
+
 }  // namespace
 
 int renderDocuments(const RenderOptions& options, const std::string& executableFolder, std::ostream& out,
@@ -168,15 +189,19 @@ int renderDocuments(const RenderOptions& options, const std::string& executableF
         const std::string& file = options.files[i];
         std::string why;
         Form* form = renderer.open(file, why);
-        if (form && !pages.add(*form, file)) why = "its page could not be written";
+        int count = 0;
+        if (form && !addPages(pages, *form, file, count)) why = "its page could not be written";
         if (!form || !why.empty()) {
             ++failed;
             err << "ledgerwick-render: " << file << ": skipped: " << why << "\n";
             continue;
         }
-        ++rendered;
-        out << progress(i + 1, options.files.size()) << file << ": " << form->name() << ", page " << rendered
-            << "\n";
+        out << progress(i + 1, options.files.size()) << file << ": " << form->name();
+        if (count == 1)
+            out << ", page " << rendered + 1 << "\n";
+        else
+            out << ", pages " << rendered + 1 << " to " << rendered + count << "\n";
+        rendered += count;
     }
     if (!pages.finish()) {
         err << "ledgerwick-render: " << options.pdf << " could not be written\n";

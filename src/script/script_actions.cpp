@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "model/app_error.h"
+#include "model/containers.h"
 #include "model/keys.h"
 #include "model/program.h"
 #include "script/script_runner.h"
@@ -66,6 +67,27 @@ MouseButton mouseButton(const std::string& word) {
 
 }  // namespace
 
+// A click on a tab control lands on one of its tabs: the one named by its number or caption, or with
+// none named, the tab after the one on show (with two tabs, the other one).
+void ScriptRunner::clickTab(Control& tabs, const std::string& which) {
+    // Only the left button turns a page.
+    if (which == "right" || which == "middle") return;
+    const int count = static_cast<int>(tabs.items.size());
+    int tab = (tabOf(tabs) + 1) % count;
+    if (!which.empty() && which != "left") {
+        const std::string caption = codePage(which);
+        auto named = std::find(tabs.items.begin(), tabs.items.end(), caption);
+        if (named != tabs.items.end()) {
+            tab = static_cast<int>(named - tabs.items.begin());
+        } else if (which.size() == 1 && which[0] >= '0' && which[0] - '0' < count) {
+            tab = which[0] - '0';
+        } else {
+            throw ScriptError(tabs.key() + " has no tab " + which);
+        }
+    }
+    program_->desktop.choose(tabs, tabs.items[static_cast<std::size_t>(tab)]);
+}
+
 void ScriptRunner::act(const std::vector<std::string>& words) {
     const std::string& command = words[0];
     requireRunning(command);
@@ -114,7 +136,11 @@ void ScriptRunner::act(const std::vector<std::string>& words) {
                 desktop.paste(*converted);
         } else if (command == "click") {
             need(words, 2, "click CTL [left/right/middle]");
-            desktop.click(control(words[1]), words.size() > 2 ? mouseButton(words[2]) : MouseButton::Left);
+            Control& clicked = control(words[1]);
+            if (clicked.kind == ControlKind::TabControl && !clicked.items.empty())
+                clickTab(clicked, words.size() > 2 ? words[2] : std::string());
+            else
+                desktop.click(clicked, words.size() > 2 ? mouseButton(words[2]) : MouseButton::Left);
         } else if (command == "choose") {
             need(words, 3, "choose CTL \"TEXT\"");
             Control& list = control(words[1]);

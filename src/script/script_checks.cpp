@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "model/containers.h"
 #include "model/program.h"
 #include "output/form_print.h"
 #include "script/script_runner.h"
@@ -97,6 +98,15 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
         std::string dialog = session_.lastDialog.value_or("");
         return expectThat(session_.lastDialog && contains(dialog, words[2]),
                           session_.lastDialog ? "\"" + dialog + "\"" : "no dialog");
+    }
+    if (what == "k1list") {
+        need(words, 3, "expect k1list \"PART\"");
+        if (!session_.lastK1List) return expectThat(false, "no list");
+        const ShownK1List& list = *session_.lastK1List;
+        bool held = contains(list.caption, words[2]);
+        for (const std::string& row : list.rows) held = held || contains(row, words[2]);
+        return expectThat(held, "\"" + list.caption + "\" with " + std::to_string(list.rows.size()) +
+                                    " rows, none with that text");
     }
     if (what == "report") {
         need(words, 3, "expect report \"PART\"");
@@ -195,6 +205,7 @@ std::string ScriptRunner::property(const Control& c, const std::string& name) co
     if (is("ListIndex")) return std::to_string(c.listIndex);
     // The picture's file name alone, as it stands on disk; "" when the control shows none.
     if (is("Picture")) return utf8(c.picture.substr(c.picture.find_last_of("/\\") + 1));
+    if (is("Tab") && c.kind == ControlKind::TabControl) return std::to_string(tabOf(c));
     throw ScriptError("unknown property " + name);
 }
 

@@ -32,6 +32,12 @@ struct ShownReport {
     std::string description;
 };
 
+// A list of K-1 codes as it was shown: its caption and its rows, each as its four columns joined by "|".
+struct ShownK1List {
+    std::string caption;
+    std::vector<std::string> rows;  // the header row not included
+};
+
 struct Session {
     std::ostream* out = nullptr;
 
@@ -56,6 +62,7 @@ struct Session {
     std::optional<ShownBox> lastBox;
     std::vector<ShownReport> reports;
     std::optional<std::string> lastDialog;
+    std::optional<ShownK1List> lastK1List;
     std::optional<QImage> clipboardPicture;
     std::string clipboardText;
     int printedPages = 0;

@@ -1,10 +1,13 @@
 #include "script/script_ui.h"
 
+#include <algorithm>
+
 #include "diagnostics/message_box.h"
 #include "model/app_error.h"
 #include "model/program.h"
 #include "text/case.h"
 #include "text/cp1252.h"
+#include "text/pieces.h"
 #include "ui/clipboard_picture.h"
 #include "ui/form_printer.h"
 
@@ -39,6 +42,7 @@ void ScriptUi::runModal(Form& form) {
     if (text::equalsNoCase(form.name(), "F9_MBX")) return answerMessageBox(form);
     if (text::equalsNoCase(form.name(), "F8_ErrLog")) return answerErrorReport(form);
     if (text::equalsNoCase(form.name(), "F7_Save")) return answerSaveForm(form);
+    if (text::equalsNoCase(form.name(), "F6_K1Help")) return answerK1List(form);
     *session_.out << "form " << form.name() << " closed: the script has no answers for it\n";
 }
 
@@ -124,6 +128,37 @@ void ScriptUi::answerSaveForm(Form& save) {
         for (char c : answer->words[1]) program().desktop.typeCharacter(c);
     }
     if (Control* pressed = save.find(button)) program().desktop.click(*pressed);
+}
+
+// The list of K-1 codes: the row of the queued code is clicked; "cancel", no answer or a code the list
+// does not hold press Cancel, the last being a fault of the script.
+void ScriptUi::answerK1List(Form& list) {
+    Control* grid = list.find("Grid1");
+    ShownK1List shown{text::cp1252ToUtf8(list.caption), {}};
+    std::vector<std::string> codes;
+    const std::size_t rows = grid ? grid->items.size() : 0;
+    for (std::size_t row = 1; row < rows; ++row) {
+        std::vector<std::string> cells = text::split(grid->items[row], "\t");
+        cells.resize(4);
+        shown.rows.push_back(text::cp1252ToUtf8(cells[0] + "|" + cells[1] + "|" + cells[2] + "|" + cells[3]));
+        codes.push_back(text::trim(cells[0]));
+    }
+    session_.lastK1List = shown;
+
+    auto answer = session_.takeAnswer("k1");
+    const std::string code = answer && !answer->words.empty() ? answer->words[0] : "cancel";
+    const auto chosen = std::find(codes.begin(), codes.end(), code);
+    const bool cancel = code == "cancel" || chosen == codes.end();
+    *session_.out << "k1 list \"" << forOutput(list.caption) << "\" with " << codes.size() << " codes:";
+    for (const std::string& each : codes) *session_.out << " " << forOutput(each);
+    *session_.out << " -> " << (cancel ? "cancel" : forOutput(code)) << "\n";
+    if (cancel && code != "cancel" && !session_.scriptError)
+        session_.scriptError = {answer->line, "the list has no code \"" + text::cp1252ToUtf8(code) + "\""};
+    if (!cancel) {
+        const std::size_t row = static_cast<std::size_t>(chosen - codes.begin()) + 1;
+        return program().desktop.choose(*grid, grid->items[row]);
+    }
+    if (Control* button = list.find("cmdCancel")) program().desktop.click(*button);
 }
 
 void ScriptUi::copyPictureToClipboard(Form& form) {

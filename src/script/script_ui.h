@@ -24,6 +24,7 @@ private:
     void answerMessageBox(Form& box);
     void answerErrorReport(Form& report);
     void answerSaveForm(Form& save);
+    void answerK1List(Form& list);
     void pressButton(Form& form, const std::string& caption, int line);
 
     Session& session_;

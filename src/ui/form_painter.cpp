@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/containers.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -50,16 +51,18 @@ QFont controlFont(const Control& control, double scale) {
 int toPixels(int twips, double scale) { return static_cast<int>(std::lround(twips * scale)); }
 
 QRect controlRect(const Control& control, double scale) {
-    const int x = toPixels(control.left, scale);
-    const int y = toPixels(control.top, scale);
-    return QRect(x, y, toPixels(control.left + control.width, scale) - x,
-                 toPixels(control.top + control.height, scale) - y);
+    const int left = formLeft(control);
+    const int top = formTop(control);
+    const int x = toPixels(left, scale);
+    const int y = toPixels(top, scale);
+    return QRect(x, y, toPixels(left + control.width, scale) - x, toPixels(top + control.height, scale) - y);
 }
 
 QRect paintedExtent(const Control& control, double scale) {
     QRect extent = control.kind == ControlKind::Line
-                       ? QRect(QPoint(toPixels(control.left, scale), toPixels(control.top, scale)),
-                               QPoint(toPixels(control.x2, scale), toPixels(control.y2, scale)))
+                       ? QRect(QPoint(toPixels(formLeft(control), scale), toPixels(formTop(control), scale)),
+                               QPoint(toPixels(control.x2 + originLeft(control), scale),
+                                      toPixels(control.y2 + originTop(control), scale)))
                              .normalized()
                        : controlRect(control, scale);
     const int stroke = std::max(2, static_cast<int>(std::ceil(control.borderWidth * 15 * scale))) + 1;
@@ -142,7 +145,7 @@ std::vector<const Control*> paintOrder(const Form& form) {
 }
 
 int tabStripHeight(const Control& control, double scale) {
-    return control.items.empty() ? 0 : toPixels(300, scale);
+    return control.items.empty() ? 0 : toPixels(control.tabHeight, scale);
 }
 
 int rowHeight(const Control& control, double scale) {
@@ -183,7 +186,7 @@ void FormPainter::paintForm(QPainter& painter, const Form& form, bool skipEditor
     painter.save();
     painter.fillRect(QRect(QPoint(0, 0), formSize(form, scale_)), toQColor(form.backColor));
     for (const Control* control : paintOrder(form)) {
-        if (!control->visible || (skipEditors && hasEditor(control->kind))) continue;
+        if (!isShown(*control) || (skipEditors && hasEditor(control->kind))) continue;
         paintControl(painter, *control);
     }
     painter.restore();
@@ -194,7 +197,7 @@ void FormPainter::paintArea(QPainter& painter, const Form& form, const QRect& ar
     painter.setClipRect(area);
     painter.fillRect(area, toQColor(form.backColor));
     for (const Control* control : paintOrder(form)) {
-        if (!control->visible || (skipEditors && hasEditor(control->kind))) continue;
+        if (!isShown(*control) || (skipEditors && hasEditor(control->kind))) continue;
         if (!paintedExtent(*control, scale_).intersects(area)) continue;
         paintControl(painter, *control);
     }

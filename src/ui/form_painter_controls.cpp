@@ -6,6 +6,7 @@
 #include <QPolygon>
 #include <algorithm>
 
+#include "model/containers.h"
 #include "ui/command_icons.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
@@ -102,8 +103,8 @@ void FormPainter::paintLine(QPainter& p, const Control& c) const {
     QPen pen = borderPen(c, toQColor(c.borderColor));
     pen.setCapStyle(Qt::SquareCap);
     p.setPen(pen);
-    p.drawLine(QPoint(toPixels(c.left, scale_), toPixels(c.top, scale_)),
-               QPoint(toPixels(c.x2, scale_), toPixels(c.y2, scale_)));
+    p.drawLine(QPoint(toPixels(formLeft(c), scale_), toPixels(formTop(c), scale_)),
+               QPoint(toPixels(c.x2 + originLeft(c), scale_), toPixels(c.y2 + originTop(c), scale_)));
 }
 
 void FormPainter::paintFrame(QPainter& p, const Control& c, const QRect& r) const {
@@ -225,6 +226,21 @@ void FormPainter::paintTabs(QPainter& p, const Control& c, const QRect& r) const
     }
 }
 
+namespace {
+
+// A grid's ColAlignment across the cell, the header row's included.
+Qt::Alignment columnAlignment(const Control& c, int col) {
+    if (c.kind != ControlKind::Grid || static_cast<size_t>(col) >= c.colAlignments.size())
+        return Qt::AlignLeft;
+    switch (c.colAlignments[static_cast<size_t>(col)]) {
+        case kGridAlignRightCenter: return Qt::AlignRight;
+        case kGridAlignCenterCenter: return Qt::AlignHCenter;
+        default: return Qt::AlignLeft;
+    }
+}
+
+}  // namespace
+
 void FormPainter::paintRows(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
     p.setClipRect(r);
@@ -238,16 +254,23 @@ void FormPainter::paintRows(QPainter& p, const Control& c, const QRect& r) const
         if (header) p.fillRect(line, kFace);
         if (chosen) p.fillRect(line, QColor(0x33, 0x99, 0xFF));
         const QStringList cells = toQString(c.items[row]).split(QLatin1Char('\t'));
-        const int columns = grid ? static_cast<int>(cells.size()) : 1;
+        const bool sized = grid && !c.colWidths.empty();
+        const int columns = sized  ? static_cast<int>(c.colWidths.size())
+                            : grid ? static_cast<int>(cells.size())
+                                   : 1;
+        int x0 = line.left();
         for (int col = 0; col < columns; ++col) {
-            const int x0 = line.left() + line.width() * col / columns;
-            const int x1 = line.left() + line.width() * (col + 1) / columns;
+            const int x1 = sized ? x0 + toPixels(c.colWidths[static_cast<size_t>(col)], scale_)
+                                 : line.left() + line.width() * (col + 1) / columns;
             const QRect cell(x0, line.top(), x1 - x0, height);
+            x0 = x1;
             if (grid) strokeInside(p, cell, QPen(QBrush(kShadow), px(1)));
             p.setPen(chosen ? kLight : toQColor(c.foreColor));
+            const QString shown = !grid                ? cells.join(QLatin1Char(' '))
+                                  : col < cells.size() ? cells[col]
+                                                       : QString();
             p.drawText(cell.adjusted(px(3), 0, -px(2), 0),
-                       Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                       grid ? cells[col] : cells.join(QLatin1Char(' ')));
+                       Qt::AlignVCenter | Qt::TextSingleLine | columnAlignment(c, col), shown);
         }
     }
     p.setClipping(false);

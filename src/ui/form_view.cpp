@@ -14,6 +14,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "model/containers.h"
 #include "catalogue/field_names.h"
 #include "model/program.h"
 #include "ui/form_view_accessible.h"
@@ -206,8 +207,17 @@ void FormView::ensureFace() {
     if (form_) FormPainter(kScreenScale).paintForm(painter, *form_, true);
 }
 
+namespace {
+constexpr int kMostAreasApart = 8;
+}  // namespace
+
 void FormView::repaintFace(const QRegion& area) {
     QPainter painter(&face_);
+    // Many small areas at once (a page of a tab control turned) cost less painted as one.
+    if (area.rectCount() > kMostAreasApart) {
+        FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
+        return;
+    }
     for (const QRect& rect : area) FormPainter(kScreenScale).paintArea(painter, *form_, rect, true);
 }
 
@@ -248,7 +258,7 @@ Control* FormView::controlAt(QPoint point) const {
     const std::vector<const Control*> order = paintOrder(*form_);
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         const Control* control = *it;
-        if (!control->visible || hasEditor(control->kind)) continue;
+        if (!isShown(*control) || hasEditor(control->kind)) continue;
         if (control->kind == ControlKind::Shape || control->kind == ControlKind::Line) continue;
         if (controlRect(*control, kScreenScale).contains(point)) return const_cast<Control*>(control);
     }

@@ -6,6 +6,7 @@
 #include <map>
 #include <vector>
 
+#include "model/containers.h"
 #include "catalogue/field_names.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
@@ -16,7 +17,7 @@ namespace lw::ui {
 namespace {
 
 bool isPaintedCheckBox(const Control& control) {
-    return control.kind == ControlKind::CheckLabel && control.visible;
+    return control.kind == ControlKind::CheckLabel && isShown(control);
 }
 
 // A check box drawn by the view: a click on it reaches the model as any click does.

@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "model/containers.h"
 #include "model/program.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
@@ -28,7 +29,8 @@ void setWhenDifferent(QWidget* w, const QString& tip) {
 void FormView::mirror(Control& control, QWidget* editor) {
     const QRect rect = controlRect(control, kScreenScale);
     if (editor->geometry() != rect) editor->setGeometry(rect);
-    if (editor->isHidden() == control.visible) editor->setVisible(control.visible);
+    const bool shown = isShown(control);
+    if (editor->isHidden() == shown) editor->setVisible(shown);
     if (editor->isEnabled() != control.enabled) editor->setEnabled(control.enabled);
     setWhenDifferent(editor, toQString(control.toolTipText));
     const QFont font = controlFont(control, kScreenScale);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/definition_reader.h"
+#include "model/containers.h"
 #include "model/form.h"
 
 namespace lw {
@@ -87,6 +88,59 @@ TEST(DefinitionReader, FaultsNameTheirLine) {
     EXPECT_EQ(faultOf("form F \"c\" 10 10\nlabel L 1 2 3 4 \"open"), "line 2: a quoted word is not closed");
     EXPECT_EQ(faultOf(""), "no form line");
     EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext T 1 2 3 4 align=middle"), "line 2: bad alignment \"middle\"");
+}
+
+}  // namespace
+}  // namespace lw
+
+namespace lw {
+namespace {
+
+const char* kPages = R"LWF(form TF_PAGES "Pages" 8000 5000
+tabs SSTab1 0 0 8000 4600 tabs="First half|Second half" tabheight=295
+picture Pic1L 0 360 4000 4000 in=SSTab1 page=0
+picture Pic2L 0 360 4000 4000 in=SSTab1 page=1
+in Pic1L
+text  Text1(0) 100 200 1000 255
+line  -        0 50 4000 50
+in Pic2L
+text  Text1(1) 100 200 1000 255 in=-
+text  Text1(2) 300 400 1000 255
+in -
+label labelMisc 60 4700 7800 285 ""
+)LWF";
+
+TEST(DefinitionReaderPages, PutsControlsInsideTheirContainersWithPlacesRelativeToThem) {
+    FormDefinition d = readDefinition(kPages);
+    ASSERT_EQ(d.controls.size(), 8u);
+    EXPECT_EQ(d.controls[0].control.items, (std::vector<std::string>{"First half", "Second half"}));
+    EXPECT_EQ(d.controls[0].control.tabHeight, 295);
+    EXPECT_EQ(d.controls[1].container, "SSTab1");
+    EXPECT_EQ(d.controls[1].control.page, 0);
+    EXPECT_EQ(d.controls[2].control.page, 1);
+    EXPECT_EQ(d.controls[3].container, "Pic1L");
+    EXPECT_EQ(d.controls[3].control.page, -1) << "a page is for the controls straight on a tab control";
+    EXPECT_EQ(d.controls[5].container, "") << "in=- on the line puts it on the form";
+    EXPECT_EQ(d.controls[6].container, "Pic2L");
+    EXPECT_EQ(d.controls[7].container, "");
+
+    Form form("TF_PAGES");
+    realizeDefinition(d, form);
+    const Control& first = form.at("Text1", 0);
+    ASSERT_NE(first.container, nullptr);
+    EXPECT_EQ(first.container->name, "Pic1L");
+    EXPECT_EQ(formLeft(first), 100);
+    EXPECT_EQ(formTop(first), 560);
+    EXPECT_EQ(formTop(form.at("Text1", 2)), 760);
+    EXPECT_EQ(formTop(form.at("Text1", 1)), 200);
+}
+
+TEST(DefinitionReaderPages, RefusesAContainerNotDrawnBeforeAndAPagelessControlOnTabs) {
+    EXPECT_THROW(readDefinition("form F \"\" 10 10\nin Pic1L\n"), DefinitionError);
+    EXPECT_THROW(readDefinition("form F \"\" 10 10\ntext Text1(0) 0 0 1 1 in=Nowhere\n"), DefinitionError);
+    EXPECT_THROW(readDefinition("form F \"\" 10 10\ntabs T 0 0 9 9 tabs=\"a|b\"\npicture P 0 0 1 1 in=T\n"),
+                 DefinitionError);
+    EXPECT_THROW(readDefinition("form F \"\" 10 10\ntabs T 0 0 9 9\nin T extra\n"), DefinitionError);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "forms/register_forms.h"
+#include "model/containers.h"
 #include "qt_offscreen.h"
 #include "test_program.h"
 #include "ui/clipboard_picture.h"
@@ -46,6 +47,8 @@ Look lookOf(const Control& c) {
             c.foreColor, c.visible, c.text, c.caption};
 }
 
+bool isK1(const std::string& form) { return form.rfind("TF_K1", 0) == 0; }
+
 // What the put-back of a clip is told to leave otherwise than it found it.
 bool toldToChange(const std::string& form, const Control& c) {
     // The reset gives the 1099-B's out-of-scope boxes the set-up grey of their type.
@@ -54,6 +57,9 @@ bool toldToChange(const std::string& form, const Control& c) {
     // label of box 1 stay as the clip left them.
     if (form == "TF_1099A" && (c.key() == "Text1(0)" || c.name == "labelMisc" || c.key() == "Label1(6)"))
         return true;
+    // The K-1's put-back gives back its tab strip and panels only: its status line stays hidden and the
+    // field in focus keeps the white of the picture.
+    if (isK1(form) && (c.name == "labelMisc" || c.key() == "Text1(0)")) return true;
     return false;
 }
 
@@ -71,6 +77,8 @@ int bottomOf(const Form& form, const char* name, int index = kNoIndex) {
 
 // The height the document is cut to, by the form's own border or last label.
 int cutHeight(const Form& form) {
+    // A K-1 is cut to the half on show, lifted to the top.
+    if (isK1(form.name())) return form.at("Pic1L").height;
     if (form.name() == "TF_SSA1099") return bottomOf(form, "Label1", 33);
     if (form.name() == "TF_RRB1099") return bottomOf(form, "LabelForm", 3);
     // These keep their whole height: only their header labels are whitened.
@@ -125,7 +133,9 @@ TEST_P(ClipEachForm, ThePictureIsTheDocumentCutToItsBorderAndTheFormComesBackAsI
     EXPECT_EQ(ui.picture->width(), ui::toPixels(width, ui::kScreenScale));
     EXPECT_EQ(ui.picture->height(), ui::toPixels(expectedHeight, ui::kScreenScale));
     // The field in focus, with its selection, shows white on the picture.
-    const QRect field = ui::controlRect(first, ui::kScreenScale);
+    QRect field = ui::controlRect(first, ui::kScreenScale);
+    // The half on show of a K-1 stands at the top of the picture, without its tab strip.
+    if (isK1(form->name())) field.translate(0, -ui::toPixels(form->at("Pic1L").top, ui::kScreenScale));
     const QPoint inside(field.right() - 3, field.center().y());
     EXPECT_EQ(ui.picture->pixelColor(inside), QColor(Qt::white)) << "at " << inside.x() << "," << inside.y();
 
@@ -139,6 +149,30 @@ TEST_P(ClipEachForm, ThePictureIsTheDocumentCutToItsBorderAndTheFormComesBackAsI
             << std::dec << ", visible " << before[i].visible << " -> " << after[i].visible << ", text \""
             << before[i].text << "\" -> \"" << after[i].text << "\"";
     EXPECT_EQ(desktop().focus(), &first);
+    EXPECT_TRUE(ui.reports.empty()) << ui.reports.front();
+}
+
+TEST_P(ClipEachForm, AK1OnItsSecondTabClipsTheBottomHalfAndGetsItsTabStripBack) {
+    if (!isK1(form->name())) GTEST_SKIP() << "only the K-1 forms stand on tabs";
+    Control& tabs = form->at("SSTab1");
+    desktop().choose(tabs, tabs.items[1]);
+    ASSERT_EQ(tabOf(tabs), 1);
+    const Control& left = form->at("Pic2L");
+    const Control& right = form->at("Pic2R");
+    const int panelTop = left.top;
+
+    desktop().chooseMenu("mnuControlClip");
+
+    ASSERT_TRUE(ui.picture.has_value());
+    EXPECT_EQ(ui.picture->width(), ui::toPixels(left.width + right.width, ui::kScreenScale));
+    EXPECT_EQ(ui.picture->height(), ui::toPixels(left.height, ui::kScreenScale));
+    // The top row of the picture is the Bottom half's own border, not the tab strip.
+    EXPECT_EQ(ui.picture->pixelColor(ui::toPixels(left.width / 2, ui::kScreenScale), 0), QColor(Qt::white));
+    EXPECT_EQ(tabOf(tabs), 1);
+    EXPECT_EQ(tabs.tabHeight, 295);
+    EXPECT_EQ(left.top, panelTop);
+    EXPECT_EQ(right.top, panelTop);
+    EXPECT_EQ(form->at("Pic1L").top, panelTop);
     EXPECT_TRUE(ui.reports.empty()) << ui.reports.front();
 }
 

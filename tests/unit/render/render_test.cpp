@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QImage>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -48,6 +51,7 @@ struct Document {
     std::string form;
     std::string path;
     std::vector<std::string> texts;  // what each filled field holds
+    int pages = 1;                   // a K-1 is a page for each half
 };
 
 // Writes one saved document of each drawn form, every text field holding a word of its own that the
@@ -63,6 +67,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
         Form* form = Form_Open(name);
         if (!form) continue;
         Document document{name, (folder / (name + ".venturo")).string(), {}};
+        if (form->find("SSTab1")) document.pages = 2;
         for (const auto& c : form->controls()) {
             if (!c->isTextBox() || !c->visible || c->tag == "DATE" || c->tag == "DATEX" ||
                 c->tag == "OUT OF SCOPE")
@@ -109,12 +114,15 @@ TEST_F(Render, EachDrawnFormIsAPageWhoseTextLayerHoldsEveryField) {
 
     const auto info = commandOutput("pdfinfo '" + options.pdf + "'");
     ASSERT_TRUE(info) << "pdfinfo (poppler-utils) must be installed: tools/install-deps installs it";
-    EXPECT_NE(info->find("Pages:           " + std::to_string(documents.size()) + "\n"), std::string::npos)
-        << *info;
-    for (std::size_t page = 0; page < documents.size(); ++page) {
-        const Document& d = documents[page];
-        const auto text = commandOutput("pdftotext -f " + std::to_string(page + 1) + " -l " +
-                                        std::to_string(page + 1) + " '" + options.pdf + "' -");
+    int pages = 0;
+    for (const Document& d : documents) pages += d.pages;
+    EXPECT_NE(info->find("Pages:           " + std::to_string(pages) + "\n"), std::string::npos) << *info;
+    int first = 1;
+    for (const Document& d : documents) {
+        const int last = first + d.pages - 1;
+        const auto text = commandOutput("pdftotext -f " + std::to_string(first) + " -l " + std::to_string(last) +
+                                        " '" + options.pdf + "' -");
+        first = last + 1;
         ASSERT_TRUE(text);
         for (const std::string& word : d.texts)
             EXPECT_NE(text->find(word), std::string::npos) << d.form << ": " << word;
@@ -174,6 +182,23 @@ TEST_F(Render, PicturesComeOnePerPageAtTheirZoom) {
     ASSERT_FALSE(page.isNull());
     EXPECT_EQ(page.width(), 2 * 896);
     EXPECT_EQ(page.height(), 2 * 524) << "the print look is cut to the form's border";
+}
+
+TEST_F(Render, AK1IsAPictureForEachHalf) {
+    std::ofstream(folder / "k1.venturo", std::ios::binary) << "K11065\xB7"
+                                                              "2025\xB7TXT5=123-45-6789\xB7TX320=ZBOTTOMZ\r\n";
+    render::RenderOptions options;
+    options.pngFolder = (folder / "pages").string();
+    options.files = {(folder / "k1.venturo").string()};
+    ASSERT_EQ(render(options), 0) << err.str();
+    EXPECT_EQ(out.str(), options.files[0] + ": TF_K11065, pages 1 to 2\n");
+    QImage top(QString::fromStdString((folder / "pages" / "k1-1.png").string()));
+    QImage bottom(QString::fromStdString((folder / "pages" / "k1-2.png").string()));
+    ASSERT_FALSE(top.isNull());
+    ASSERT_FALSE(bottom.isNull());
+    EXPECT_EQ(top.size(), bottom.size());
+    EXPECT_NE(top, bottom) << "the two halves differ";
+    EXPECT_FALSE(QFile::exists(QString::fromStdString((folder / "pages" / "k1.png").string())));
 }
 
 TEST(RenderArguments, TheCommandLineIsCheckedBeforeAnythingIsRead) {

@@ -7,6 +7,7 @@
 #include "model/app_error.h"
 #include "shell/frame_window_model.h"
 #include "text/case.h"
+#include "text/pieces.h"
 
 #ifndef LW_SOURCE_DIR
 #error "LW_SOURCE_DIR names the source tree"
@@ -31,10 +32,32 @@ void TestUi::runModal(Form& form) {
         if (Control* button = box->buttonWithCaption(caption)) program().desktop.click(*button);
         return;
     }
+    if (form.name() == "F6_K1Help") return answerK1List(form);
     if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
         reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
         report->unload();
     }
+}
+
+void TestUi::answerK1List(Form& list) {
+    Control* grid = list.find("Grid1");
+    std::vector<std::string> shown{list.caption};
+    if (grid) shown.insert(shown.end(), grid->items.begin(), grid->items.end());
+    k1Lists.push_back(shown);
+    std::string code = "cancel";
+    if (!k1Answers.empty()) {
+        code = k1Answers.front();
+        k1Answers.pop_front();
+    }
+    if (grid && code != "cancel") {
+        for (std::size_t row = 1; row < grid->items.size(); ++row) {
+            const std::string& entry = grid->items[row];
+            if (text::trim(entry.substr(0, entry.find('\t'))) != code) continue;
+            program().desktop.choose(*grid, entry);
+            return;
+        }
+    }
+    if (Control* cancel = list.find("cmdCancel")) program().desktop.click(*cancel);
 }
 
 void TestUi::quit() {

@@ -38,12 +38,20 @@ public:
     std::deque<std::optional<std::string>> fileAnswers;
     std::vector<FileDialogRequest> fileDialogs;  // every open or save dialog asked for, in turn
     std::deque<std::string> answers;  // captions, taken by the boxes in turn; the default button otherwise
+    // Codes, taken by the lists of K-1 codes in turn: the row with that code is clicked; "cancel" or no
+    // answer presses Cancel.
+    std::deque<std::string> k1Answers;
+    // Every list of K-1 codes shown: its caption, then its rows (header first), cells joined by tabs.
+    std::vector<std::vector<std::string>> k1Lists;
     std::vector<std::string> boxes;   // the text of every box shown
     std::vector<std::string> reports;  // module and description of every error report
     std::vector<std::string> pictures;
     std::vector<std::string> opened;
     std::string clipboard;
     bool ended = false;
+
+private:
+    void answerK1List(Form& list);
 };
 
 using TestPlatform = FixedPlatform;

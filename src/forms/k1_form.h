@@ -1,0 +1,46 @@
+#pragma once
+// The three Schedule K-1 forms: one design on a two-page tab control. Rows pair a code field (Text2,
+// Text4) with its amount (Text3, Text5); a fixed row prints its box number, a coded row takes its code
+// from the list of its box. The page on show follows the field in focus.
+
+#include "forms/k1_design.h"
+#include "forms/tax_form.h"
+
+namespace lw {
+
+class K1Form : public TaxForm {
+public:
+    explicit K1Form(const K1Design& design);
+
+    void onLoad() override;
+    void onGotFocus(Control& ctl) override;
+    void onLostFocus(Control& ctl) override;
+    void onKeyDown(Control& ctl, int& KeyCode, int Shift) override;
+    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onClick(Control& ctl, MouseButton button) override;
+
+    // All of Text1, then the left column row by row, code before amount, then the right column.
+    void SetTabOrder();
+
+    const K1Design& design() const { return design_; }
+
+    static constexpr const char* kFixedTip = "This value can't be changed";
+    static constexpr const char* kCodedTip = "Press any Function Key (F1 - F12) for list of valid entries.";
+    static constexpr const char* kCodedHint = "Press ANY Function Key (F1 - F12) for list of valid entries.";
+
+private:
+    // The page turns to the field's side of the limit, then the field takes its focus look.
+    void focusRoutine(Control& field, int limit);
+    // The look at rest and the edit; leaving the last amount goes back to the top of the form.
+    void leavingRoutine(Control& field, int count);
+    void setUpCodeColumn(const char* array, const std::vector<K1CodedRows>& rows, const std::string& prefix);
+    int limitOf(const Control& field) const;
+    bool isCheckBoxField(const Control& ctl) const;
+
+    const K1Design& design_;
+};
+
+// Makes TF_K11041, TF_K11065 and TF_K11120S known by name.
+void registerK1Forms();
+
+}  // namespace lw

@@ -1,0 +1,69 @@
+#include "forms/k1_help.h"
+
+#include <memory>
+
+#include "diagnostics/error_tail.h"
+#include "forms/k1_help_form.h"
+#include "model/program.h"
+#include "text/case.h"
+
+namespace lw {
+
+namespace {
+
+// "K1HELP" and the middle dot stand before the section name in a coded field's Tag.
+constexpr std::size_t kSectionStart = 7;
+
+std::vector<std::string> keep(const Form& form, const char* name, bool tags) {
+    const std::vector<Control*> fields = form.arrayOf(name);
+    std::vector<std::string> kept(fields.size());
+    for (const Control* field : fields)
+        kept.at(static_cast<std::size_t>(field->index)) = tags ? field->tag : field->text;
+    return kept;
+}
+
+}  // namespace
+
+void K1_SaveInfo(Form& form) {
+    Globals& g = program().g;
+    g.K1Text2 = keep(form, "Text2", false);
+    g.K1Tag3 = keep(form, "Text3", true);
+    g.K1Text4 = keep(form, "Text4", false);
+    g.K1Tag5 = keep(form, "Text5", true);
+}
+
+void K1_Help_KeyDown(Form& form, Control& field) {
+    runGuarded("M3_Ledgerwick:K1_Help_KeyDown", [&] {
+        const std::string name = text::toUpper(field.name);
+        const int index = field.index;
+        const std::string before = field.text;
+        const std::string key = field.tag.size() > kSectionStart ? field.tag.substr(kSectionStart) : "";
+        if (key.empty()) return;
+
+        K1HelpMembers& members = k1HelpMembers();
+        members.F97_K1Key = key;
+        members.F97_K1Box.clear();
+        members.F97_K1OverRide.clear();
+        members.K1Cancel = false;
+        Desktop& desktop = program().desktop;
+        Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+        if (list.isLoaded()) desktop.showModal(list);
+
+        if (!members.F97_K1Box.empty()) {
+            field.text = members.F97_K1Box;
+            const bool left = name == "TEXT2";
+            Control& amount = form.at(left ? "Text3" : "Text5", index);
+            // A code picked earlier for the row may have lifted the money check: it comes back first.
+            const std::vector<std::string>& designTags = left ? program().g.K1Tag3 : program().g.K1Tag5;
+            amount.tag = designTags.at(static_cast<std::size_t>(index));
+            if (members.F97_K1OverRide == "X") amount.tag.clear();
+            desktop.setFocus(amount);
+            return;
+        }
+        field.text = before;
+        if (Form* open = desktop.findForm("F6_K1Help")) desktop.unload(*open);
+        desktop.setFocus(field);
+    });
+}
+
+}  // namespace lw

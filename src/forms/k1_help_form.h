@@ -1,0 +1,58 @@
+#pragma once
+// F6_K1Help, the modal list of the K-1 codes valid for one box, read from a section of K1Help.inf.
+
+#include <string>
+
+#include "model/form.h"
+
+namespace lw {
+
+// The form's public members. They outlive the window: the caller reads the choice after it has closed.
+struct K1HelpMembers {
+    std::string F97_K1Form;      // not looked at by the list
+    std::string F97_K1Key;       // in: the section name
+    std::string F97_K1Box;       // out: the code clicked, trimmed; empty when none
+    std::string F97_K1OverRide;  // out: the O/R column of the row clicked, "X" to override
+    bool K1Cancel = false;       // out: true after Cancel
+};
+
+K1HelpMembers& k1HelpMembers();
+
+// The section is read through one buffer of this many characters, as the keepers of the file know.
+constexpr std::size_t kK1HelpSectionBuffer = 2048;
+
+// One line of a section as a row of the list: code, purpose, additional information with the third part
+// appended, and the O/R mark, joined by tabs and always four columns. A line of fewer than three parts
+// raises the run-time fault of an index out of range.
+std::string K1Help_GridRow(const std::string& line);
+
+// "Valid Entries for K1 1065 Box 11" for "K1-1065-Box11".
+std::string K1Help_Caption(const std::string& key);
+
+class F6_K1Help : public Form {
+public:
+    static constexpr int kGridWidth = 660 + 9500 + 5000 + 600;
+    static constexpr int kMargin = 120;
+    static constexpr int kRowHeight = 240;
+
+    F6_K1Help();
+
+    Control& Label0;  // where to read more
+    Control& Label1;  // what the O/R column does
+    Control& Label2;  // how to choose
+    Control& Grid1;   // the codes: header row, then one row a line of the section
+    Control& Label3;  // what to do when the list is empty
+    Control& cmdCancel;
+
+    void onLoad() override;
+    void onClick(Control& control, MouseButton button) override;
+
+    void cmdCancel_Click();
+    void Grid1_Click();
+
+private:
+    void readSection();
+    void layOut();
+};
+
+}  // namespace lw
