@@ -109,6 +109,17 @@ TEST_F(K1ListTest, AClickOnTheHeaderPicksNothingAndCancelLeavesTheField) {
     EXPECT_EQ(desktop().focus(), &form_->at("Text2", 0));
 }
 
+TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
+    form_->at("Text2", 0).text = "H";
+    whenShown([&](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    callList();
+    EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
+    EXPECT_EQ(form_->at("Text2", 0).text, "H");
+    EXPECT_EQ(form_->at("Text3", 0).tag, "MONEY");
+    EXPECT_EQ(desktop().focus(), &form_->at("Text2", 0));
+    EXPECT_FALSE(k1HelpMembers().K1Cancel) << "only the Cancel button sets it";
+}
+
 // The shipped lists of one box of each form, drawn as the dialog shows them. With LW_SCREENSHOT_DIR set
 // the pictures are kept there to be looked at.
 TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
