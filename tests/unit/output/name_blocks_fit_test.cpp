@@ -16,6 +16,7 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "forms/register_forms.h"
+#include "model/containers.h"
 #include "qt_offscreen.h"
 #include "test_program.h"
 #include "ui/form_painter.h"
@@ -124,6 +125,12 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitThePrintedBlockAt100And200Percent)
     }
 }
 
+// A block on a page of a tab control is looked at with its page on show, as the operator sees it.
+void showPageOf(const Control& c) {
+    for (const Control* inner = &c; inner->container; inner = inner->container)
+        if (inner->container->kind == ControlKind::TabControl) setTab(*inner->container, inner->page);
+}
+
 TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
     if (blocks.empty()) GTEST_SKIP() << GetParam() << " has no name block of several lines";
     for (Control* c : blocks) fill(*c);
@@ -132,6 +139,8 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
     view.show();
     view.refresh();
     for (Control* c : blocks) {
+        showPageOf(*c);
+        view.refresh();
         auto* box = qobject_cast<QPlainTextEdit*>(view.editorOf(*c));
         ASSERT_NE(box, nullptr) << c->key();
         ASSERT_EQ(box->document()->blockCount(), 5) << c->key();
