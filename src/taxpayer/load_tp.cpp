@@ -6,6 +6,7 @@
 
 #include "diagnostics/error_tail.h"
 #include "fields/control_setup.h"
+#include "model/containers.h"
 #include "model/program.h"
 #include "shell/startup.h"
 #include "taxpayer/tin_cards.h"
@@ -76,6 +77,23 @@ void fillByPrefix(Form& form, const std::string& prefix, const std::string& Who,
     fillGeneral(form, A);
 }
 
+// The filled fields of a K-1 may stand on the half that is not on show: that half is shown for a second,
+// then the operator's half comes back.
+void showOtherHalfAWhile(Form& form, const std::string& prefix) {
+    Control& tabs = form.at("SSTab1");
+    const int noted = tabOf(tabs);
+    if (prefix == "K11065") {
+        if (noted == 1) setTab(tabs, 0);
+        program().ui.refresh();
+        if (tabOf(tabs) == noted) return;
+    } else {
+        setTab(tabs, noted == 0 ? 1 : 0);
+        program().ui.refresh();
+    }
+    program().platform.sleep(1000);
+    setTab(tabs, noted);
+}
+
 }  // namespace
 
 void TPInfo_Read(const std::string& Who) {
@@ -95,6 +113,7 @@ void TPInfo_Read(const std::string& Who) {
             form->at("Text1", 15).text = form->at("Text1", 2).text;
             form->at("Text1", 16).text = form->at("Text1", 3).text;
         } else {
+            if (prefix == "K11041" || prefix == "K11120S" || prefix == "K11065") showOtherHalfAWhile(*form, prefix);
             TPInfo_Focus_After();
         }
         program().ui.refresh();
