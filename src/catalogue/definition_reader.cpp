@@ -234,7 +234,7 @@ FormDefinition readDefinition(const std::string& text) {
         } else {
             c.page = -1;
         }
-        if (c.index == kNoIndex) containers[c.name] = c.kind;
+        containers[c.key()] = c.kind;
         definition.controls.push_back(std::move(designed));
     }
     if (!haveForm) throw DefinitionError("no form line");
@@ -252,7 +252,12 @@ void realizeDefinition(const FormDefinition& definition, Form& form) {
         made.form = owner;
         made.container = nullptr;
         if (!designed.container.empty()) {
-            Control* holder = form.find(designed.container);
+            // A container is named as it was drawn: "Pic1L", or "Frame1(3)" for an element of an array.
+            const std::size_t open = designed.container.find('(');
+            Control* holder = open == std::string::npos
+                                  ? form.find(designed.container)
+                                  : form.find(designed.container.substr(0, open),
+                                              std::stoi(designed.container.substr(open + 1)));
             if (holder) placeInside(made, *holder, designed.control.page);
         }
     }

@@ -3,6 +3,7 @@
 #include <cctype>
 #include <limits>
 
+#include "model/containers.h"
 #include "text/case.h"
 
 namespace lw {
@@ -51,12 +52,23 @@ bool isCaptionLabel(const Control& c) {
     return !text::equalsNoCase(c.name, "labelMisc") && !text::equalsNoCase(c.name, "TaxYear");
 }
 
+// Places on the form, whatever panels or tab pages the controls lie in.
+int leftOf(const Control& c) { return formLeft(c); }
+int topOf(const Control& c) { return formTop(c); }
+
+// The page of a tab control that a control lies on, or -1: a caption names only a field of its own page.
+int pageOf(const Control& c) {
+    for (const Control* inner = &c; inner->container; inner = inner->container)
+        if (inner->container->kind == ControlKind::TabControl) return inner->page;
+    return -1;
+}
+
 bool overlapsAcross(const Control& a, const Control& b) {
-    return a.left < b.left + b.width && b.left < a.left + a.width;
+    return pageOf(a) == pageOf(b) && leftOf(a) < leftOf(b) + b.width && leftOf(b) < leftOf(a) + a.width;
 }
 
 bool overlapsDown(const Control& a, const Control& b) {
-    return a.top < b.top + b.height && b.top < a.top + a.height;
+    return pageOf(a) == pageOf(b) && topOf(a) < topOf(b) + b.height && topOf(b) < topOf(a) + a.height;
 }
 
 // The nearest caption above the control in its column, within `reach`; with `numbered`, one that
@@ -67,8 +79,8 @@ const Control* captionAbove(const Form& form, const Control& control, int reach,
     for (const auto& owned : form.controls()) {
         const Control& label = *owned;
         if (!isCaptionLabel(label) || !overlapsAcross(label, control)) continue;
-        const int gap = control.top - (label.top + label.height);
-        if (gap < -label.height / 2 || gap > reach || label.top >= control.top) continue;
+        const int gap = topOf(control) - (topOf(label) + label.height);
+        if (gap < -label.height / 2 || gap > reach || topOf(label) >= topOf(control)) continue;
         std::size_t rest = 0;
         if (numbered && boxOf(flattened(label.caption), rest).empty()) continue;
         if (gap < bestGap) {
@@ -87,8 +99,8 @@ const Control* captionBeside(const Form& form, const Control& control, bool toTh
     for (const auto& owned : form.controls()) {
         const Control& label = *owned;
         if (!isCaptionLabel(label) || !overlapsDown(label, control)) continue;
-        const int gap = toTheRight ? label.left - (control.left + control.width)
-                                   : control.left - (label.left + label.width);
+        const int gap = toTheRight ? leftOf(label) - (leftOf(control) + control.width)
+                                   : leftOf(control) - (leftOf(label) + label.width);
         if (gap < -60 || gap > kReachBeside) continue;
         if (gap < bestGap) {
             best = &label;
