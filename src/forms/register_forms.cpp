@@ -10,6 +10,8 @@
 #include "output/form_print.h"
 #include "output/screen_clip.h"
 #include "shell/frame_command_hooks.h"
+#include "forms/form_1095a.h"
+#include "forms/form_1095bc.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
 #include "forms/tax_form.h"
@@ -52,6 +54,8 @@ void registerAllForms() {
     registerW2Form();
     register1099BForm();
     register1099GForm();
+    register1095AForm();
+    register1095BCForms();
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

@@ -112,19 +112,32 @@ std::string layDecimalSide(const std::string& side, const Decimal& value) {
 
 }  // namespace
 
-std::string formatNumber(std::string_view numberText, std::string_view mask) {
+namespace {
+
+std::string formatDecimal(std::string_view numberText, std::string_view mask, bool keepAllDigits) {
     const std::optional<Decimal> parsed = parseDecimal(numberText);
     if (!parsed || !isNumeric(numberText))
         throw std::invalid_argument("not a number: \"" + std::string(numberText) + "\"");
 
     const NumberMask parts = parseMask(mask);
     const auto places = std::count_if(parts.decimalSide.begin(), parts.decimalSide.end(), isPlaceholder);
-    const Decimal value = roundToPlaces(roundToSignificant(*parsed, kSignificantDigits), places);
+    const Decimal value =
+        roundToPlaces(keepAllDigits ? *parsed : roundToSignificant(*parsed, kSignificantDigits), places);
 
     std::string out = value.negative && !value.isZero() ? "-" : "";
     out += layIntegerSide(parts, integerDigits(value));
     if (parts.hasPoint) out += "." + layDecimalSide(parts.decimalSide, value);
     return out;
+}
+
+}  // namespace
+
+std::string formatNumber(std::string_view numberText, std::string_view mask) {
+    return formatDecimal(numberText, mask, false);
+}
+
+std::string formatNumberExact(std::string_view numberText, std::string_view mask) {
+    return formatDecimal(numberText, mask, true);
 }
 
 std::string formatText(std::string_view text, std::string_view mask) {

@@ -20,6 +20,10 @@ namespace lw::text {
 // (2.675 gives 2.68). Throws std::invalid_argument when isNumeric refuses the text.
 std::string formatNumber(std::string_view numberText, std::string_view mask);
 
+// As formatNumber, for an exact amount such as a currency sum: every digit is kept, and the value is
+// rounded only to the mask's decimals, so a sum beyond 15 digits still shows what it is.
+std::string formatNumberExact(std::string_view numberText, std::string_view mask);
+
 // Classic Format of a text under an "@" mask: each "@" takes one character, filled from the right;
 // left placeholders with no character left show a blank; characters beyond the placeholders come out
 // in front of the whole result. Other mask characters stand as they are.
