@@ -133,5 +133,42 @@ TEST_F(Form1095ATotals, F12BeyondTheLimitShowsTheFieldsMessageAndNoTotal) {
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
+TEST_F(Form1095ATotals, CopyAndPasteKeysPassByTheFilterOfAMoneyField) {
+    desktop().setFocus(field(38));
+    for (int key : {keys::kCtrlC, keys::kCtrlV}) {
+        int KeyAscii = key;
+        form->Text1_KeyPress(38, KeyAscii);
+        EXPECT_EQ(KeyAscii, key);
+    }
+    int letter = 'A';
+    form->Text1_KeyPress(38, letter);
+    EXPECT_EQ(letter, 0);
+}
+
+TEST_F(Form1095ATotals, EnterIsSwallowedAndMovesOn) {
+    desktop().setFocus(field(51));
+    desktop().pressKey(keys::kEnter, 0, keys::kEnter);
+    EXPECT_EQ(focus(), &field(64));
+    EXPECT_EQ(field(51).text, "");
+}
+
+TEST_F(Form1095ATotals, F12OutsideTheMonthsDoesNothing) {
+    field(0).text = "";
+    for (int i : {0, 3, 37, 50, 63, 76}) {
+        desktop().setFocus(field(i));
+        f12();
+        EXPECT_EQ(field(0).text, "") << i;
+    }
+    EXPECT_EQ(field(50).text, "");
+    EXPECT_TRUE(test.ui.reports.empty());
+}
+
+TEST_F(Form1095ATotals, TheRememberedFieldIsTheLastToTakeTheFocus) {
+    desktop().setFocus(field(12));
+    EXPECT_EQ(form->iLastIndex, 12);
+    desktop().setFocus(field(70));
+    EXPECT_EQ(form->iLastIndex, 70);
+}
+
 }  // namespace
 }  // namespace lw
