@@ -43,7 +43,8 @@ void LeaveMonth1095A(benchmark::State& state) {
     if (!opened.form) return;
     TF_1095A* form = the1095A(opened, state);
     if (!form) return;
-    for (int i = TF_1095A::kColumnC.first; i <= TF_1095A::kColumnC.last; ++i) form->at("Text1", i).text = "$99.99";
+    for (int i = TF_1095A::kColumnC.first; i <= TF_1095A::kColumnC.last; ++i)
+        form->at("Text1", i).text = "$99.99";
     Control& december = form->at("Text1", TF_1095A::kColumnC.last);
     for (auto _ : state) {
         december.text = "99.99";

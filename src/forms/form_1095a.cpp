@@ -91,10 +91,14 @@ void TF_1095A::Text1_Validate(int Index, bool& Cancel) {
         }
         // Column B takes in its own total here, the other two columns do not.
         MonthColumn column;
-        if (Index >= 38 && Index <= 49) column = kColumnA;
-        else if (Index >= 51 && Index <= 63) column = kColumnB;
-        else if (Index >= 64 && Index <= 75) column = kColumnC;
-        else return;
+        if (Index >= 38 && Index <= 49)
+            column = kColumnA;
+        else if (Index >= 51 && Index <= 63)
+            column = kColumnB;
+        else if (Index >= 64 && Index <= 75)
+            column = kColumnC;
+        else
+            return;
         try {
             AddEmUp(column.first, column.last, column.total);
         } catch (const std::overflow_error&) {

@@ -43,7 +43,8 @@ Currency fromDecimal(const Decimal& value) {
     }
     // Ties to even: a dropped 5 followed by nothing but zeros rounds to the even count.
     if (!dropped.empty()) {
-        const bool above = dropped[0] > '5' || (dropped[0] == '5' && dropped.find_first_not_of('0', 1) != std::string::npos);
+        const bool above =
+            dropped[0] > '5' || (dropped[0] == '5' && dropped.find_first_not_of('0', 1) != std::string::npos);
         const bool tie = dropped[0] == '5' && !above;
         if (above || (tie && count % 2 == 1)) ++count;
     }

@@ -1,8 +1,9 @@
+#include "forms/form_1095a.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "forms/form_1095a.h"
 #include "forms/register_forms.h"
 #include "model/app_error.h"
 #include "model/keys.h"
