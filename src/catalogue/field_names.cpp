@@ -93,7 +93,7 @@ const Control* captionAbove(const Form& form, const Control& control, int reach,
 
 // The nearest caption on the control's line, to its right for a check box, else to its left.
 const Control* captionBeside(const Form& form, const Control& control, bool toTheRight,
-                             int* gapFound = nullptr) {
+                             int* gapFound = nullptr, int reach = kReachBeside) {
     const Control* best = nullptr;
     int bestGap = std::numeric_limits<int>::max();
     for (const auto& owned : form.controls()) {
@@ -101,7 +101,7 @@ const Control* captionBeside(const Form& form, const Control& control, bool toTh
         if (!isCaptionLabel(label) || !overlapsDown(label, control)) continue;
         const int gap = toTheRight ? leftOf(label) - (leftOf(control) + control.width)
                                    : leftOf(control) - (leftOf(label) + label.width);
-        if (gap < -60 || gap > kReachBeside) continue;
+        if (gap < -60 || gap > reach) continue;
         if (gap < bestGap) {
             best = &label;
             bestGap = gap;
@@ -130,6 +130,16 @@ const Control* numberedBeside(const Form& form, const Control& caption) {
         if (!boxOf(flattened(left->caption), rest).empty()) return left;
     }
     return nullptr;
+}
+
+// A cell of a grid far below its column's heading, as a month of the 1095-A's line 26: the caption of its
+// row at the start of its line, then the heading of its column.
+std::string gridCellName(const Form& form, const Control& control) {
+    constexpr int kAnyDistance = std::numeric_limits<int>::max() / 2;
+    const Control* column = captionAbove(form, control, kAnyDistance, false);
+    const Control* row = captionBeside(form, control, false, nullptr, kAnyDistance);
+    if (!column || !row) return {};
+    return spokenCaption(row->caption) + ", " + spokenCaption(column->caption);
 }
 
 }  // namespace
@@ -166,7 +176,7 @@ std::string accessibleNameOf(const Form& form, const Control& control) {
         return name;
     }
     if (!control.toolTipText.empty()) return flattened(control.toolTipText);
-    return {};
+    return gridCellName(form, control);
 }
 
 }  // namespace lw

@@ -13,6 +13,8 @@
 #include "shell/frame_command_hooks.h"
 #include "forms/cards_form.h"
 #include "forms/check_form.h"
+#include "forms/form_1095a.h"
+#include "forms/form_1095bc.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
 #include "forms/form_rrb1099.h"
@@ -68,6 +70,8 @@ void registerAllForms() {
     registerLicenseForm();
     registerSSA1099Form();
     registerRRB1099Form();
+    register1095AForm();
+    register1095BCForms();
     registerK1Forms();
     // The people of the case: the sheet fills the store, the Load TP buttons read it.
     frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };

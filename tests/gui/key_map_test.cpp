@@ -35,6 +35,13 @@ TEST(KeyMap, LettersCarryTheirCharacterAndShiftState) {
     EXPECT_EQ(keyOf(Qt::Key_5, Qt::KeypadModifier, QStringLiteral("5")).keyCode, 101);
 }
 
+TEST(KeyMap, AnOpeningBraceTypesTheCodeOfF12ButIsNoF12) {
+    ModelKey brace = keyOf(Qt::Key_BraceLeft, Qt::ShiftModifier, QStringLiteral("{"));
+    EXPECT_EQ(brace.keyAscii, keys::kF12);
+    EXPECT_NE(brace.keyCode, keys::kF12);
+    EXPECT_EQ(keyOf(Qt::Key_F12).keyAscii, 0);
+}
+
 TEST(KeyMap, ControlLettersTypeTheirControlCharacters) {
     EXPECT_EQ(keyOf(Qt::Key_C, Qt::ControlModifier).keyAscii, keys::kCtrlC);
     EXPECT_EQ(keyOf(Qt::Key_V, Qt::ControlModifier, QStringLiteral("\x16")).keyAscii, keys::kCtrlV);

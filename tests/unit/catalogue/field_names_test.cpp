@@ -45,6 +45,13 @@ TEST(FieldNames, The1099INTsFieldsAreNamedAsOnThePaperForm) {
     EXPECT_EQ(form.nameOf("Text1", 3), "Box 2, Early withdrawal penalty");
 }
 
+TEST(FieldNames, TheCellsOfALongGridAreNamedByTheirRowAndColumn) {
+    Drawn form("TF_1095A");
+    EXPECT_EQ(form.nameOf("Text1", 38), "A. Monthly enrollment premiums");
+    EXPECT_EQ(form.nameOf("Text1", 62), "Box 32, December, B. Monthly second lowest cost silver plan (SLCSP) premium");
+    EXPECT_EQ(form.nameOf("Text1", 76), "Box 33, Annual Totals, C. Monthly advance payment of premium tax credit");
+}
+
 TEST(FieldNames, EveryFieldAndCheckBoxOfEveryDrawnFormHasAName) {
     for (const EmbeddedDefinition& embedded : embeddedDefinitions()) {
         Drawn drawn(embedded.formName);

@@ -82,7 +82,9 @@ int cutHeight(const Form& form) {
     if (form.name() == "TF_SSA1099") return bottomOf(form, "Label1", 33);
     if (form.name() == "TF_RRB1099") return bottomOf(form, "LabelForm", 3);
     // These keep their whole height: only their header labels are whitened.
-    if (form.name() == "TF_1099B" || form.name() == "TF_1099R") return form.height;
+    if (form.name() == "TF_1099B" || form.name() == "TF_1099R" || form.name() == "TF_1098E" ||
+        form.name() == "TF_1098T")
+        return form.height;
     if (form.find("myBorder")) return bottomOf(form, "myBorder");
     if (form.find("Shape5")) return bottomOf(form, "Shape5");
     return form.height;

@@ -1,0 +1,137 @@
+#include "forms/form_1095a.h"
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+
+#include "diagnostics/error_tail.h"
+#include "fields/control_setup.h"
+#include "fields/edit_ctl.h"
+#include "fields/edit_failure.h"
+#include "fields/key_press.h"
+#include "model/app_error.h"
+#include "model/keys.h"
+#include "shell/form_registry.h"
+#include "text/case.h"
+#include "text/currency_text.h"
+#include "text/masks.h"
+
+namespace lw {
+
+namespace {
+
+constexpr int kMoneyColour = 3;  // the legend's colour of a money field
+constexpr const char* kTotalMask = "$###,###.00";
+
+bool isText1(const Control& ctl) { return isFieldArray(ctl) && text::equalsNoCase(ctl.name, "Text1"); }
+
+}  // namespace
+
+MonthColumn monthColumnOf(int Index) {
+    for (const MonthColumn& column : {TF_1095A::kColumnA, TF_1095A::kColumnB, TF_1095A::kColumnC})
+        if (Index >= column.first && Index <= column.last) return column;
+    return {};
+}
+
+TF_1095A::TF_1095A() : TaxForm("TF_1095A") {}
+
+void TF_1095A::onGotFocus(Control& ctl) {
+    TaxForm::onGotFocus(ctl);
+    if (isText1(ctl)) iLastIndex = ctl.index;
+}
+
+void TF_1095A::onKeyDown(Control& ctl, int& keyCode, int /*shift*/) {
+    if (keyCode != keys::kF12 || !isText1(ctl)) return;
+    if (monthColumnOf(ctl.index).total == 0) return;
+    // F12 never reaches the key filter: it takes the path of the character with the same code.
+    int key = keys::kF12;
+    Text1_KeyPress(iLastIndex, key);
+}
+
+void TF_1095A::onKeyPress(Control& ctl, int& KeyAscii) {
+    if (isText1(ctl)) Text1_KeyPress(ctl.index, KeyAscii);
+}
+
+void TF_1095A::onValidate(Control& ctl, bool& Cancel) {
+    if (isText1(ctl)) Text1_Validate(ctl.index, Cancel);
+}
+
+void TF_1095A::Text1_KeyPress(int Index, int& KeyAscii) {
+    runGuarded("TF_1095A:Text1_KeyPress", [&] {
+        if (KeyAscii == keys::kEnter) {
+            SendTabKey();
+            KeyAscii = 0;
+            return;
+        }
+        // The test is on the code alone, so a typed "{" copies too, in any field of the form.
+        if (KeyAscii == keys::kF12) copyDown(Index);
+        if (KeyAscii != keys::kCtrlC && KeyAscii != keys::kCtrlV) Key_Press(at("Text1", Index), KeyAscii);
+    });
+}
+
+void TF_1095A::copyDown(int Index) {
+    bool ignored = false;
+    Text1_Validate(iLastIndex, ignored);
+    iLastIndex = Index;
+    const std::string amount = at("Text1", Index).text;
+    const MonthColumn column = monthColumnOf(Index);
+    for (int i = Index + 1; i <= column.last; ++i) at("Text1", i).text = amount;
+    // Outside the columns nothing is copied and Text1(0) is summed into itself.
+    try {
+        AddEmUp(column.first, column.last, column.total);
+    } catch (const std::overflow_error&) {
+        showTotalOutOfReach(Index, column.total);
+    }
+}
+
+void TF_1095A::Text1_Validate(int Index, bool& Cancel) {
+    runGuarded("TF_1095A:Text1_Validate", [&] {
+        if (!EditCtl(at("Text1", Index))) {
+            Cancel = true;
+            return;
+        }
+        // Column B takes in its own total here, the other two columns do not.
+        MonthColumn column;
+        if (Index >= 38 && Index <= 49)
+            column = kColumnA;
+        else if (Index >= 51 && Index <= 63)
+            column = kColumnB;
+        else if (Index >= 64 && Index <= 75)
+            column = kColumnC;
+        else
+            return;
+        try {
+            AddEmUp(column.first, column.last, column.total);
+        } catch (const std::overflow_error&) {
+            showTotalOutOfReach(Index, column.total);
+            Cancel = true;
+        }
+    });
+}
+
+void TF_1095A::AddEmUp(int First, int Last, int Target) {
+    text::Currency sum;
+    for (int i = First; i <= Last; ++i) {
+        const std::string& amount = at("Text1", i).text;
+        if (amount.empty()) continue;
+        try {
+            sum += text::currencyFromText(amount);
+        } catch (const std::invalid_argument&) {
+            throw AppError(err::kTypeMismatch, "Type mismatch", "TF_1095A:AddEmUp");
+        }
+    }
+    at("Text1", Target).text = text::formatCurrency(sum, kTotalMask);
+}
+
+void TF_1095A::showTotalOutOfReach(int Index, int Target) {
+    Control& field = at("Text1", Index);
+    if (Target != Index) at("Text1", Target).text.clear();
+    EditCtl_ShowInvalid(field, kMoneyColour, "");
+    field.foreColor = kRed;
+}
+
+void register1095AForm() {
+    registerForm("TF_1095A", [] { return std::make_unique<TF_1095A>(); });
+}
+
+}  // namespace lw

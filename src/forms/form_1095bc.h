@@ -1,0 +1,21 @@
+// TF_1095B and TF_1095C, the health coverage statements of providers and employers: the standard
+// handlers, with Enter moving on to the next field of their long grids.
+#pragma once
+
+#include <string>
+
+#include "forms/tax_form.h"
+
+namespace lw {
+
+class EnterMovesOnForm : public TaxForm {
+public:
+    explicit EnterMovesOnForm(const std::string& name);
+
+    void onKeyPress(Control& ctl, int& KeyAscii) override;
+};
+
+// Makes TF_1095B and TF_1095C known by name.
+void register1095BCForms();
+
+}  // namespace lw
