@@ -1,6 +1,8 @@
-// The forms whose fields do not take the general fill: each writes fixed fields, and an empty source
-// empties its target.
+// The forms whose fields do not take the general fill: each writes fixed fields from the person of the
+// button (A) or the other (B), and an empty source empties its target.
 #include "taxpayer/load_tp.h"
+
+#include <initializer_list>
 
 #include "model/form.h"
 
@@ -8,56 +10,58 @@ namespace lw {
 
 namespace {
 
-void put(Form& form, int index, const std::string& value) { form.at("Text1", index).text = value; }
+enum class Person { A, B };
+
+struct Fill {
+    int index;  // the Text1 field written
+    Person from;
+    std::string TPInfoRec::*part;
+};
+
+void fillAll(Form& form, const TPInfoRec& A, const TPInfoRec& B, std::initializer_list<Fill> fills) {
+    for (const Fill& fill : fills) form.at("Text1", fill.index).text = (fill.from == Person::A ? A : B).*fill.part;
+}
+
+constexpr Person kA = Person::A;
+constexpr Person kB = Person::B;
 
 }  // namespace
 
 // Both persons twice: as recipient and spouse, then again among the covered individuals.
 void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
-    put(form, 3, A.Name);
-    put(form, 4, A.SSN);
-    put(form, 5, A.DOB);
-    put(form, 6, B.Name);
-    put(form, 7, B.SSN);
-    put(form, 8, B.DOB);
-    put(form, 11, A.Street);
-    put(form, 12, A.CityStateZip);
-    put(form, 13, A.Name);
-    put(form, 14, A.SSN);
-    put(form, 15, A.DOB);
-    put(form, 18, B.Name);
-    put(form, 19, B.SSN);
-    put(form, 20, B.DOB);
+    fillAll(form, A, B,
+            {{3, kA, &TPInfoRec::Name},     {4, kA, &TPInfoRec::SSN},           {5, kA, &TPInfoRec::DOB},
+             {6, kB, &TPInfoRec::Name},     {7, kB, &TPInfoRec::SSN},           {8, kB, &TPInfoRec::DOB},
+             {11, kA, &TPInfoRec::Street},  {12, kA, &TPInfoRec::CityStateZip}, {13, kA, &TPInfoRec::Name},
+             {14, kA, &TPInfoRec::SSN},     {15, kA, &TPInfoRec::DOB},          {18, kB, &TPInfoRec::Name},
+             {19, kB, &TPInfoRec::SSN},     {20, kB, &TPInfoRec::DOB}});
 }
 
 void TPInfo_Process_1095B(Form& form, const TPInfoRec& A) {
-    put(form, 0, A.Name);
-    put(form, 1, A.SSN);
-    put(form, 2, A.DOB);
-    put(form, 3, A.Street);
-    put(form, 4, A.CityStateZip);
+    fillAll(form, A, A,
+            {{0, kA, &TPInfoRec::Name},
+             {1, kA, &TPInfoRec::SSN},
+             {2, kA, &TPInfoRec::DOB},
+             {3, kA, &TPInfoRec::Street},
+             {4, kA, &TPInfoRec::CityStateZip}});
 }
 
 void TPInfo_Process_1095C(Form& form, const TPInfoRec& A) {
-    put(form, 0, A.Name);
-    put(form, 1, A.SSN);
-    put(form, 4, A.Street);
-    put(form, 7, A.CityStateZip);
+    fillAll(form, A, A,
+            {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {4, kA, &TPInfoRec::Street},
+             {7, kA, &TPInfoRec::CityStateZip}});
 }
 
 void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
-    put(form, 0, A.NameAddr);
-    put(form, 1, A.DOB);
-    put(form, 4, B.NameAddr);
-    put(form, 5, B.DOB);
+    fillAll(form, A, B,
+            {{0, kA, &TPInfoRec::NameAddr}, {1, kA, &TPInfoRec::DOB}, {4, kB, &TPInfoRec::NameAddr},
+             {5, kB, &TPInfoRec::DOB}});
 }
 
 // The claim number of the lower statement is the number with the beneficiary's letter A.
 void TPInfo_Process_SSA1099(Form& form, const TPInfoRec& A) {
-    put(form, 0, A.Name);
-    put(form, 1, A.SSN);
-    put(form, 14, A.NameAddr);
-    put(form, 15, A.SSN + "A");
+    fillAll(form, A, A, {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {14, kA, &TPInfoRec::NameAddr}});
+    form.at("Text1", 15).text = A.SSN + "A";
 }
 
 }  // namespace lw
