@@ -13,31 +13,24 @@
 
 namespace lw::testing {
 
-// Registers every form, starts the frame and chooses the menu item: the child it brings up, or null.
-inline Form* openFromMenu(TestProgram& test, const std::string& menuItem) {
+// Registers every form and starts the frame.
+inline void startWithEveryForm(TestProgram& test) {
     registerAllForms();
     test.start();
+}
+
+// Registers every form, starts the frame and chooses the menu item: the child it brings up, or null.
+inline Form* openFromMenu(TestProgram& test, const std::string& menuItem) {
+    startWithEveryForm(test);
     test.program->desktop.chooseMenu(menuItem);
     return test.program->desktop.activeChild();
 }
 
-// The fixture of one form: SetUp opens it and asserts it is the form of that name and type.
+// A started program with every form registered and a form of it under test, which the fixture opens.
 template <class FormType = Form>
-class OpenedForm : public ::testing::Test {
+class FormUnderTest : public ::testing::Test {
 protected:
-    OpenedForm(std::string menuItem, std::string formName)
-        : menuItem_(std::move(menuItem)), formName_(std::move(formName)) {}
-
-    void SetUp() override { open(); }
-
-    // Separate from SetUp so that a fixture can set the clock or the user first.
-    void open() {
-        Form* child = openFromMenu(test, menuItem_);
-        ASSERT_NE(child, nullptr) << menuItem_;
-        ASSERT_EQ(child->name(), formName_);
-        form = dynamic_cast<FormType*>(child);
-        ASSERT_NE(form, nullptr) << formName_;
-    }
+    void SetUp() override { startWithEveryForm(test); }
 
     Desktop& desktop() { return test.program->desktop; }
     Control& field(int i) { return form->at("Text1", i); }
@@ -56,6 +49,25 @@ protected:
 
     TestProgram test;
     FormType* form = nullptr;
+};
+
+// The fixture of one form: SetUp opens it and asserts it is the form of that name and type.
+template <class FormType = Form>
+class OpenedForm : public FormUnderTest<FormType> {
+protected:
+    OpenedForm(std::string menuItem, std::string formName)
+        : menuItem_(std::move(menuItem)), formName_(std::move(formName)) {}
+
+    void SetUp() override { open(); }
+
+    // Separate from SetUp so that a fixture can set the clock or the user first.
+    void open() {
+        Form* child = openFromMenu(this->test, menuItem_);
+        ASSERT_NE(child, nullptr) << menuItem_;
+        ASSERT_EQ(child->name(), formName_);
+        this->form = dynamic_cast<FormType*>(child);
+        ASSERT_NE(this->form, nullptr) << formName_;
+    }
 
 private:
     std::string menuItem_;
