@@ -10,24 +10,13 @@
 namespace lw::ui::test {
 namespace {
 
-class RrbWindowTest : public GuiTest {
+class RrbWindowTest : public FormViewTest<TF_RRB1099> {
 protected:
     void SetUp() override {
-        GuiTest::SetUp();
-        form_ = &load<TF_RRB1099>();
-        view_ = std::make_unique<FormView>(*form_);
-        show(*view_);
+        FormViewTest::SetUp();
         desktop().setFocus(form_->at("Text1", 4));
         refreshAll();
     }
-    void TearDown() override {
-        view_.reset();
-        GuiTest::TearDown();
-    }
-    QLineEdit* editor(const char* name) const { return view_->findChild<QLineEdit*>(QString::fromLatin1(name)); }
-
-    TF_RRB1099* form_ = nullptr;
-    std::unique_ptr<FormView> view_;
 };
 
 TEST_F(RrbWindowTest, TheNetShowsAndTheTabGoesOn) {

@@ -59,21 +59,7 @@ public:
     }
 };
 
-class ControlsTest : public GuiTest {
-protected:
-    void SetUp() override {
-        GuiTest::SetUp();
-        form_ = &load<Controls>();
-        view_ = std::make_unique<FormView>(*form_);
-        show(*view_);
-    }
-    void TearDown() override {
-        view_.reset();
-        GuiTest::TearDown();
-    }
-    Controls* form_ = nullptr;
-    std::unique_ptr<FormView> view_;
-};
+class ControlsTest : public FormViewTest<Controls> {};
 
 TEST_F(ControlsTest, AMultiLineBoxBreaksAtCarriageReturnLineFeed) {
     Control& notes = form_->at("txtNotes");

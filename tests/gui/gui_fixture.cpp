@@ -99,23 +99,11 @@ void GuiTest::show(QWidget& widget) {
 }
 
 void TwoFieldsViewTest::SetUp() {
-    GuiTest::SetUp();
-    form_ = &load<TwoFields>();
-    view_ = std::make_unique<FormView>(*form_);
-    show(*view_);
+    FormViewTest::SetUp();
     first_ = &form_->at("Text1", 0);
     second_ = &form_->at("Text1", 1);
     desktop().setFocus(*first_);
     refreshAll();
-}
-
-void TwoFieldsViewTest::TearDown() {
-    view_.reset();
-    GuiTest::TearDown();
-}
-
-QLineEdit* TwoFieldsViewTest::editor(const char* name) const {
-    return view_->findChild<QLineEdit*>(QString::fromLatin1(name));
 }
 
 }  // namespace lw::ui::test

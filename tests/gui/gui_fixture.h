@@ -71,17 +71,36 @@ protected:
     std::unique_ptr<Program> program_;
 };
 
+// A form of type F loaded into the desktop and shown in its own view.
+template <typename F>
+class FormViewTest : public GuiTest {
+protected:
+    void SetUp() override {
+        GuiTest::SetUp();
+        form_ = &load<F>();
+        view_ = std::make_unique<FormView>(*form_);
+        show(*view_);
+    }
+    void TearDown() override {
+        view_.reset();
+        GuiTest::TearDown();
+    }
+    // The editor of the view for the control of that object name, such as "Text1_4".
+    QLineEdit* editor(const char* name) const {
+        return view_->findChild<QLineEdit*>(QString::fromLatin1(name));
+    }
+
+    F* form_ = nullptr;
+    std::unique_ptr<FormView> view_;
+};
+
 // A form of two fields shown in its own view, the first field in focus.
-class TwoFieldsViewTest : public GuiTest {
+class TwoFieldsViewTest : public FormViewTest<TwoFields> {
 protected:
     void SetUp() override;
-    void TearDown() override;
-    QLineEdit* editor(const char* name) const;
 
-    TwoFields* form_ = nullptr;
     Control* first_ = nullptr;
     Control* second_ = nullptr;
-    std::unique_ptr<FormView> view_;
 };
 
 }  // namespace lw::ui::test

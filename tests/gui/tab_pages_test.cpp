@@ -32,23 +32,11 @@ public:
     }
 };
 
-class TabPagesTest : public GuiTest {
+class TabPagesTest : public FormViewTest<TwoPages> {
 protected:
-    void SetUp() override {
-        GuiTest::SetUp();
-        form_ = &load<TwoPages>();
-        view_ = std::make_unique<FormView>(*form_);
-        show(*view_);
-    }
-    void TearDown() override {
-        view_.reset();
-        GuiTest::TearDown();
-    }
     QLineEdit* editor(int index) const {
         return view_->findChild<QLineEdit*>(QStringLiteral("Text1_%1").arg(index));
     }
-    TwoPages* form_ = nullptr;
-    std::unique_ptr<FormView> view_;
 };
 
 TEST_F(TabPagesTest, OnlyTheFieldsOfThePageOnShowAreOnTheScreen) {

@@ -15,13 +15,32 @@
 namespace lw {
 namespace {
 
-struct RoundTrip : ::testing::TestWithParam<std::string> {
+// A started program with every form registered; the parameter is the name of the form saved and opened.
+struct StartedProgram : ::testing::TestWithParam<std::string> {
     testing::TestProgram test;
     void SetUp() override {
         registerAllForms();
         test.start();
     }
+
+    // Saves the open form to a file of that name, unloads it and opens the file: the form read back.
+    Form* saveAndReadBack(Form& form, const std::string& fileName) {
+        const std::string path = (test.root / fileName).string();
+        std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
+        form.unload();
+        test.program->g.CurrentFileName = path;
+        EXPECT_EQ(Read_File(), GetParam());
+        return test.program->desktop.activeChild();
+    }
 };
+
+struct RoundTrip : StartedProgram {};
+
+// The control a key such as "Text1(12)" names.
+const Control& controlAt(const Form& form, const std::string& key) {
+    const std::size_t open = key.find('(');
+    return form.at(key.substr(0, open), std::stoi(key.substr(open + 1)));
+}
 
 // A value no edit of any type rewrites when the file is read back: no date, no "=", no "·".
 std::string valueFor(const Control& c) {
@@ -51,18 +70,11 @@ TEST_P(RoundTrip, EveryFieldAndMarkComesBack) {
             written[c.key()] = markReadBack(formName, c);
         }
     }
-    const std::string path = (test.root / "round.trip").string();
-    std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
-
-    form->unload();
-    test.program->g.CurrentFileName = path;
-    EXPECT_EQ(Read_File(), formName);
-    Form* read = test.program->desktop.activeChild();
+    Form* read = saveAndReadBack(*form, "round.trip");
     ASSERT_NE(read, nullptr);
     ASSERT_EQ(read->name(), formName);
     for (const auto& [key, value] : written) {
-        const std::size_t open = key.find('(');
-        const Control& c = read->at(key.substr(0, open), std::stoi(key.substr(open + 1)));
+        const Control& c = controlAt(*read, key);
         EXPECT_EQ(c.isTextBox() ? c.text : c.caption, value) << formName << " " << key;
     }
     EXPECT_TRUE(test.ui.reports.empty()) << formName;
@@ -91,16 +103,10 @@ TEST_P(RoundTrip, AK1KeepsItsCodesAmountsAndMarks) {
             written[c.key()] = "X";
         }
     }
-    const std::string path = (test.root / "k1.trip").string();
-    std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
-    form->unload();
-    test.program->g.CurrentFileName = path;
-    EXPECT_EQ(Read_File(), formName);
-    Form* read = test.program->desktop.activeChild();
+    Form* read = saveAndReadBack(*form, "k1.trip");
     ASSERT_NE(read, nullptr);
     for (const auto& [key, value] : written) {
-        const std::size_t open = key.find('(');
-        const Control& c = read->at(key.substr(0, open), std::stoi(key.substr(open + 1)));
+        const Control& c = controlAt(*read, key);
         EXPECT_EQ(c.isTextBox() ? c.text : c.caption, value) << formName << " " << key;
         if (c.isTextBox()) EXPECT_EQ(c.tag, tags[key]) << formName << " " << key;
     }
@@ -128,13 +134,7 @@ namespace {
 // The mortgage, tuition and health coverage forms with values as their edits leave them, a total that
 // does not match its months included: the file gives back exactly what was saved, and opening it works
 // nothing out again.
-struct TypedRoundTrip : ::testing::TestWithParam<std::string> {
-    testing::TestProgram test;
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-    }
-};
+struct TypedRoundTrip : StartedProgram {};
 
 std::string typedValueFor(const Control& c) {
     const std::string tag = c.tag;
@@ -167,13 +167,7 @@ TEST_P(TypedRoundTrip, EveryTypedValueComesBackUnchanged) {
             written[c.key()] = markReadBack(formName, c);
         }
     }
-    const std::string path = (test.root / "typed.trip").string();
-    std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
-
-    form->unload();
-    test.program->g.CurrentFileName = path;
-    EXPECT_EQ(Read_File(), formName);
-    Form* read = test.program->desktop.activeChild();
+    Form* read = saveAndReadBack(*form, "typed.trip");
     ASSERT_NE(read, nullptr);
     ASSERT_EQ(read->name(), formName);
     for (const auto& owned : read->controls()) {

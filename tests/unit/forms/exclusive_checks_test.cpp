@@ -3,8 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/register_forms.h"
-#include "test_program.h"
+#include "opened_form.h"
 
 namespace lw {
 namespace {
@@ -15,10 +14,7 @@ struct ExclusiveChecks : ::testing::TestWithParam<std::pair<const char*, std::ve
     Form* form = nullptr;
 
     void SetUp() override {
-        registerAllForms();
-        test.start();
-        test.program->desktop.chooseMenu(GetParam().first);
-        form = test.program->desktop.activeChild();
+        form = testing::openFromMenu(test, GetParam().first);
         ASSERT_NE(form, nullptr);
     }
     const std::vector<int>& group() const { return GetParam().second; }

@@ -4,36 +4,16 @@
 
 #include <stdexcept>
 
-#include "forms/register_forms.h"
 #include "model/app_error.h"
 #include "model/keys.h"
-#include "test_program.h"
+#include "opened_form.h"
 
 namespace lw {
 namespace {
 
 // The 1095-A opened from its menu item; the operator types into the monthly amounts of Part III.
-struct Form1095ATotals : ::testing::Test {
-    testing::TestProgram test;
-    TF_1095A* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnu1095A");
-        form = dynamic_cast<TF_1095A*>(desktop().activeChild());
-        ASSERT_NE(form, nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& field(int i) { return form->at("Text1", i); }
-    Control* focus() { return desktop().focus(); }
-    void typeInto(int i, const std::string& text) {
-        desktop().setFocus(field(i));
-        ASSERT_EQ(focus(), &field(i));
-        for (char ch : text) desktop().typeCharacter(ch);
-    }
-    void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
-    void f12() { desktop().pressKey(keys::kF12, 0, 0); }
+struct Form1095ATotals : testing::OpenedForm<TF_1095A> {
+    Form1095ATotals() : OpenedForm("mnu1095A", "TF_1095A") {}
 };
 
 TEST_F(Form1095ATotals, TheColumnsAreTheMonthsOfPartThree) {

@@ -4,28 +4,16 @@
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
 #include "forms/form_1095bc.h"
-#include "forms/register_forms.h"
 #include "model/keys.h"
-#include "test_program.h"
+#include "opened_form.h"
 
 namespace lw {
 namespace {
 
 // The field kinds of the 1095-C as the form gives them: the code rows of lines 14 and 16, the amounts of
 // line 15 without a dollar sign, and the ZIP codes of line 17.
-struct Form1095CKinds : ::testing::Test {
-    testing::TestProgram test;
-    Form* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnu1095C");
-        form = desktop().activeChild();
-        ASSERT_NE(dynamic_cast<EnterMovesOnForm*>(form), nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& field(int i) { return form->at("Text1", i); }
+struct Form1095CKinds : testing::OpenedForm<EnterMovesOnForm> {
+    Form1095CKinds() : OpenedForm("mnu1095C", "TF_1095C") {}
     int filtered(int i, int key) {
         Key_Press(field(i), key);
         return key;

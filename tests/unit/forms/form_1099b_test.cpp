@@ -1,33 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "forms/form_1099b.h"
-#include "forms/register_forms.h"
 #include "model/keys.h"
-#include "test_program.h"
+#include "opened_form.h"
 
 namespace lw {
 namespace {
 
 // The 1099-B opened from its menu item: its contract boxes are outside the training.
-struct Form1099B : ::testing::Test {
-    testing::TestProgram test;
-    Form* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnu1099B");
-        form = desktop().activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), "TF_1099B");
-        ASSERT_NE(dynamic_cast<TF_1099B*>(form), nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& field(int i) { return form->at("Text1", i); }
-    Control* focus() { return desktop().focus(); }
-    void tab(bool backwards = false) {
-        desktop().pressKey(keys::kTab, backwards ? keys::kShiftMask : 0, keys::kTab);
-    }
+struct Form1099B : testing::OpenedForm<TF_1099B> {
+    Form1099B() : OpenedForm("mnu1099B", "TF_1099B") {}
 };
 
 TEST_F(Form1099B, TheContractBoxesSayTheyAreOutOfScope) {

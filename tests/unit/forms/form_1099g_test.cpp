@@ -1,37 +1,16 @@
 #include <gtest/gtest.h>
 
 #include "forms/form_1099g.h"
-#include "forms/register_forms.h"
 #include "model/keys.h"
-#include "test_program.h"
+#include "opened_form.h"
 
 namespace lw {
 namespace {
 
 // The 1099-G opened from its menu item, with the operator's typing and moves.
-struct Form1099GYearBox : ::testing::Test {
-    testing::TestProgram test;
-    Form* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnu1099G");
-        form = desktop().activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), "TF_1099G");
-        ASSERT_NE(dynamic_cast<TF_1099G*>(form), nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& field(int i) { return form->at("Text1", i); }
+struct Form1099GYearBox : testing::OpenedForm<TF_1099G> {
+    Form1099GYearBox() : OpenedForm("mnu1099G", "TF_1099G") {}
     Control& yearBox() { return field(5); }
-    Control* focus() { return desktop().focus(); }
-    void typeInto(Control& c, const std::string& text) {
-        desktop().setFocus(c);
-        ASSERT_EQ(focus(), &c);
-        for (char ch : text) desktop().typeCharacter(ch);
-    }
-    void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
 };
 
 TEST_F(Form1099GYearBox, IsBox3WithItsTypeAndLength) {

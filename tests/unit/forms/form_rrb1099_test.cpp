@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "benefit_form_fixture.h"
 #include "diagnostics/message_box.h"
-#include "forms/register_forms.h"
 #include "model/keys.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
@@ -14,32 +13,8 @@ const std::string kMessageHead = "Message Number: 801\r\nSSA1099 - Error in Soci
 const std::string kMessageTail = "\r\nMake corrections before continuing.";
 
 // The RRB-1099 opened from its menu item on 10 June 2025, whose Part B premium is 2220.00.
-struct RrbForm : ::testing::Test {
-    testing::TestProgram test;
-    TF_RRB1099* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnuRRB1099");
-        form = dynamic_cast<TF_RRB1099*>(desktop().activeChild());
-        ASSERT_NE(form, nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& box(int i) { return form->at("Text1", i); }
-    Control* focus() { return desktop().focus(); }
-    void typeInto(int i, const std::string& text) {
-        desktop().setFocus(box(i));
-        ASSERT_EQ(focus(), &box(i));
-        for (char ch : text) desktop().typeCharacter(ch);
-    }
-    void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
-    // The premium of the year takes part in the second test: most tests start without it.
-    void withoutPremium() {
-        desktop().setFocus(box(12));
-        desktop().pressKey(keys::kDelete, 0, 0);
-        ASSERT_EQ(box(12).text, "");
-    }
+struct RrbForm : testing::BenefitForm<TF_RRB1099> {
+    RrbForm() : BenefitForm("mnuRRB1099", "TF_RRB1099", 12) {}
 };
 
 TEST_F(RrbForm, LoadsWithThePremiumAndComputesNothing) {

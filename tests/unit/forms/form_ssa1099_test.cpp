@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "benefit_form_fixture.h"
 #include "diagnostics/message_box.h"
-#include "forms/register_forms.h"
 #include "model/keys.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
@@ -17,32 +16,8 @@ const char* const kNetBenefitsMessage =
     "Make corrections before continuing.";
 
 // The SSA-1099 opened from its menu item on 10 June 2025, whose Part B premium is 2220.00.
-struct SsaForm : ::testing::Test {
-    testing::TestProgram test;
-    TF_SSA1099* form = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnuSSA1099");
-        form = dynamic_cast<TF_SSA1099*>(desktop().activeChild());
-        ASSERT_NE(form, nullptr);
-    }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& box(int i) { return form->at("Text1", i); }
-    Control* focus() { return desktop().focus(); }
-    void typeInto(int i, const std::string& text) {
-        desktop().setFocus(box(i));
-        ASSERT_EQ(focus(), &box(i));
-        for (char ch : text) desktop().typeCharacter(ch);
-    }
-    void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
-    // The premium of the year would take part in every sum: most tests start without it.
-    void withoutPremium() {
-        desktop().setFocus(box(6));
-        desktop().pressKey(keys::kDelete, 0, 0);
-        ASSERT_EQ(box(6).text, "");
-    }
+struct SsaForm : testing::BenefitForm<TF_SSA1099> {
+    SsaForm() : BenefitForm("mnuSSA1099", "TF_SSA1099", 6) {}
 };
 
 TEST_F(SsaForm, OpensWithThePremiumOfTheYearAndNothingComputed) {

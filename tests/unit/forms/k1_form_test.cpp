@@ -6,22 +6,17 @@
 
 #include <fstream>
 
-#include "forms/register_forms.h"
 #include "model/containers.h"
 #include "model/keys.h"
+#include "opened_form.h"
 #include "shell/form_lifecycle.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
 
-struct K1Forms : ::testing::Test {
-    testing::TestProgram test;
-    Form* form = nullptr;
-
+struct K1Forms : testing::FormUnderTest<> {
     void SetUp() override {
-        registerAllForms();
-        test.start();
+        FormUnderTest::SetUp();
         test.program->g.K1HelpInfFile = (test.root / "K1Help.inf").string();
         std::ofstream(test.program->g.K1HelpInfFile, std::ios::binary)
             << "[K1-1065-Box11]\r\nA|Other portfolio income|\r\n"
@@ -34,7 +29,6 @@ struct K1Forms : ::testing::Test {
         form = Form_Open(name);
         ASSERT_NE(form, nullptr) << name;
     }
-    Desktop& desktop() { return test.program->desktop; }
     Control& field(const char* name, int i) { return form->at(name, i); }
     // A key pressed in a field: the list it opens, if any, is cancelled.
     std::size_t listsAfterKey(Control& code, int keyCode, int keyAscii = 0) {

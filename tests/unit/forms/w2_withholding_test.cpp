@@ -1,31 +1,23 @@
 #include <gtest/gtest.h>
 
-#include "forms/register_forms.h"
 #include "forms/w2_form.h"
 #include "model/app_error.h"
 #include "model/keys.h"
+#include "opened_form.h"
 #include "shell/form_lifecycle.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
 
 // The W-2 opened from its menu item, with the figures of the worked example: 6.2% up to a wage base of
 // 168,600, Medicare 1.45% up to 200,000 and 2.35% above it.
-struct W2Withholding : ::testing::Test {
-    testing::TestProgram test;
-    Form* form = nullptr;
+struct W2Withholding : testing::OpenedForm<TF_W2> {
+    W2Withholding() : OpenedForm("mnuW2", "TF_W2") {}
 
     void SetUp() override { open(); }
 
     void open() {
-        registerAllForms();
-        test.start();
-        desktop().chooseMenu("mnuW2");
-        form = desktop().activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), "TF_W2");
-        ASSERT_NE(dynamic_cast<TF_W2*>(form), nullptr);
+        ASSERT_NO_FATAL_FAILURE(OpenedForm::open());
         Globals& g = test.program->g;
         g.SSRate = "6.2";
         g.SSMax = "168,600";
@@ -34,20 +26,11 @@ struct W2Withholding : ::testing::Test {
         g.MCRateAfter = "2.35";
     }
     Globals& g() { return test.program->g; }
-    Desktop& desktop() { return test.program->desktop; }
-    Control& box(int i) { return form->at("Text1", i); }
+    Control& box(int i) { return field(i); }
     Control& ssWages() { return box(5); }
     Control& ssTax() { return box(6); }
     Control& mcWages() { return box(7); }
     Control& mcTax() { return box(8); }
-    Control* focus() { return desktop().focus(); }
-    // A click into the field, then the text typed over its selected contents.
-    void typeInto(Control& c, const std::string& text) {
-        desktop().setFocus(c);
-        ASSERT_EQ(focus(), &c);
-        for (char ch : text) desktop().typeCharacter(ch);
-    }
-    void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
     std::string ssTaxOf(const std::string& wages) {
         typeInto(ssWages(), wages);
         tab();

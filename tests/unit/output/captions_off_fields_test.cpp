@@ -7,12 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/catalogue_table.h"
-#include "catalogue/definitions.h"
-#include "forms/register_forms.h"
+#include "drawn_forms.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "test_program.h"
 #include "ui/form_painter.h"
 
 namespace lw {
@@ -20,37 +17,12 @@ namespace {
 
 const auto* const kQt = testing::addQtOffscreen();
 
-std::vector<std::string> drawnForms() {
-    std::vector<std::string> names;
-    for (const CatalogueEntry& entry : catalogue())
-        if (hasDefinition(entry.form) && std::string(entry.menuItem).rfind("mnu", 0) == 0 &&
-            std::string(entry.form).rfind("TF_", 0) == 0)
-            names.push_back(entry.form);
-    return names;
-}
-
 bool isField(const Control& c) {
     return isShown(c) && (c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox ||
                           c.kind == ControlKind::CheckLabel);
 }
 
-class CaptionsOffFields : public ::testing::TestWithParam<std::string> {
-protected:
-    void SetUp() override {
-        test.program.reset();
-        test.program = std::make_unique<Program>(test.ui, test.platform);
-        registerAllForms();
-        test.start();
-        for (const CatalogueEntry& entry : catalogue())
-            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
-        form = test.program->desktop.activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), GetParam());
-    }
-
-    testing::TestProgram test;
-    Form* form = nullptr;
-};
+class CaptionsOffFields : public testing::EachDrawnForm {};
 
 TEST_P(CaptionsOffFields, NoCaptionRunsOntoAFieldOrAcrossALine) {
     // A form on two tabs is looked at with each of its halves on show.
@@ -94,7 +66,7 @@ TEST_P(CaptionsOffFields, NoCaptionRunsOntoAFieldOrAcrossALine) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DrawnForms, CaptionsOffFields, ::testing::ValuesIn(drawnForms()),
+INSTANTIATE_TEST_SUITE_P(DrawnForms, CaptionsOffFields, ::testing::ValuesIn(testing::drawnForms()),
                          [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
 
 }  // namespace

@@ -5,12 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/catalogue_table.h"
-#include "catalogue/definitions.h"
-#include "forms/register_forms.h"
+#include "drawn_forms.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "test_program.h"
 #include "ui/clipboard_picture.h"
 #include "ui/form_painter.h"
 
@@ -90,33 +87,12 @@ int cutHeight(const Form& form) {
     return form.height;
 }
 
-std::vector<std::string> drawnForms() {
-    std::vector<std::string> names;
-    for (const CatalogueEntry& entry : catalogue())
-        if (hasDefinition(entry.form) && std::string(entry.menuItem).rfind("mnu", 0) == 0 &&
-            std::string(entry.form).rfind("TF_", 0) == 0)
-            names.push_back(entry.form);
-    return names;
-}
-
-class ClipEachForm : public ::testing::TestWithParam<std::string> {
+class ClipEachForm : public testing::EachDrawnForm {
 protected:
-    void SetUp() override {
-        test.program.reset();
-        test.program = std::make_unique<Program>(ui, test.platform);
-        registerAllForms();
-        test.start();
-        for (const CatalogueEntry& entry : catalogue())
-            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
-        form = test.program->desktop.activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), GetParam());
-    }
+    void SetUp() override { open(ui); }
     Desktop& desktop() { return test.program->desktop; }
 
-    testing::TestProgram test;
     PictureUi ui;
-    Form* form = nullptr;
 };
 
 TEST_P(ClipEachForm, ThePictureIsTheDocumentCutToItsBorderAndTheFormComesBackAsItWas) {
@@ -178,7 +154,7 @@ TEST_P(ClipEachForm, AK1OnItsSecondTabClipsTheBottomHalfAndGetsItsTabStripBack) 
     EXPECT_TRUE(ui.reports.empty()) << ui.reports.front();
 }
 
-INSTANTIATE_TEST_SUITE_P(DrawnForms, ClipEachForm, ::testing::ValuesIn(drawnForms()),
+INSTANTIATE_TEST_SUITE_P(DrawnForms, ClipEachForm, ::testing::ValuesIn(testing::drawnForms()),
                          [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
 
 }  // namespace

@@ -13,12 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/catalogue_table.h"
-#include "catalogue/definitions.h"
-#include "forms/register_forms.h"
+#include "drawn_forms.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "test_program.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
 #include "ui/qt_text.h"
@@ -43,32 +40,15 @@ std::string joined(const std::vector<std::string>& lines) {
     return block;
 }
 
-std::vector<std::string> drawnForms() {
-    std::vector<std::string> names;
-    for (const CatalogueEntry& entry : catalogue())
-        if (hasDefinition(entry.form) && std::string(entry.menuItem).rfind("mnu", 0) == 0 &&
-            std::string(entry.form).rfind("TF_", 0) == 0)
-            names.push_back(entry.form);
-    return names;
-}
-
 bool isNameBlock(const Control& c) {
     return c.kind == ControlKind::TextBox && c.multiLine && c.visible &&
            (c.tag == "ISSUER" || c.tag == "TPNAME");
 }
 
-class NameBlocks : public ::testing::TestWithParam<std::string> {
+class NameBlocks : public testing::EachDrawnForm {
 protected:
     void SetUp() override {
-        test.program.reset();
-        test.program = std::make_unique<Program>(test.ui, test.platform);
-        registerAllForms();
-        test.start();
-        for (const CatalogueEntry& entry : catalogue())
-            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
-        form = test.program->desktop.activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), GetParam());
+        ASSERT_NO_FATAL_FAILURE(EachDrawnForm::SetUp());
         for (const auto& c : form->controls())
             if (isNameBlock(*c)) blocks.push_back(c.get());
     }
@@ -87,8 +67,6 @@ protected:
         return lines;
     }
 
-    testing::TestProgram test;
-    Form* form = nullptr;
     std::vector<Control*> blocks;
 };
 
@@ -167,7 +145,7 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DrawnForms, NameBlocks, ::testing::ValuesIn(drawnForms()),
+INSTANTIATE_TEST_SUITE_P(DrawnForms, NameBlocks, ::testing::ValuesIn(testing::drawnForms()),
                          [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
 
 }  // namespace

@@ -1,52 +1,42 @@
 // The sheet's ages and its copy into the store, on the sheet opened from its menu item.
 #include <gtest/gtest.h>
 
-#include "forms/register_forms.h"
 #include "forms/tpinfo_form.h"
 #include "model/app_error.h"
+#include "opened_form.h"
 #include "shell/startup.h"
 #include "taxpayer/load_tp.h"
 #include "taxpayer/tpinfo_sheet.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
 
-struct TaxpayerSheet : ::testing::Test {
-    testing::TestProgram test;
-    Form* sheet = nullptr;
-
-    void SetUp() override {
-        registerAllForms();
-        test.start();
-        test.program->desktop.chooseMenu("mnuIDFormsTP");
-        sheet = test.program->desktop.activeChild();
-        ASSERT_NE(dynamic_cast<F5_TPInfo*>(sheet), nullptr);
-    }
+struct TaxpayerSheet : testing::OpenedForm<F5_TPInfo> {
+    TaxpayerSheet() : OpenedForm("mnuIDFormsTP", "F5_TPInfo") {}
     Globals& g() { return test.program->g; }
-    Control& status() { return sheet->at("labelMisc"); }
+    Control& status() { return form->at("labelMisc"); }
 };
 
 TEST_F(TaxpayerSheet, AgesCountTheCalendarYearsAlone) {
-    EXPECT_EQ(Age_At_YearEnd(*sheet, "12/31/2000"), "25");
-    EXPECT_EQ(Age_At_YearEnd(*sheet, "01/01/2000"), "25");
+    EXPECT_EQ(Age_At_YearEnd(*form, "12/31/2000"), "25");
+    EXPECT_EQ(Age_At_YearEnd(*form, "01/01/2000"), "25");
     EXPECT_NE(status().caption, "One or more date(s) are invalid");
 }
 
 TEST_F(TaxpayerSheet, ABirthAfterTheTaxYearGivesANegativeAgeAndARedMessage) {
-    EXPECT_EQ(Age_At_YearEnd(*sheet, "03/15/2030"), "-5");
+    EXPECT_EQ(Age_At_YearEnd(*form, "03/15/2030"), "-5");
     EXPECT_EQ(status().caption, "One or more date(s) are invalid");
     EXPECT_EQ(status().foreColor, kRed);
 }
 
 TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
     g().TaxYearIndex = 3;
-    EXPECT_EQ(Age_At_YearEnd(*sheet, "03/15/1980"), "N/A");
+    EXPECT_EQ(Age_At_YearEnd(*form, "03/15/1980"), "N/A");
 }
 
 TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
     try {
-        Age_At_YearEnd(*sheet, "02/30/1980");
+        Age_At_YearEnd(*form, "02/30/1980");
         FAIL() << "no fault";
     } catch (const AppError& e) {
         EXPECT_EQ(e.number(), err::kTypeMismatch);
@@ -54,18 +44,18 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 }
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
-    sheet->at("Text2", 0).text = "41";
-    UpdateAge(*sheet, "2", "0");
-    EXPECT_EQ(sheet->at("Text2", 0).text, "41");
-    sheet->at("Text1", 2).text = "05/05/20XX";
-    UpdateAge(*sheet, "2", "0");
-    EXPECT_EQ(sheet->at("Text2", 0).text, "N/A");
+    form->at("Text2", 0).text = "41";
+    UpdateAge(*form, "2", "0");
+    EXPECT_EQ(form->at("Text2", 0).text, "41");
+    form->at("Text1", 2).text = "05/05/20XX";
+    UpdateAge(*form, "2", "0");
+    EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
 TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFields) {
     g().FormRecord = "TPINFO\xB7" "2025\xB7TXT0=ANN LEE\xBB" "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
-    sheet->at("Text1", 6).text = "KIM LEE";
-    sheet->at("Text1", 11).text = "222-33-4444";
+    form->at("Text1", 6).text = "KIM LEE";
+    form->at("Text1", 11).text = "222-33-4444";
     TPInfo_Save();
     EXPECT_EQ(readUserInf("TP1NameAddr"), "ANN LEE\xBB" "1 MAIN ST");
     EXPECT_EQ(readUserInf("TP1SSN"), "123-45-6789");
