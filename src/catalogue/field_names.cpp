@@ -45,10 +45,18 @@ std::string boxOf(const std::string& caption, std::size_t& rest) {
     return box;
 }
 
+// A label with words of its own, not a lone "$"; asked of every label for every field, so it reads the
+// caption in place rather than flattening it.
 bool isCaptionLabel(const Control& c) {
     if (c.kind != ControlKind::Label || !c.visible) return false;
-    const std::string text = flattened(c.caption);
-    if (text.empty() || text == "$") return false;
+    std::size_t shown = 0;
+    bool loneDollar = false;
+    for (char ch : c.caption) {
+        if (ch == '\r' || ch == '\n' || ch == '|' || ch == '\t' || ch == ' ' || ch == '&') continue;
+        loneDollar = ++shown == 1 && ch == '$';
+        if (shown > 1) break;
+    }
+    if (shown == 0 || (shown == 1 && loneDollar)) return false;
     return !text::equalsNoCase(c.name, "labelMisc") && !text::equalsNoCase(c.name, "TaxYear");
 }
 
