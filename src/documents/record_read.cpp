@@ -213,6 +213,12 @@ std::string Read_File() {
     // From the second key field on, a fault reaches the caller's handler.
     for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
     Form_Recheck_Dates();
+    // The recheck's date edits clear the status line as they pass: unless one of them refused its date
+    // and said so there, the operator reads the path of the file just opened.
+    if (Control* status = form->find("labelMisc"); status && status->caption.empty()) {
+        status->foreColor = kRed;
+        status->caption = g().CurrentFileName;
+    }
     if (form->name() == "F5_TPInfo") refreshTaxpayerStore(*form);
     if (form->name() == "F2_SS_ITIN") showCardPictures(*form);
     return g().FormTitle;
