@@ -4,8 +4,8 @@
 #include "fields/key_press.h"
 #include "model/keys.h"
 #include "model/program.h"
-#include "shell/form_registry.h"
 #include "shell/form_lifecycle.h"
+#include "shell/form_registry.h"
 #include "shell/paths.h"
 #include "text/case.h"
 #include "text/masks.h"
@@ -27,7 +27,9 @@ void F2_SS_ITIN::onLoad() {
     Form_Common_Init(*this);
     Control& status = at("labelMisc");
     status.foreColor = kRed;
-    status.caption = "Press Load TP1 or Load TP2 button to create SS/ITIN cards for all persons entered on the TPInfo form";
+    status.caption =
+        "Press Load TP1 or Load TP2 button to create SS/ITIN cards for all persons entered on the TPInfo "
+        "form";
 }
 
 void F2_SS_ITIN::refuse(int& KeyAscii, const std::string& message) {

@@ -50,8 +50,10 @@ void F3_DL::fillAfterLeaving(Control& ctl, bool& Cancel) {
     switch (ctl.index) {
         case 0:
             // The first license must have a name; the field is simply kept, with no word.
-            if (ctl.text.empty()) Cancel = true;
-            else field(2).text = program().platform.now().toStampText();
+            if (ctl.text.empty())
+                Cancel = true;
+            else
+                field(2).text = program().platform.now().toStampText();
             break;
         case 1:
             DL_FillDates("1", ctl.text, field(8), field(3));

@@ -1,12 +1,12 @@
 #include "forms/tpinfo_form.h"
 
+#include "diagnostics/error_tail.h"
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
 #include "model/keys.h"
 #include "model/program.h"
 #include "shell/form_registry.h"
 #include "taxpayer/tpinfo_sheet.h"
-#include "diagnostics/error_tail.h"
 #include "text/pieces.h"
 
 namespace lw {
@@ -18,12 +18,16 @@ constexpr const char* kDateFields = "2,5,8,12,16,20,24,28,32";
 
 // How the sheet feeds the other forms, a line of the instructions each.
 constexpr const char* kInstructions[] = {
-    "Use this form to enter and save data about the Taxpayers, Dependents and Other Persons. ONLY enter SSN/ITIN ",
-    "for TAXPAYERS and DEPENDENTS. Once this data has been entered, you can copy the following information into "
+    "Use this form to enter and save data about the Taxpayers, Dependents and Other Persons. ONLY enter "
+    "SSN/ITIN ",
+    "for TAXPAYERS and DEPENDENTS. Once this data has been entered, you can copy the following information "
+    "into "
     "the form you are working on by pressing the appropriate button:",
-    " Press the [Load TP 1] button to copy Taxpayer's Name, Address, Social Security Number, and Date of Birth",
+    " Press the [Load TP 1] button to copy Taxpayer's Name, Address, Social Security Number, and Date of "
+    "Birth",
     " Press the [Load TP 2] button to copy Spouse's Name, Address, Social Security Number, and Date of Birth",
-    " On the SS/ITIN form, pressing [Load TP 1] or [Load TP 2] causes all SS/ITIN cards to be created for all",
+    " On the SS/ITIN form, pressing [Load TP 1] or [Load TP 2] causes all SS/ITIN cards to be created for "
+    "all",
     "     persons on the TPInfo form that have SSN or ITIN Numbers.",
 };
 

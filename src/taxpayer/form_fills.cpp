@@ -1,10 +1,9 @@
 // The forms whose fields do not take the general fill: each writes fixed fields from the person of the
 // button (A) or the other (B), and an empty source empties its target.
-#include "taxpayer/load_tp.h"
-
 #include <initializer_list>
 
 #include "model/form.h"
+#include "taxpayer/load_tp.h"
 
 namespace lw {
 
@@ -19,7 +18,8 @@ struct Fill {
 };
 
 void fillAll(Form& form, const TPInfoRec& A, const TPInfoRec& B, std::initializer_list<Fill> fills) {
-    for (const Fill& fill : fills) form.at("Text1", fill.index).text = (fill.from == Person::A ? A : B).*fill.part;
+    for (const Fill& fill : fills)
+        form.at("Text1", fill.index).text = (fill.from == Person::A ? A : B).*fill.part;
 }
 
 constexpr Person kA = Person::A;
@@ -30,11 +30,20 @@ constexpr Person kB = Person::B;
 // Both persons twice: as recipient and spouse, then again among the covered individuals.
 void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
-            {{3, kA, &TPInfoRec::Name},     {4, kA, &TPInfoRec::SSN},           {5, kA, &TPInfoRec::DOB},
-             {6, kB, &TPInfoRec::Name},     {7, kB, &TPInfoRec::SSN},           {8, kB, &TPInfoRec::DOB},
-             {11, kA, &TPInfoRec::Street},  {12, kA, &TPInfoRec::CityStateZip}, {13, kA, &TPInfoRec::Name},
-             {14, kA, &TPInfoRec::SSN},     {15, kA, &TPInfoRec::DOB},          {18, kB, &TPInfoRec::Name},
-             {19, kB, &TPInfoRec::SSN},     {20, kB, &TPInfoRec::DOB}});
+            {{3, kA, &TPInfoRec::Name},
+             {4, kA, &TPInfoRec::SSN},
+             {5, kA, &TPInfoRec::DOB},
+             {6, kB, &TPInfoRec::Name},
+             {7, kB, &TPInfoRec::SSN},
+             {8, kB, &TPInfoRec::DOB},
+             {11, kA, &TPInfoRec::Street},
+             {12, kA, &TPInfoRec::CityStateZip},
+             {13, kA, &TPInfoRec::Name},
+             {14, kA, &TPInfoRec::SSN},
+             {15, kA, &TPInfoRec::DOB},
+             {18, kB, &TPInfoRec::Name},
+             {19, kB, &TPInfoRec::SSN},
+             {20, kB, &TPInfoRec::DOB}});
 }
 
 void TPInfo_Process_1095B(Form& form, const TPInfoRec& A) {
@@ -48,19 +57,24 @@ void TPInfo_Process_1095B(Form& form, const TPInfoRec& A) {
 
 void TPInfo_Process_1095C(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
-            {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {4, kA, &TPInfoRec::Street},
+            {{0, kA, &TPInfoRec::Name},
+             {1, kA, &TPInfoRec::SSN},
+             {4, kA, &TPInfoRec::Street},
              {7, kA, &TPInfoRec::CityStateZip}});
 }
 
 void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
-            {{0, kA, &TPInfoRec::NameAddr}, {1, kA, &TPInfoRec::DOB}, {4, kB, &TPInfoRec::NameAddr},
+            {{0, kA, &TPInfoRec::NameAddr},
+             {1, kA, &TPInfoRec::DOB},
+             {4, kB, &TPInfoRec::NameAddr},
              {5, kB, &TPInfoRec::DOB}});
 }
 
 // The claim number of the lower statement is the number with the beneficiary's letter A.
 void TPInfo_Process_SSA1099(Form& form, const TPInfoRec& A) {
-    fillAll(form, A, A, {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {14, kA, &TPInfoRec::NameAddr}});
+    fillAll(form, A, A,
+            {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {14, kA, &TPInfoRec::NameAddr}});
     form.at("Text1", 15).text = A.SSN + "A";
 }
 

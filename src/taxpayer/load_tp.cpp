@@ -113,7 +113,8 @@ void TPInfo_Read(const std::string& Who) {
             form->at("Text1", 15).text = form->at("Text1", 2).text;
             form->at("Text1", 16).text = form->at("Text1", 3).text;
         } else {
-            if (prefix == "K11041" || prefix == "K11120S" || prefix == "K11065") showOtherHalfAWhile(*form, prefix);
+            if (prefix == "K11041" || prefix == "K11120S" || prefix == "K11065")
+                showOtherHalfAWhile(*form, prefix);
             TPInfo_Focus_After();
         }
         program().ui.refresh();

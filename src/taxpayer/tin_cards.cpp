@@ -35,15 +35,20 @@ std::string firstLine(const std::string& block) {
 
 StoredCase readStoredCase() {
     StoredCase found;
-    for (const std::string& entry : store::ReadINFSection(g().UserNameUC, g().UserInfFile, store::kInfValueBuffer)) {
+    for (const std::string& entry :
+         store::ReadINFSection(g().UserNameUC, g().UserInfFile, store::kInfValueBuffer)) {
         const std::size_t eq = entry.find('=');
         if (entry.empty() || eq == std::string::npos) continue;
         const std::string key = text::toLower(entry.substr(0, eq));
         const std::string value = entry.substr(eq + 1);
-        if (key == "tp1nameaddr") found.tp[0].name = firstLine(value);
-        else if (key == "tp2nameaddr") found.tp[1].name = firstLine(value);
-        else if (key == "tp1ssn" || key == "tp1tin") found.tp[0].number = value;
-        else if (key == "tp2ssn" || key == "tp2tin") found.tp[1].number = value;
+        if (key == "tp1nameaddr")
+            found.tp[0].name = firstLine(value);
+        else if (key == "tp2nameaddr")
+            found.tp[1].name = firstLine(value);
+        else if (key == "tp1ssn" || key == "tp1tin")
+            found.tp[0].number = value;
+        else if (key == "tp2ssn" || key == "tp2tin")
+            found.tp[1].number = value;
         else if (key.size() == 10 && key.compare(0, 9, "dependent") == 0 && key[9] >= '1' && key[9] <= '7')
             found.dependents[static_cast<std::size_t>(key[9] - '1')] = value;
     }
@@ -95,7 +100,8 @@ void TPInfo_Process_TIN_Cards(Form& form, int Who) {
         for (int n = 0; n <= 16; n += 2) {
             const std::string& number = form.at("Text1", n).text;
             if (number.empty()) continue;
-            if (number[0] == '9') form.at("Image1", n / 2).picture = joinPath(g().PicturesFolder, "ITIN.jpg");
+            if (number[0] == '9')
+                form.at("Image1", n / 2).picture = joinPath(g().PicturesFolder, "ITIN.jpg");
             else if (number[0] >= '1' && number[0] <= '8')
                 form.at("Image1", n / 2).picture = joinPath(g().PicturesFolder, "SSN.jpg");
         }

@@ -10,7 +10,8 @@ namespace lw {
 
 namespace {
 
-std::string joined(const std::vector<std::string>& lines, std::size_t from, std::size_t to, const char* glue) {
+std::string joined(const std::vector<std::string>& lines, std::size_t from, std::size_t to,
+                   const char* glue) {
     std::string out;
     for (std::size_t i = from; i <= to; ++i) {
         if (i > from) out += glue;
@@ -24,7 +25,8 @@ std::string joined(const std::vector<std::string>& lines, std::size_t from, std:
 void TPInfo_Parse_NameAddr(TPInfoRec& Rec) {
     runGuarded("M6_TPInfo:TPInfo_Parse_NameAddr", [&] {
         if (Rec.NameAddr.empty()) return;
-        const std::vector<std::string> lines = text::split(Rec.NameAddr, std::string(1, text::kLineSeparator));
+        const std::vector<std::string> lines =
+            text::split(Rec.NameAddr, std::string(1, text::kLineSeparator));
         const std::size_t n = lines.size() - 1;
         Rec.Name = lines[0];
         if (n >= 1) Rec.Street = n == 1 ? lines[1] : joined(lines, 1, n - 1, " ");

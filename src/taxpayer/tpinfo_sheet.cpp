@@ -21,7 +21,9 @@ bool isYearDigits(const std::string& s) {
     return !s.empty() && s.size() <= 4 && s.find_first_not_of("0123456789") == std::string::npos;
 }
 
-bool endsIn20XX(const std::string& s) { return s.size() >= 4 && text::toUpper(s.substr(s.size() - 4)) == "20XX"; }
+bool endsIn20XX(const std::string& s) {
+    return s.size() >= 4 && text::toUpper(s.substr(s.size() - 4)) == "20XX";
+}
 
 }  // namespace
 
@@ -29,8 +31,8 @@ std::string Age_At_YearEnd(Form& form, const std::string& DOB) {
     const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
     if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
     const std::vector<std::string> parts = text::split(DOB, "/");
-    bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) && isYearDigits(parts[1]) &&
-                  isYearDigits(parts[2]);
+    bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) &&
+                  isYearDigits(parts[1]) && isYearDigits(parts[2]);
     const int born = isDate ? std::stoi(parts[2]) : 0;
     isDate = isDate && text::isCalendarDate(born, std::stoi(parts[0]), std::stoi(parts[1]));
     // A birth date that is no date cannot be aged, as the classic date conversion refuses it.
@@ -61,7 +63,8 @@ void UpdateAllAges(Form& sheet) {
 void TPInfo_Save() {
     runGuarded("M6_TPInfo:TPInfo_Save", [] {
         std::string fields[6];
-        const std::vector<std::string> pieces = text::split(g().FormRecord, std::string(1, text::kFieldSeparator));
+        const std::vector<std::string> pieces =
+            text::split(g().FormRecord, std::string(1, text::kFieldSeparator));
         for (std::size_t i = 2; i < pieces.size(); ++i) {
             const std::string head = text::toUpper(pieces[i].substr(0, 5));
             for (int k = 0; k < 6; ++k)

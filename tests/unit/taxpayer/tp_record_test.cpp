@@ -1,7 +1,7 @@
 // A stored block (lines joined by "»") cut into the parts that the forms fill.
-#include <gtest/gtest.h>
-
 #include "taxpayer/tp_record.h"
+
+#include <gtest/gtest.h>
 
 namespace lw {
 namespace {
@@ -14,7 +14,10 @@ TPInfoRec parsed(const std::string& stored) {
 }
 
 TEST(ParseNameAddr, AThreeLineBlockGivesNameStreetAndCity) {
-    const TPInfoRec rec = parsed("JOHN Q DOE JR\xBB" "12 MAIN ST\xBB" "ANYTOWN, OH 44000");
+    const TPInfoRec rec = parsed(
+        "JOHN Q DOE JR\xBB"
+        "12 MAIN ST\xBB"
+        "ANYTOWN, OH 44000");
     EXPECT_EQ(rec.Name, "JOHN Q DOE JR");
     EXPECT_EQ(rec.Street, "12 MAIN ST");
     EXPECT_EQ(rec.CityStateZip, "ANYTOWN, OH 44000");
@@ -23,7 +26,12 @@ TEST(ParseNameAddr, AThreeLineBlockGivesNameStreetAndCity) {
 }
 
 TEST(ParseNameAddr, AFiveLineBlockJoinsTheMiddleThreeLinesByBlanks) {
-    const TPInfoRec rec = parsed("ANN LEE\xBB" "C/O BOB LEE\xBB" "APT 4\xBB" "12 MAIN ST\xBB" "ANYTOWN, OH 44000");
+    const TPInfoRec rec = parsed(
+        "ANN LEE\xBB"
+        "C/O BOB LEE\xBB"
+        "APT 4\xBB"
+        "12 MAIN ST\xBB"
+        "ANYTOWN, OH 44000");
     EXPECT_EQ(rec.Name, "ANN LEE");
     EXPECT_EQ(rec.Street, "C/O BOB LEE APT 4 12 MAIN ST");
     EXPECT_EQ(rec.CityStateZip, "ANYTOWN, OH 44000");
@@ -32,7 +40,9 @@ TEST(ParseNameAddr, AFiveLineBlockJoinsTheMiddleThreeLinesByBlanks) {
 }
 
 TEST(ParseNameAddr, ATwoLineBlockHasAStreetAndNoCityLine) {
-    const TPInfoRec rec = parsed("ANN LEE\xBB" "ANYTOWN, OH 44000");
+    const TPInfoRec rec = parsed(
+        "ANN LEE\xBB"
+        "ANYTOWN, OH 44000");
     EXPECT_EQ(rec.Street, "ANYTOWN, OH 44000");
     EXPECT_EQ(rec.CityStateZip, "");
     EXPECT_EQ(rec.Address, "ANYTOWN, OH 44000");
@@ -57,7 +67,10 @@ TEST(ParseNameAddr, AnEmptyBlockLeavesTheOtherFieldsAsTheyWere) {
 
 TEST(ParseNameAddr, AHugeBlockIsCutWithoutFault) {
     std::string stored(10000, 'A');
-    stored += "\xBB" "1 MAIN ST\xBB" "TOWN";
+    stored +=
+        "\xBB"
+        "1 MAIN ST\xBB"
+        "TOWN";
     const TPInfoRec rec = parsed(stored);
     EXPECT_EQ(rec.Name.size(), 10000u);
     EXPECT_EQ(rec.Street, "1 MAIN ST");

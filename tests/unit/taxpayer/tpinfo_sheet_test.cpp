@@ -1,4 +1,6 @@
 // The sheet's ages and its copy into the store, on the sheet opened from its menu item.
+#include "taxpayer/tpinfo_sheet.h"
+
 #include <gtest/gtest.h>
 
 #include "forms/tpinfo_form.h"
@@ -6,7 +8,6 @@
 #include "opened_form.h"
 #include "shell/startup.h"
 #include "taxpayer/load_tp.h"
-#include "taxpayer/tpinfo_sheet.h"
 
 namespace lw {
 namespace {
@@ -53,16 +54,23 @@ TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
 }
 
 TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFields) {
-    g().FormRecord = "TPINFO\xB7" "2025\xB7TXT0=ANN LEE\xBB" "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
+    g().FormRecord =
+        "TPINFO\xB7"
+        "2025\xB7TXT0=ANN LEE\xBB"
+        "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
     form->at("Text1", 6).text = "KIM LEE";
     form->at("Text1", 11).text = "222-33-4444";
     TPInfo_Save();
-    EXPECT_EQ(readUserInf("TP1NameAddr"), "ANN LEE\xBB" "1 MAIN ST");
+    EXPECT_EQ(readUserInf("TP1NameAddr"),
+              "ANN LEE\xBB"
+              "1 MAIN ST");
     EXPECT_EQ(readUserInf("TP1SSN"), "123-45-6789");
     EXPECT_EQ(readUserInf("TP1DOB"), "");
     EXPECT_EQ(readUserInf("TP2DOB"), "07/04/1982");
     EXPECT_EQ(readUserInf("Dependent1"), "KIM LEE\xB7");
-    EXPECT_EQ(readUserInf("Dependent2"), "\xB7" "222-33-4444");
+    EXPECT_EQ(readUserInf("Dependent2"),
+              "\xB7"
+              "222-33-4444");
     EXPECT_EQ(readUserInf("Dependent3"), "");
 }
 
