@@ -64,13 +64,7 @@ bool isCaptionLabel(const Control& c) {
 int leftOf(const Control& c) { return formLeft(c); }
 int topOf(const Control& c) { return formTop(c); }
 
-// The page of a tab control that a control lies on, or -1: a caption names only a field of its own page.
-int pageOf(const Control& c) {
-    for (const Control* inner = &c; inner->container; inner = inner->container)
-        if (inner->container->kind == ControlKind::TabControl) return inner->page;
-    return -1;
-}
-
+// A caption names only a field of its own page of a tab control.
 bool overlapsAcross(const Control& a, const Control& b) {
     return pageOf(a) == pageOf(b) && leftOf(a) < leftOf(b) + b.width && leftOf(b) < leftOf(a) + a.width;
 }

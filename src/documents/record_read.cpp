@@ -25,7 +25,6 @@ constexpr const char* kReadLabel = "M4_FileCode:Read_File";
 constexpr int kNotARecord = 850;
 constexpr int kNoSuchForm = 851;
 constexpr int kFileAccessError = 75;
-constexpr int kPortraits = 16;  // P1GS.jpg to P16GS.jpg
 // A data file is one line of a few kilobytes; anything this large is something else.
 constexpr std::uintmax_t kLargestRecordFile = 1024 * 1024;
 constexpr Color kYellow = 65535;
@@ -100,8 +99,7 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
 void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
     const std::optional<int> read = store::classicInteger(value);
     const int number = read && *read >= 1 && *read <= kPortraits ? *read : 0;
-    form.at(pictureBox).picture =
-        number > 0 ? joinPath(g().PicturesFolder, "P" + std::to_string(number) + "GS.jpg") : std::string();
+    form.at(pictureBox).picture = number > 0 ? portraitFile(g().PicturesFolder, number) : std::string();
     if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = number;
 }
 

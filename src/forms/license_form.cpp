@@ -11,15 +11,12 @@
 
 namespace lw {
 
-std::string portraitFile(int number) {
-    return joinPath(program().g.PicturesFolder, "P" + std::to_string(number) + "GS.jpg");
-}
-
 F3_DL::F3_DL() : TaxForm("F3_DL") {}
 
 void F3_DL::onLoad() {
     TaxForm::onLoad();
-    for (Control* portrait : arrayOf("picDL")) portrait->picture = portraitFile(portrait->index + 1);
+    for (Control* portrait : arrayOf("picDL"))
+        portrait->picture = portraitFile(program().g.PicturesFolder, portrait->index + 1);
     program().g.DL_HolidayList = kFixedHolidays;
     DL_BuildHolidays();
 }

@@ -28,9 +28,6 @@ private:
     void fillAfterLeaving(Control& ctl, bool& Cancel);
 };
 
-// The file of portrait n (1 to 16) in the pictures folder.
-std::string portraitFile(int number);
-
 void registerLicenseForm();
 
 }  // namespace lw

@@ -33,6 +33,18 @@ bool isShown(const Control& c) {
     return true;
 }
 
+int pageOf(const Control& c) {
+    for (const Control* inner = &c; inner->container; inner = inner->container)
+        if (inner->container->kind == ControlKind::TabControl) return inner->page;
+    return -1;
+}
+
+Control* tabsOf(const Control& c) {
+    for (const Control* inner = &c; inner->container; inner = inner->container)
+        if (inner->container->kind == ControlKind::TabControl) return inner->container;
+    return nullptr;
+}
+
 int tabOf(const Control& tabs) { return tabs.listIndex < 0 ? 0 : tabs.listIndex; }
 
 bool setTab(Control& tabs, int tab) {

@@ -20,6 +20,11 @@ int originTop(const Control& c);
 // Visible stays as the logic set it: a field on a hidden page still takes the focus by Tab.
 bool isShown(const Control& c);
 
+// The page of a tab control that the control lies on, however deep in panels; -1 off any tab control.
+// tabsOf gives that tab control, or nullptr.
+int pageOf(const Control& c);
+Control* tabsOf(const Control& c);
+
 // The tab on show of a tab control, and the change of it; a tab outside the control's tabs is refused.
 int tabOf(const Control& tabs);
 bool setTab(Control& tabs, int tab);

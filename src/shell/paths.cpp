@@ -50,6 +50,10 @@ std::string fileFilter(const std::string& description, const std::string& patter
     return filter;
 }
 
+std::string portraitFile(const std::string& picturesFolder, int number) {
+    return joinPath(picturesFolder, "P" + std::to_string(number) + "GS.jpg");
+}
+
 std::string fileNamedNoCase(const std::string& folder, const std::string& name) {
     std::error_code ec;
     for (std::filesystem::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {

@@ -7,8 +7,8 @@
 namespace lw {
 
 struct Edition {
-    std::string name;             // "Venturo" or "OthAgcy"
-    std::string userInfFile;      // the user INF file of the edition
+    std::string name;         // "Venturo" or "OthAgcy"
+    std::string userInfFile;  // the user INF file of the edition
     std::string guideFile;
     std::string iconFile;
     std::string defaultFormsFolder;
@@ -21,9 +21,15 @@ struct Edition {
 std::string joinPath(const std::string& folder, const std::string& name);
 
 std::string infFilesFolder(const std::string& root);
-Edition venturoEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor);
-Edition othAgcyEdition(const std::string& root, const std::string& appFolder, const std::string& versionMajor);
+Edition venturoEdition(const std::string& root, const std::string& appFolder,
+                       const std::string& versionMajor);
+Edition othAgcyEdition(const std::string& root, const std::string& appFolder,
+                       const std::string& versionMajor);
 std::string fileFilter(const std::string& description, const std::string& pattern);
+
+// The sixteen license portraits: P1GS.jpg to P16GS.jpg in the pictures folder.
+constexpr int kPortraits = 16;
+std::string portraitFile(const std::string& picturesFolder, int number);
 
 // The file of `folder` whose name is `name` blind to case, as the classic file system finds it; the plain
 // join when none is there.

@@ -105,8 +105,7 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitThePrintedBlockAt100And200Percent)
 
 // A block on a page of a tab control is looked at with its page on show, as the operator sees it.
 void showPageOf(const Control& c) {
-    for (const Control* inner = &c; inner->container; inner = inner->container)
-        if (inner->container->kind == ControlKind::TabControl) setTab(*inner->container, inner->page);
+    if (Control* tabs = tabsOf(c)) setTab(*tabs, pageOf(c));
 }
 
 TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitTheFieldOnTheScreen) {
