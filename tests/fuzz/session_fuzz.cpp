@@ -217,9 +217,50 @@ void pressFrameButton(SessionInput& in, SessionTrace& trace) {
     }
 }
 
+void typeText(SessionInput& in, SessionTrace& trace) {
+    const std::string text = lw::fuzz::fieldText(in);
+    trace.add("type \"" + lw::fuzz::printable(text) + "\"");
+    for (char c : text) lw::program().desktop.typeCharacter(c);
+}
+
+void pressKey(SessionTrace& trace, const Key& key) {
+    trace.add(std::string("key ") + key.name);
+    lw::program().desktop.pressKey(key.code, key.shift, key.ascii);
+}
+
+// A form of the menus, as a tester opens one to work on it.
+void openForm(SessionInput& in, SessionTrace& trace) {
+    std::vector<const lw::MenuEntry*> forms;
+    for (const lw::MenuEntry& entry : lw::menuTable())
+        if (entry.opensForm[0] != '\0') forms.push_back(&entry);
+    const lw::MenuEntry& entry = *forms[in.pick(forms.size())];
+    lw::Form* frame = lw::program().desktop.frame();
+    lw::MenuItem* item = frame ? frame->findMenu(entry.item) : nullptr;
+    if (!item || !item->enabled || !item->visible) return;
+    trace.add(std::string("menu ") + entry.item);
+    lw::program().desktop.chooseMenu(item->name);
+}
+
+// A K-1 code field, where a function key (F1 on every form) brings the list of the box's codes.
+void askForCodes(SessionInput& in, SessionTrace& trace) {
+    lw::Form* form = lw::program().desktop.inputForm();
+    if (!form) return;
+    std::vector<lw::Control*> coded;
+    for (const auto& owned : form->controls())
+        if (owned->isTextBox() && owned->visible && owned->enabled && owned->tag.size() >= 6 &&
+            (owned->tag.compare(0, 6, "K1HELP") == 0 || owned->tag.compare(0, 6, "K1Help") == 0))
+            coded.push_back(owned.get());
+    if (coded.empty()) return;
+    lw::Control& field = *coded[in.pick(coded.size())];
+    trace.add("click " + nameOf(field));
+    lw::program().desktop.click(field);
+    const int key = in.oneIn(2) ? lw::keys::kF1 : lw::keys::kF1 + static_cast<int>(in.pick(12));
+    trace.add("key F" + std::to_string(key - lw::keys::kF1 + 1));
+    lw::program().desktop.pressKey(key, 0, 0);
+}
+
 void act(SessionInput& in, SessionTrace& trace) {
-    lw::Desktop& desktop = lw::program().desktop;
-    switch (in.pick(20)) {
+    switch (in.pick(24)) {
         case 0:
         case 1:
         case 2:
@@ -233,30 +274,33 @@ void act(SessionInput& in, SessionTrace& trace) {
             return clickControl(in, trace, true);
         case 8:
         case 9:
-        case 10: {
-            const std::string text = lw::fuzz::fieldText(in);
-            trace.add("type \"" + lw::fuzz::printable(text) + "\"");
-            for (char c : text) desktop.typeCharacter(c);
-            return;
-        }
+        case 10:
+            return typeText(in, trace);
         case 11: {
             const std::string text = lw::fuzz::fieldText(in);
             trace.add("paste \"" + lw::fuzz::printable(text) + "\"");
-            return desktop.paste(text);
+            return lw::program().desktop.paste(text);
         }
         case 12:
-        case 13: {
-            const Key& key = kKeys[in.pick(std::size(kKeys))];
-            trace.add(std::string("key ") + key.name);
-            return desktop.pressKey(key.code, key.shift, key.ascii);
-        }
+        case 13:
+            return pressKey(trace, kKeys[in.pick(std::size(kKeys))]);
         case 14: {
-            // A function key in a field: F1 and its neighbours open the list of a K-1 code field.
+            // A function key in a field.
             clickControl(in, trace, true);
             const int key = lw::keys::kF1 + static_cast<int>(in.pick(12));
             trace.add("key F" + std::to_string(key - lw::keys::kF1 + 1));
-            return desktop.pressKey(key, 0, 0);
+            return lw::program().desktop.pressKey(key, 0, 0);
         }
+        case 20:
+            return openForm(in, trace);
+        case 21:
+            return askForCodes(in, trace);
+        case 22:
+        case 23:
+            // A field filled and left, as a tester goes through a form.
+            clickControl(in, trace, true);
+            typeText(in, trace);
+            return pressKey(trace, kKeys[0]);
         default:
             return pressFrameButton(in, trace);
     }
