@@ -1,5 +1,6 @@
 #include "session_files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -89,8 +90,19 @@ std::string folderValue(SessionInput& in, const std::string& root) {
     }
 }
 
+// Free text in a store never holds "/" nor makes a key of its own: a folder key could take it, and the
+// program creates the forms folder that its store names.
+std::string storeText(SessionInput& in, std::size_t maxLength) {
+    std::string text = anyText(in, maxLength);
+    for (char& c : text) {
+        if (c == '/') c = '_';
+        if (c == '=') c = ':';
+    }
+    return text;
+}
+
 std::string storeValue(SessionInput& in, StoreValue kind, const std::string& root, bool hostile) {
-    if (hostile && in.oneIn(10)) return anyText(in, 60);
+    if (hostile && kind != StoreValue::Folder && in.oneIn(10)) return storeText(in, 60);
     switch (kind) {
         case StoreValue::Folder:
             return folderValue(in, root);
@@ -120,6 +132,33 @@ std::string storeValue(SessionInput& in, StoreValue kind, const std::string& roo
         }
     }
     return {};
+}
+
+// The guard behind the makers: whatever line a value's own line breaks start, a folder key of the store
+// names a folder inside the session's root, or one that is gone there.
+std::string keepFoldersInRoot(const std::string& text, const std::string& root) {
+    std::string out;
+    std::size_t start = 0;
+    while (start <= text.size()) {
+        const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+        std::string line = text.substr(start, end - start);
+        const std::size_t equals = line.find('=');
+        if (equals != std::string::npos) {
+            std::string key = lowered(line.substr(0, equals));
+            key.erase(0, key.find_first_not_of(" \t"));
+            key.erase(key.find_last_not_of(" \t") + 1);
+            const std::string value = line.substr(equals + 1);
+            const bool folderKey = key == "taxformsfolder" || key == "lastopenfolder" ||
+                                   key == "lastsavefolder" || key == "folder";
+            const bool inRoot = value.empty() || (value.compare(0, root.size() + 1, root + "/") == 0 &&
+                                                  value.find("..") == std::string::npos);
+            if (folderKey && !inRoot) line = line.substr(0, equals + 1) + root + "/gone";
+        }
+        out += line;
+        if (end < text.size()) out.push_back(text[end]);
+        start = end + 1;
+    }
+    return out;
 }
 
 }  // namespace
@@ -157,7 +196,7 @@ std::optional<std::string> userStore(SessionInput& in, const std::string& sectio
             static const char* const kOthers[] = {"[OTHER USER]", "[TaxForms]", "[]", "["};
             text += in.oneIn(3) ? "[" + lowered(section) + "]" : kOthers[in.pick(std::size(kOthers))];
         } else if (what == 12) {
-            text += anyText(in, 80);
+            text += storeText(in, 80);
         } else if (what == 13) {
             text += "[TaxForms]" + lineEnd(in, hostile) + "Folder=" + folderValue(in, root);
         } else {
@@ -168,7 +207,7 @@ std::optional<std::string> userStore(SessionInput& in, const std::string& sectio
         }
         text += lineEnd(in, hostile);
     }
-    return text;
+    return keepFoldersInRoot(text, root);
 }
 
 std::optional<std::string> k1HelpFile(SessionInput& in) {
