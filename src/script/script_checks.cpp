@@ -29,9 +29,10 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
                           session_.clipboardPicture ? "a picture" : "no picture");
     if (what == "clipboard-size") {
         need(words, 3, "expect clipboard-size WIDTHxHEIGHT");
-        const std::string size = session_.clipboardPicture ? std::to_string(session_.clipboardPicture->width()) + "x" +
-                                                                 std::to_string(session_.clipboardPicture->height())
-                                                           : "no picture";
+        const std::string size = session_.clipboardPicture
+                                     ? std::to_string(session_.clipboardPicture->width()) + "x" +
+                                           std::to_string(session_.clipboardPicture->height())
+                                     : "no picture";
         return expectThat(size == words[2], size);
     }
     if (what == "clipboard-pixel" || what == "printed-pixel") {
