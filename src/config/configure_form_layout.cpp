@@ -22,7 +22,6 @@ constexpr Color kPrinterNoteColor = 0x00E0FFFF;
 const char* const kRateTip = "Entry Formats Allowed: 6.2%, 10.3%, 7.25%. 12.65%";
 const char* const kAmountTip = "Maximun allowed is 999,999";
 
-
 Control& label(Control& c, const char* caption, int left, int top, int width, int height) {
     c.caption = caption;
     c.opaque = false;
