@@ -127,9 +127,10 @@ void TF_RRB1099::ComputeRRB(int /*Index*/) {
     runGuarded(kComputeLabel, [&] {
         if (field(kGross).text.empty()) return;
         amount_ = RrbAmounts{};
-        for (int i = 4; i <= 12; ++i) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
         RrbShortfall shortfall = RrbShortfall::None;
+        // An amount too large to count is the same overflow whether it is typed or worked out.
         try {
+            for (int i = 4; i <= 12; ++i) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
             workOutRrbAmounts(amount_);
             shortfall = firstRrbShortfall(amount_);
         } catch (const std::overflow_error&) {

@@ -121,8 +121,9 @@ void TF_SSA1099::ComputeSSA(int Index) {
     runGuarded(kComputeLabel, [&] {
         if (field(kBox3).text.empty()) return;
         amount_ = SsaAmounts{};
-        for (int i : kAmountFields) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
+        // An amount too large to count is the same overflow whether it is typed or worked out.
         try {
+            for (int i : kAmountFields) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
             workOutSsaAmounts(amount_);
         } catch (const std::overflow_error&) {
             throw AppError(kOverflow, "Overflow", kComputeLabel);
