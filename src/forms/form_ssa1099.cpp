@@ -37,7 +37,8 @@ void TF_SSA1099::onLoad() {
     TaxForm::onLoad();
     at("Label6").caption =
         "As you move through the fields on the SSA-1099 related to Social Security Payments Received, "
-        "Deductions, etc., computations will be performed. If an error is detected a message will be displayed.";
+        "Deductions, etc., computations will be performed. If an error is detected a message will be "
+        "displayed.";
 }
 
 void TF_SSA1099::onActivate() { Form_Activate(); }
