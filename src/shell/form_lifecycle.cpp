@@ -226,12 +226,13 @@ void Form_Position(Form& frm) {
         for (Form* open : desktop.forms()) {
             if (open->name() == "F1_Configure" && !g().bStartup && !ratesOfConfigureFormPass(*open)) {
                 // A bad rate keeps the configuration form on the screen; the new form does not open, and
-                // the shared procedures work on the configuration form again.
+                // the shared procedures work on the configuration form again, with its own catalogue values.
                 if (open != &frm) {
                     desktop.unload(frm);
                     desktop.activate(*open);
                     g().CurrentForm = open;
                     g().FormKey = formKeyOf(open->name());
+                    FormInfo_Load();
                 }
                 return;
             }
