@@ -68,6 +68,16 @@ bool writeWhole(const fs::path& file, const std::string& content) {
     return !ec;
 }
 
+// The boxes, reports and failed checks of a played script: what a trainer needs of its output.
+std::string whatWentWrong(const std::string& played) {
+    std::istringstream lines(played);
+    std::string line, told;
+    while (std::getline(lines, line))
+        for (const char* start : {"box ", "report ", "FAIL ", "ERROR "})
+            if (line.rfind(start, 0) == 0) told += "  " + line + "\n";
+    return told.empty() ? played : told;
+}
+
 }  // namespace
 
 std::string userRootFolder() {
@@ -179,7 +189,7 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
     std::istringstream input(script.text());
     script::ScriptRunner runner(played, shippedFolder_);
     if (runner.run(input) != 0 || played.str().find("\nreport ") != std::string::npos)
-        return giveUp("the program did not take its documents as written:\n" + played.str());
+        return giveUp("the program did not take its documents as written:\n" + whatWentWrong(played.str()));
 
     if (options_.pdf) {
         render::RenderOptions pages;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <algorithm>
 #include <fstream>
 
 #include "cases/case_lists.h"
@@ -29,9 +30,12 @@ TEST(CaseProfiles, TheShippedProfilesAreTheSevenKindsOfHousehold) {
     const Profile& retiree = profiles[2];
     EXPECT_EQ(retiree.title, "Retiree with Social Security and a pension");
     EXPECT_EQ(retiree.ages.lo, 66);
-    ASSERT_FALSE(retiree.documents.empty());
-    EXPECT_EQ(retiree.documents[0].kind, DocumentKind::Pension);
-    EXPECT_EQ(retiree.documents[0].amount.lo, 6000);
+    const auto pension = std::find_if(retiree.documents.begin(), retiree.documents.end(),
+                                      [](const DocumentRule& rule) { return rule.kind == DocumentKind::Pension; });
+    ASSERT_NE(pension, retiree.documents.end());
+    EXPECT_EQ(pension->count.lo, 1);
+    EXPECT_EQ(pension->amount.lo, 6000);
+    EXPECT_EQ(pension->amount.hi, 42000);
 }
 
 TEST(CaseProfiles, EveryDocumentKindIsMadeBySomeShippedProfile) {
