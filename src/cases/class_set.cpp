@@ -186,9 +186,14 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
         for (int i = 0; i < count; ++i) writeDocument(writing, rule, i);
     }
     std::ostringstream played;
-    std::istringstream input(script.text());
-    script::ScriptRunner runner(played, shippedFolder_);
-    if (runner.run(input) != 0 || played.str().find("\nreport ") != std::string::npos)
+    int status = 0;
+    {
+        // One program runs in a process at a time: this one ends before the pages are drawn.
+        std::istringstream input(script.text());
+        script::ScriptRunner runner(played, shippedFolder_);
+        status = runner.run(input);
+    }
+    if (status != 0 || played.str().find("\nreport ") != std::string::npos)
         return giveUp("the program did not take its documents as written:\n" + whatWentWrong(played.str()));
 
     if (options_.pdf) {
