@@ -29,6 +29,8 @@ CasesWindow::CasesWindow(std::string shippedFolder, std::string userRoot, QWidge
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(QStringLiteral("Households to make (none ticked: every kind in turn):")));
     profiles_ = new QListWidget;
+    profiles_->setObjectName(QStringLiteral("profiles"));
+    profiles_->setMaximumHeight(170);
     profiles_->setAccessibleName(QStringLiteral("Profiles"));
     try {
         for (const Profile& profile : readProfiles(profileFileFor(shippedFolder_, userRoot_))) {
@@ -45,15 +47,19 @@ CasesWindow::CasesWindow(std::string shippedFolder, std::string userRoot, QWidge
 
     auto* form = new QFormLayout;
     count_ = new QSpinBox;
+    count_->setObjectName(QStringLiteral("count"));
     count_->setRange(1, 500);
     count_->setValue(30);
     year_ = new QSpinBox;
+    year_->setObjectName(QStringLiteral("year"));
     year_->setRange(2000, 2100);
     // The year whose returns are being prepared: last year until March.
     const QDate today = QDate::currentDate();
     year_->setValue(today.month() >= 3 ? today.year() : today.year() - 1);
     seed_ = new QLineEdit(QString::number(QRandomGenerator::global()->bounded(1, 1000000)));
     folder_ = new QLineEdit(QDir::home().filePath(QStringLiteral("Practice cases")));
+    folder_->setObjectName(QStringLiteral("folder"));
+    seed_->setObjectName(QStringLiteral("seed"));
     auto* browse = new QPushButton(QStringLiteral("Browse..."));
     connect(browse, &QPushButton::clicked, this, [this] { chooseFolder(); });
     auto* folderRow = new QHBoxLayout;
@@ -68,14 +74,18 @@ CasesWindow::CasesWindow(std::string shippedFolder, std::string userRoot, QWidge
     layout->addLayout(form);
 
     progress_ = new QProgressBar;
+    progress_->setObjectName(QStringLiteral("progress"));
     progress_->setValue(0);
     status_ = new QLabel;
+    status_->setObjectName(QStringLiteral("status"));
     status_->setWordWrap(true);
     layout->addWidget(progress_);
     layout->addWidget(status_);
     auto* buttons = new QHBoxLayout;
     makeButton_ = new QPushButton(QStringLiteral("Make the cases"));
     openButton_ = new QPushButton(QStringLiteral("Open the folder"));
+    makeButton_->setObjectName(QStringLiteral("make"));
+    openButton_->setObjectName(QStringLiteral("open"));
     openButton_->setEnabled(false);
     auto* close = new QPushButton(QStringLiteral("Close"));
     connect(makeButton_, &QPushButton::clicked, this, [this] { make(); });
