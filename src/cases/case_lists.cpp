@@ -41,8 +41,13 @@ CaseLists readCaseLists(const std::string& file) {
         lists.towns.push_back({f[0], f[1], f[2], f[3]});
     }
     for (const std::string& line : entries(file, "Employers")) {
-        auto f = fieldsOf(line, 2, file, "Employers");
-        lists.employers.push_back({f[0], f[1]});
+        auto f = fieldsOf(line, 4, file, "Employers");
+        const auto pay = [&](const std::string& dollars) {
+            if (dollars.empty() || dollars.find_first_not_of("0123456789") != std::string::npos || dollars.size() > 9)
+                throw std::runtime_error(file + " [Employers]: \"" + line + "\" has no yearly pay from-to");
+            return std::stoll(dollars);
+        };
+        lists.employers.push_back({f[0], f[1], pay(f[2]), pay(f[3])});
     }
     lists.banks = entries(file, "Banks");
     lists.funds = entries(file, "Funds");

@@ -17,6 +17,8 @@ struct Town {
 struct Employer {
     std::string name;
     std::string occupation;
+    long long lowestPay = 0;  // the yearly pay the occupation runs to, whole dollars
+    long long highestPay = 0;
 };
 
 struct CaseLists {

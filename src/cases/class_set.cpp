@@ -1,5 +1,6 @@
 #include "cases/class_set.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -204,6 +205,10 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
         for (const auto& entry : fs::directory_iterator(staging))
             if (entry.path().extension() == extension()) pages.files.push_back(entry.path().string());
         std::sort(pages.files.begin(), pages.files.end());
+        // The taxpayer sheet leads the case, as a trainer hands it out.
+        std::stable_partition(pages.files.begin(), pages.files.end(), [](const std::string& file) {
+            return fs::path(file).filename().string().find("_TPINFO_") != std::string::npos;
+        });
         std::ostringstream quiet, trouble;
         if (render::renderDocuments(pages, shippedFolder_, quiet, trouble) != 0)
             return giveUp("its pages could not be drawn: " + trouble.str());

@@ -8,11 +8,16 @@ using namespace pieces;
 
 void writeW2(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Household& h = w.household;
-    const Employer& employer = w.dice.pick(w.lists.employers);
+    // The employer is one whose occupation pays within the profile's range, where there is one.
+    std::vector<Employer> fitting;
+    for (const Employer& e : w.lists.employers)
+        if (e.lowestPay <= rule.amount.hi && e.highestPay >= rule.amount.lo) fitting.push_back(e);
+    const Employer& employer = w.dice.pick(fitting.empty() ? w.lists.employers : fitting);
+    const Range pay{std::max(rule.amount.lo, employer.lowestPay), std::min(rule.amount.hi, employer.highestPay)};
     Organisation company = makeOrganisation(employer.name, w.lists, w.dice);
     // Most people work near home.
     if (w.dice.chance(85)) company.town = h.town;
-    const long long gross = amountIn(w.dice, rule.amount);
+    const long long gross = amountIn(w.dice, pay.hi >= pay.lo ? pay : rule.amount);
     // Some employees put part of their pay into a 401(k): it leaves box 1 but not boxes 3 and 5.
     const long long deferral = w.dice.chance(45) ? percentOf(gross, static_cast<int>(w.dice.between(3, 10))) : 0;
     const long long wages = gross - deferral;
