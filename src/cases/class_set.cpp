@@ -6,12 +6,14 @@
 #include <fstream>
 #include <sstream>
 
+#include "cases/batched_disk.h"
 #include "cases/case_documents.h"
 #include "cases/dice.h"
 #include "cases/household.h"
 #include "cases/operator_script.h"
 #include "render/render_job.h"
 #include "script/script_runner.h"
+#include "store/atomic_file.h"
 #include "store/inf_store.h"
 
 namespace lw::cases {
@@ -59,14 +61,8 @@ bool canWriteInto(const std::string& folder) {
 }
 
 bool writeWhole(const fs::path& file, const std::string& content) {
-    const fs::path partial = file.string() + ".partial";
-    {
-        std::ofstream out(partial, std::ios::binary);
-        if (!(out << content) || !out.flush()) return false;
-    }
-    std::error_code ec;
-    fs::rename(partial, file, ec);
-    return !ec;
+    std::string error;
+    return store::writeFileAtomically(file, content, error);
 }
 
 // The boxes, reports and failed checks of a played script: what a trainer needs of its output.
@@ -144,11 +140,18 @@ const Profile& ClassSet::profileOfCase(int number) const {
 int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progress) {
     int failed = 0;
     answers_.clear();
-    for (int number = 1; number <= options_.count; ++number) {
-        if (!makeCase(number, log)) ++failed;
-        if (progress) progress(number, options_.count);
+    {
+        BatchedDisk batched;
+        for (int number = 1; number <= options_.count; ++number) {
+            if (!makeCase(number, log)) ++failed;
+            if (progress) progress(number, options_.count);
+        }
     }
     const fs::path out(options_.out);
+    if (!BatchedDisk::syncAllUnder(out)) {
+        log << "ledgerwick-cases: the cases could not be put on the disk under " << options_.out << "\n";
+        ++failed;
+    }
     if (!writeWhole(out / "answers.csv", answersCsv(answers_)) ||
         !writeWhole(out / "answers.md", answersMarkdown(answers_, options_.year))) {
         log << "ledgerwick-cases: the answer key could not be written into " << options_.out << "\n";
