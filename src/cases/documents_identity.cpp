@@ -49,7 +49,13 @@ void writeCards(CaseWriting& w, const DocumentRule&, int) {
 void writeLicense(CaseWriting& w, const DocumentRule&, int) {
     w.script.openForm("mnuIDFormsDL");
     w.script.loadTaxpayer(1);
-    w.script.click("picDL(" + std::to_string(w.dice.between(0, 1)) + ")");
+    // The issue and expiration dates follow when the operator leaves a birth date.
+    w.script.leave("Text1(1)");
+    w.script.click("picDL(" + std::to_string(w.dice.between(0, 15)) + ") left");
+    if (w.household.hasSpouse) {
+        w.script.leave("Text1(5)");
+        w.script.click("picDL(" + std::to_string(w.dice.between(0, 15)) + ") right");
+    }
     w.script.saveInto(w.folder);
 }
 

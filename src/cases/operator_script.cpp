@@ -51,6 +51,11 @@ void OperatorScript::replace(const std::string& control, const std::string& text
     line("key Tab");
 }
 
+void OperatorScript::leave(const std::string& control) {
+    line("focus " + control);
+    line("key Tab");
+}
+
 void OperatorScript::click(const std::string& control) { line("click " + control); }
 
 void OperatorScript::saveInto(const std::string& folder) {

@@ -17,6 +17,8 @@ public:
     void fill(const std::string& control, const std::string& text);
     // As fill, over a one-line field's design text: Home and Shift+End select it, the typing replaces it.
     void replace(const std::string& control, const std::string& text);
+    // Clicks into the field and leaves it with Tab, so that what follows from it is worked out.
+    void leave(const std::string& control);
     void click(const std::string& control);
     // Saves under the name the program proposes, in `folder`; a name taken already gets the next number.
     void saveInto(const std::string& folder);
