@@ -69,6 +69,7 @@ void OperatorScript::saveInto(const std::string& folder) {
 
 void OperatorScript::expectQuiet() {
     line("expect no-message");
+    line("expect no-report");
 }
 
 std::string typedAmount(long long cents) {

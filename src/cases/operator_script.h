@@ -22,7 +22,7 @@ public:
     void click(const std::string& control);
     // Saves under the name the program proposes, in `folder`; a name taken already gets the next number.
     void saveInto(const std::string& folder);
-    // A check that stops the case: no box since the last one.
+    // A check that stops the case: no box and no error report since the last ones.
     void expectQuiet();
 
     const std::string& text() const { return text_; }
