@@ -22,7 +22,24 @@ void paintAtTrueSize(QPainter& painter, const QSize& page, int resolution, const
     painter.restore();
 }
 
+// Most forms are wider than a page is across when upright: the page turns when that lets the form stand
+// larger on it, so that a W-2 or a K-1 prints at its true size.
+void turnPageToFit(QPrinter& printer, const Form& form) {
+    const QSize twips = formSize(form, 1.0);
+    if (twips.isEmpty()) return;
+    auto fit = [&](QPageLayout::Orientation orientation) {
+        QPageLayout layout = printer.pageLayout();
+        layout.setOrientation(orientation);
+        const QRectF page = layout.paintRect(QPageLayout::Inch);
+        return std::min({1.0, page.width() * 1440 / twips.width(), page.height() * 1440 / twips.height()});
+    };
+    printer.setPageOrientation(fit(QPageLayout::Landscape) > fit(QPageLayout::Portrait)
+                                   ? QPageLayout::Landscape
+                                   : QPageLayout::Portrait);
+}
+
 bool paintOnPrinter(QPrinter& printer, const Form& form) {
+    turnPageToFit(printer, form);
     QPainter painter;
     if (!painter.begin(&printer)) return false;
     const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
