@@ -1,5 +1,7 @@
 #include "ui/form_printer.h"
 
+#include <QPageLayout>
+#include <QPageSize>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -50,12 +52,18 @@ bool paintOnPrinter(QPrinter& printer, const Form& form) {
 bool printForm(const Form& form, const std::string& printerName) {
     QPrinter printer(QPrinter::HighResolution);
     const QString name = toQString(printerName);
+    // The paper is the printer's own (Qt keeps the paper of the printer it started with), and US Letter
+    // where the printer names none: the forms are drawn for it.
+    QPrinterInfo chosen = QPrinterInfo::defaultPrinter();
     for (const QPrinterInfo& info : QPrinterInfo::availablePrinters()) {
         if (info.printerName() == name) {
             printer.setPrinterName(name);
+            chosen = info;
             break;
         }
     }
+    const QPageSize paper = chosen.defaultPageSize();
+    printer.setPageSize(paper.isValid() ? paper : QPageSize(QPageSize::Letter));
     printer.setDocName(toQString(form.caption));
     return paintOnPrinter(printer, form);
 }
@@ -64,6 +72,7 @@ bool printFormToPdf(const Form& form, const QString& path) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);
+    printer.setPageSize(QPageSize(QPageSize::Letter));
     printer.setDocName(toQString(form.caption));
     return paintOnPrinter(printer, form);
 }

@@ -5,6 +5,7 @@ lines, and for fields of no type the caption of its box (the nearest label above
 The n-th value of a kind differs from every other value of that kind that a form can hold.
 """
 import re
+import zlib
 
 FIRST_NAMES = ["MARGARET", "DESMOND", "LUCIA", "THEODORE", "PRIYA", "ANTOINE", "SOFIA", "WILLIAM",
                "GRACE", "EZEKIEL", "HANNAH", "RAFAEL", "NADIA", "CORNELIUS", "YOLANDA", "BENEDICT"]
@@ -28,9 +29,15 @@ LOCALITIES = ["ORLEANS PARISH", "SANGAMON COUNTY", "CITY OF DAYTON", "PIMA COUNT
 COUNTRIES = ["CANADA", "MEXICO", "UNITED KINGDOM", "JAPAN", "GERMANY", "AUSTRALIA"]
 PROPERTIES = ["100 SH NORTHWIND TRADERS", "250 SH BLUE HERON FUND CL A", "40 SH PELICAN ENERGY CORP",
               "1,000 SH CRESCENT UTILITIES", "12 SH MERIDIAN BIOTECH"]
-DESCRIPTIONS = [["2019 FORD F-150 PICKUP", "VIN 1FTEW1EP5KFA00213"], ["SINGLE FAMILY HOME",
-                "4817 MAGNOLIA RIDGE DRIVE"], ["CREDIT CARD BALANCE", "ACCOUNT ENDING 4471"],
-                ["BOAT SLIP 14, MARINA DEL SOL"], ["PERSONAL LOAN", "ORIGINATED 03/2019"]]
+# Notes of several lines, by a word of the box's caption; the last is for any other box.
+NOTES = [
+    ("debt", [["CREDIT CARD BALANCE", "ACCOUNT ENDING 4471"], ["PERSONAL LOAN", "ORIGINATED 03/2019"]]),
+    ("property", [["2019 FORD F-150 PICKUP", "VIN 1FTEW1EP5KFA00213"], ["VACANT LOT 14, BLOCK 7",
+                  "PARISH OF ST TAMMANY"]]),
+    ("box", [["BENEFITS REPAID TO SSA", "IN 2025: 1,120.00"], ["OVERPAYMENT WITHHELD", "FROM MARCH BENEFIT"]]),
+    ("other", [["REAL ESTATE TAXES PAID", "3,412.88"], ["HOMEOWNERS INSURANCE", "1,906.00"]]),
+    ("", [["SEE ATTACHED STATEMENT"], ["REVISED 02/14/2025"]]),
+]
 WAGERS = ["SLOT MACHINE JACKPOT", "KENO", "POKER TOURNAMENT", "HORSE RACE TRIFECTA", "BINGO"]
 W2_CODES = ["D", "DD", "W", "E", "C", "AA", "G", "P", "V", "Y", "BB", "EE"]
 LETTER_CODES = ["A", "B", "C", "D", "E", "F", "G", "H", "J", "K", "L", "M"]
@@ -87,8 +94,11 @@ def lines_that_fit(lines, height):
 
 
 def block(kind, n, height):
-    if kind == "issuer":
-        lines = [COMPANIES[n % len(COMPANIES)], street(n), city(n), "TEL " + phone(n)]
+    if kind == "address":
+        lines = [street(n), city(n)]
+    elif kind == "issuer":
+        # Payers live elsewhere than the people they pay, and answer another telephone.
+        lines = [COMPANIES[n % len(COMPANIES)], street(n + 5), city(n + 7), "TEL " + phone(n + 40)]
     else:
         lines = [person(n), street(n), city(n)]
         if n % 2:
@@ -96,27 +106,39 @@ def block(kind, n, height):
     return "\r\n".join(lines_that_fit(lines, height))
 
 
+ORIGIN_CODES = ["A", "B", "C", "D", "E", "F", "G"]
 ENTITY_TYPES = ["INDIVIDUAL", "S CORPORATION", "ESTATE", "GRANTOR TRUST", "PARTNERSHIP"]
+RELATIONSHIPS = ["DAUGHTER", "SON", "MOTHER", "NEPHEW", "FOSTER CHILD", "GRANDSON", "FATHER-IN-LAW", "NIECE"]
+TRACKS = ["BELMONT PARK", "CHURCHILL DOWNS", "SANTA ANITA", "PIMLICO", "KEENELAND"]
 
 # What a field of no type holds, by words of its box's caption, the first rule that matches.
 CAPTION_RULES = [
+    ("relationship", ["relationship", "other information"]),
     ("phone", ["telephone", "phone"]),
     ("street", ["street address"]),
     ("city", ["city or town"]),
     ("state-id", ["state identification", "state id", "state no", "state/payer", "payer's state"]),
     ("locality", ["locality"]),
     ("state", ["state"]),
+    ("claim", ["claim number"]),
     ("account", ["account number", "acct", "claim no", "policy number", "service provider"]),
     ("control", ["control number"]),
     ("cusip", ["cusip"]),
     ("routing", ["rtn", "routing"]),
-    ("country", ["foreign country"]),
+    ("country", ["country"]),
+    ("origin", ["letter identifying"]),
+    ("month", ["month"]),
     ("property", ["description of property"]),
     ("distribution", ["distribution code", "distribution code(s)"]),
     ("mcc", ["merchant category"]),
     ("count", ["number of"]),
     ("letter", ["event code", "checkbox on form", "code"]),
     ("wager", ["type of wager"]),
+    ("transaction", ["transaction"]),
+    ("race", ["race"]),
+    ("cashier", ["cashier"]),
+    ("window", ["window"]),
+    ("picture", ["picture"]),
     ("percent", ["percentage"]),
     ("amount", ["nonqualified plans", "transactions"]),
     ("entity", ["type of entity"]),
@@ -142,7 +164,9 @@ class Values:
 
     def __init__(self, form):
         self.form = form
-        self.counts = {}
+        # Each form starts its people and payers elsewhere in the lists, so the gallery's forms differ.
+        start = zlib.crc32(form.encode()) % 50
+        self.counts = {"person": start, "company": start, "address": start}
 
     def number(self, kind):
         n = self.counts.get(kind, 0)
@@ -153,8 +177,10 @@ class Values:
         """The value the gallery pastes into a field, or None for a field that takes none this way.
 
         field: the control as the runner lists it; caption: its box's caption. K-1 code fields (from
-        their list) and check-mark fields (by a click) are the driver's.
+        their list) and check-mark fields (by a click) are the driver's. The field's tip, where it has
+        one, tells as much as a caption.
         """
+        caption = " ".join(part for part in (caption, field["tip"]) if part)
         tag = field["tag"].split("\u00b7")[0].upper()
         if tag in ("COMPUTED", "OUT OF SCOPE", "K1", "K1HELP", "CHECKBOX"):
             return None
@@ -168,10 +194,13 @@ class Values:
             return "money"
         if tag in ("DATE", "DATEX"):
             return "date"
-        if tag == "ISSUER" or (not tag and field["multiline"] and ("lender" in words or "payer" in words)):
+        if tag == "ISSUER" or "bank" in words or (not tag and field["multiline"] and
+                                                  ("lender" in words or "payer" in words)):
             return "company"
-        if tag == "TPNAME" or (not tag and field["multiline"] and ("name" in words or "address" in words)):
+        if tag == "TPNAME" or (not tag and field["multiline"] and "name" in words):
             return "person"
+        if not tag and field["multiline"] and "address" in words:
+            return "address"
         if not tag and field["multiline"]:
             return "lines"
         if tag:
@@ -188,17 +217,22 @@ class Values:
             return block("issuer", n, height) if multi else COMPANIES[n % len(COMPANIES)]
         if kind == "person":
             return block("person", n, height) if multi else person(n)
+        if kind == "address":
+            return block("address", n, height)
         if kind == "lines":
-            if "number of" in caption.lower():
+            words = caption.lower()
+            if "number of" in words:
                 return str(2 + n % 5)
-            return "\r\n".join(lines_that_fit(DESCRIPTIONS[n % len(DESCRIPTIONS)], height))
+            notes = next(notes for word, notes in NOTES if word in words)
+            return "\r\n".join(lines_that_fit(notes[n % len(notes)], height))
         if tag == "TIN":
             return ssn(n)
         if tag == "EIN":
             return ein(n)
         if kind == "date":
             # The papers of a person carry a birth date; a tax form dates what happened in its year.
-            if self.form.startswith("F") and tag == "DATE":
+            words = caption.lower()
+            if (self.form.startswith("F") and tag == "DATE") or "birth" in words or "dob" in words:
                 return date_in(1948 + (n * 7) % 55, n)
             return date_in(2025, n)
         if tag in ("YEAR", "TAXYEAR1099G"):
@@ -236,11 +270,14 @@ class Values:
             "state-id": lambda: f"{state} {4100000 + n * 7331}",
             "locality": lambda: LOCALITIES[n % len(LOCALITIES)],
             "state": lambda: state,
-            "account": lambda: f"{4471 + n:04d}-{(n * 8191) % 10000:04d}-{n % 97:02d}",
-            "control": lambda: f"A{n:02d}-{77310 + n * 13}",
-            "cusip": lambda: f"0378{33100 + n * 7}",
-            "routing": lambda: f"0{65400000 + n * 1733}",
+            "account": lambda: f"{4471 + n:04d}-{((n + 1) * 8191) % 10000:04d}-{(n + 13) % 97:02d}",
+            "control": lambda: f"A{n + 17:02d}-{77310 + n * 13}",
+            "cusip": lambda: f"0378{33104 + n * 7}",
+            "routing": lambda: f"0{65403370 + n * 1733}",
             "country": lambda: COUNTRIES[n % len(COUNTRIES)],
+            "origin": lambda: ORIGIN_CODES[n % len(ORIGIN_CODES)],
+            "month": lambda: f"{n % 12 + 1:02d}",
+            "claim": lambda: f"A{223140000 + n * 9137}",
             "property": lambda: PROPERTIES[n % len(PROPERTIES)],
             "w2-code": lambda: W2_CODES[n % len(W2_CODES)],
             "distribution": lambda: DISTRIBUTION_CODES[n % len(DISTRIBUTION_CODES)],
@@ -248,6 +285,13 @@ class Values:
             "count": lambda: f"{1200 + n * 17:,}",
             "letter": lambda: LETTER_CODES[n % len(LETTER_CODES)],
             "wager": lambda: WAGERS[n % len(WAGERS)],
+            "transaction": lambda: f"TXN {45127 + n * 311:07d}",
+            "race": lambda: f"R{n + 3} {TRACKS[n % len(TRACKS)]}",
+            "cashier": lambda: f"C-{118 + n}",
+            "window": lambda: f"W-{7 + n:02d}",
+            # The license's portraits are the third and the tenth of its chooser, as the gallery clicks them.
+            "picture": lambda: str(3 + 7 * n),
+            "relationship": lambda: RELATIONSHIPS[n % len(RELATIONSHIPS)],
             "percent": lambda: f"{40 + n % 50}",
             "entity": lambda: ENTITY_TYPES[n % len(ENTITY_TYPES)],
             "center": lambda: ["OGDEN, UT", "KANSAS CITY, MO", "AUSTIN, TX"][n % 3],
