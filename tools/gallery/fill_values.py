@@ -24,6 +24,8 @@ COMPANIES = ["GULF COAST MARINE SUPPLY, INC.", "BRIGHTWATER REGIONAL MEDICAL GRO
              "CRESCENT CITY CREDIT UNION", "NORTHLAND TIMBER PARTNERS LP", "SUMMIT RIDGE INVESTMENT TRUST",
              "PELICAN BAY CASINO AND RESORT", "TRI-COUNTY STUDENT LOAN SERVICES", "HIGH DESERT HEALTH PLAN",
              "MERIDIAN STATE UNIVERSITY", "LAKEVIEW ORTHOPEDIC ASSOCIATES", "BLUE HERON BROKERAGE LLC"]
+BANKS = ["FIRST PRAIRIE SAVINGS BANK", "CRESCENT CITY CREDIT UNION", "HARBORVIEW NATIONAL BANK",
+         "MIDLANDS FARMERS BANK", "SUMMIT TRUST COMPANY"]
 LOCALITIES = ["ORLEANS PARISH", "SANGAMON COUNTY", "CITY OF DAYTON", "PIMA COUNTY", "CITY OF ALBANY",
               "DULUTH CITY", "BUNCOMBE COUNTY"]
 COUNTRIES = ["CANADA", "MEXICO", "UNITED KINGDOM", "JAPAN", "GERMANY", "AUSTRALIA"]
@@ -96,9 +98,10 @@ def lines_that_fit(lines, height):
 def block(kind, n, height):
     if kind == "address":
         lines = [street(n), city(n)]
-    elif kind == "issuer":
+    elif kind in ("issuer", "bank"):
         # Payers live elsewhere than the people they pay, and answer another telephone.
-        lines = [COMPANIES[n % len(COMPANIES)], street(n + 5), city(n + 7), "TEL " + phone(n + 40)]
+        names = BANKS if kind == "bank" else COMPANIES
+        lines = [names[n % len(names)], street(n + 5), city(n + 7), "TEL " + phone(n + 40)]
     else:
         lines = [person(n), street(n), city(n)]
         if n % 2:
@@ -106,6 +109,7 @@ def block(kind, n, height):
     return "\r\n".join(lines_that_fit(lines, height))
 
 
+OTHER_ITEMS = ["CA SDI", "UNION DUES", "NJ FLI", "HEALTH PREMIUMS", "TUITION ASSISTANCE", "RR TIER 1"]
 ORIGIN_CODES = ["A", "B", "C", "D", "E", "F", "G"]
 ENTITY_TYPES = ["INDIVIDUAL", "S CORPORATION", "ESTATE", "GRANTOR TRUST", "PARTNERSHIP"]
 RELATIONSHIPS = ["DAUGHTER", "SON", "MOTHER", "NEPHEW", "FOSTER CHILD", "GRANDSON", "FATHER-IN-LAW", "NIECE"]
@@ -194,8 +198,9 @@ class Values:
             return "money"
         if tag in ("DATE", "DATEX"):
             return "date"
-        if tag == "ISSUER" or "bank" in words or (not tag and field["multiline"] and
-                                                  ("lender" in words or "payer" in words)):
+        if "bank" in words:
+            return "bank"
+        if tag == "ISSUER" or (not tag and field["multiline"] and ("lender" in words or "payer" in words)):
             return "company"
         if tag == "TPNAME" or (not tag and field["multiline"] and "name" in words):
             return "person"
@@ -212,9 +217,13 @@ class Values:
         n = self.number(kind)
         multi, height = field["multiline"], field["height"]
         if kind == "money":
-            return money(n, negative=tag == "-MONEY")
+            amount = money(n, negative=tag == "-MONEY")
+            # A box of no type keeps what it is given: the amount is written as a person writes it.
+            return amount if tag else f"{float(amount):,.2f}"
         if kind == "company":
             return block("issuer", n, height) if multi else COMPANIES[n % len(COMPANIES)]
+        if kind == "bank":
+            return block("bank", n, height) if multi else BANKS[n % len(BANKS)]
         if kind == "person":
             return block("person", n, height) if multi else person(n)
         if kind == "address":
@@ -297,7 +306,7 @@ class Values:
             "center": lambda: ["OGDEN, UT", "KANSAS CITY, MO", "AUSTIN, TX"][n % 3],
             "ident": lambda: f"DL {state} {812734 + n * 91}",
             "person": lambda: person(n),
-            "other": lambda: f"SDI {100 + n * 7}.{n % 100:02d}",
+            "other": lambda: OTHER_ITEMS[n % len(OTHER_ITEMS)],
         }
         if kind in simple:
             return simple[kind]()
