@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QRegularExpression>
@@ -18,8 +17,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
-#include <cmath>
-#include <map>
+#include <utility>
 #include <vector>
 
 #include "app/window_program.h"
@@ -93,7 +91,7 @@ QString collapsed(QString text) {
 // A word of the text layer with its box in points from the page's top left.
 struct Word {
     QString text;
-    double left, top, right, bottom;
+    double left, top, right;
 };
 
 std::vector<Word> wordsOf(const QString& pdf) {
@@ -110,8 +108,8 @@ std::vector<Word> wordsOf(const QString& pdf) {
             .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
             .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
             .replace(QStringLiteral("&#39;"), QStringLiteral("'"));
-        words.push_back({text, hit.captured(1).toDouble(), hit.captured(2).toDouble(),
-                         hit.captured(3).toDouble(), hit.captured(4).toDouble()});
+        words.push_back(
+            {text, hit.captured(1).toDouble(), hit.captured(2).toDouble(), hit.captured(3).toDouble()});
     }
     return words;
 }
@@ -137,7 +135,7 @@ QString typed(const Control& field, int n) {
     if (tag == "TPNAME" || tag == "ISSUER" || (tag.empty() && field.multiLine))
         return QStringLiteral("HARRIET Q LOCKWOOD %1\nSUITE %1, 2200 CANAL STREET\nNEW ORLEANS, LA 70130")
             .arg(number);
-    if (tag.empty() || tag == "K1") return QStringLiteral("REF%1X").arg(4400 + n * 7);
+    if (tag.empty()) return QStringLiteral("REF%1X").arg(4400 + n * 7);
     return {};
 }
 
