@@ -4,15 +4,16 @@ set(LW_GUIDE_PICTURES ${CMAKE_BINARY_DIR}/guide-pictures)
 file(GLOB LW_GUIDE_SAMPLES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/samples/*.venturo)
 file(GLOB LW_FORM_DRAWINGS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/catalogue/definitions/*.lwf)
 
+# The folder is made by the first step, and only then entered: a WORKING_DIRECTORY would be entered
+# before any step runs, which the Makefile generators do with a plain `cd` that fails on a fresh build.
 add_custom_command(
   OUTPUT ${LW_GUIDE_PICTURES}/pictures.stamp
   COMMAND ${CMAKE_COMMAND} -E make_directory ${LW_GUIDE_PICTURES}
-  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
+  COMMAND ${CMAKE_COMMAND} -E chdir ${LW_GUIDE_PICTURES} ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
           $<TARGET_FILE:ledgerwick-render> --year 2025 --png ${LW_GUIDE_PICTURES} --zoom 2 ${LW_GUIDE_SAMPLES}
-  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
+  COMMAND ${CMAKE_COMMAND} -E chdir ${LW_GUIDE_PICTURES} ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
           $<TARGET_FILE:ledgerwick-script> ${PROJECT_SOURCE_DIR}/docs/pictures.lws
   COMMAND ${CMAKE_COMMAND} -E touch ${LW_GUIDE_PICTURES}/pictures.stamp
-  WORKING_DIRECTORY ${LW_GUIDE_PICTURES}
   DEPENDS ledgerwick-render ledgerwick-script ${LW_GUIDE_SAMPLES} ${LW_FORM_DRAWINGS}
           ${PROJECT_SOURCE_DIR}/docs/pictures.lws
   COMMENT "Drawing the pictures of the user guide"

@@ -2,7 +2,7 @@
 # looks when they are not beside it), and the desktop entries, icons and metainfo where desktops look.
 include(GNUInstallDirs)
 
-install(TARGETS Ledgerwick_Venturo Ledgerwick_OthAgcy ledgerwick-script ledgerwick-render
+install(TARGETS Ledgerwick_Venturo Ledgerwick_OthAgcy ledgerwick-script ledgerwick-render ledgerwick-cases
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Whatever the build placed beside the executables: INF files, icons, pictures and the guides.
 install(DIRECTORY ${LW_BIN_DIR}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ledgerwick
@@ -23,6 +23,8 @@ foreach(edition Venturo OthAgcy)
           DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 endforeach()
 add_custom_target(lw_icons ALL DEPENDS ${LW_ICONS})
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/linux/net.ledgerwick.PracticeCases.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(DIRECTORY ${LW_ICON_THEME}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 
 configure_file(${PROJECT_SOURCE_DIR}/packaging/linux/net.ledgerwick.Ledgerwick.metainfo.xml

@@ -31,7 +31,7 @@ add_custom_command(
 add_custom_target(lw_changelog ALL DEPENDS ${CMAKE_BINARY_DIR}/changelog.gz)
 
 set(LW_MANUALS)
-foreach(page Ledgerwick_Venturo Ledgerwick_OthAgcy ledgerwick-render ledgerwick-script)
+foreach(page Ledgerwick_Venturo Ledgerwick_OthAgcy ledgerwick-render ledgerwick-script ledgerwick-cases)
   add_custom_command(
     OUTPUT ${CMAKE_BINARY_DIR}/man/${page}.1.gz
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man

@@ -18,6 +18,7 @@ public:
     // The four file name templates, each followed by the edition's file extension.
     std::array<std::string, 4> FileNameFormats;
 
+    Control& Frame6;  // holds the whole panel; Clip and Print cut the form at its bottom
     Control& Frame1;  // the printer frame
     Control& cbxPrinters;
     Control& lblPrinter;

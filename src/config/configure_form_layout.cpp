@@ -16,11 +16,11 @@ constexpr int kCaptionWidth = 6600;
 constexpr int kFieldLeft = 7080;
 constexpr int kFieldWidth = 1800;
 constexpr int kRowStep = 390;
+constexpr int kStatusTop = 8220;
 constexpr Color kPrinterNoteColor = 0x00E0FFFF;
 
 const char* const kRateTip = "Entry Formats Allowed: 6.2%, 10.3%, 7.25%. 12.65%";
 const char* const kAmountTip = "Maximun allowed is 999,999";
-
 
 Control& label(Control& c, const char* caption, int left, int top, int width, int height) {
     c.caption = caption;
@@ -42,6 +42,7 @@ void figureField(Control& c, const char* tip, int top) {
 
 F1_Configure::F1_Configure()
     : CatalogueForm("F1_Configure"),
+      Frame6(add(ControlKind::Frame, "Frame6")),
       Frame1(add(ControlKind::Frame, "Frame1")),
       cbxPrinters(add(ControlKind::ComboBox, "cbxPrinters")),
       lblPrinter(add(ControlKind::Label, "lblPrinter")),
@@ -64,6 +65,11 @@ F1_Configure::F1_Configure()
     caption = "Configure Social Security/Medicare Withholding Rates, Printer";
     width = kFormWidth;
     height = kFormHeight;
+
+    // A frame with no line of its own behind the whole panel, down to the status line: the document
+    // that a clip or a print keeps ends at its bottom.
+    Frame6.borderStyle = 0;
+    Frame6.place(0, 0, kFormWidth, kStatusTop);
 
     // Printer and note side by side; Load fits the printer frame to the note's height.
     Frame1.place(kMargin, kMargin, 6240, 1500);
@@ -139,8 +145,8 @@ F1_Configure::F1_Configure()
     figureField(txtMCRateAfter, kRateTip, 6090 + 2 * kRowStep);
     figureField(txtMCPartBPremiums, kAmountTip, 6090 + 3 * kRowStep);
 
-    label(labelMisc, "", kMargin, 8220, 7800, kLineHeight);
-    label(labelVersion, "", 8040, 8220, kFormWidth - 8040 - kMargin, kLineHeight);
+    label(labelMisc, "", kMargin, kStatusTop, 7800, kLineHeight);
+    label(labelVersion, "", 8040, kStatusTop, kFormWidth - 8040 - kMargin, kLineHeight);
     labelVersion.alignment = 1;
 
     // The operator goes from the printer through the choices to the figures.

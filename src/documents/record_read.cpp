@@ -94,11 +94,17 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
     return *form;
 }
 
-// Only a portrait of the sixteen is shown; any other value shows none and is kept as 0, so that no
+// The value names the file "P", the value as written, "GS.jpg": only the sixteen portraits are such
+// files, so "3.5" or "07" name none. A value that names no portrait shows none and is kept as 0, and no
 // file outside the pictures folder is ever read because of a data file.
+int portraitNamedBy(const std::string& value) {
+    for (int number = 1; number <= kPortraits; ++number)
+        if (value == std::to_string(number)) return number;
+    return 0;
+}
+
 void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
-    const std::optional<int> read = store::classicInteger(value);
-    const int number = read && *read >= 1 && *read <= kPortraits ? *read : 0;
+    const int number = portraitNamedBy(value);
     form.at(pictureBox).picture = number > 0 ? portraitFile(g().PicturesFolder, number) : std::string();
     if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = number;
 }

@@ -45,7 +45,8 @@ void TF_RRB1099::onLoad() {
     field(kPremium).text = partBPremiumOfYearInForce();
     at("Label6").caption =
         "As you move through the fields on the RRB-1099 related to Social Security Payments Received, "
-        "Deductions, etc., computations will be performed. If an error is detected a message will be displayed.";
+        "Deductions, etc., computations will be performed. If an error is detected a message will be "
+        "displayed.";
 }
 
 void TF_RRB1099::onGotFocus(Control& ctl) {
@@ -118,7 +119,8 @@ void TF_RRB1099::copyIdentity() {
         if (items.size() < 2) throw AppError(err::kSubscriptOutOfRange, "Subscript out of range");
         Control* from = find("Text1", fieldIndexOf(items[0]));
         Control* to = find("Text1", fieldIndexOf(items[1]));
-        if (!from || !to) throw AppError(err::kControlArrayElementMissing, "Control array element doesn't exist");
+        if (!from || !to)
+            throw AppError(err::kControlArrayElementMissing, "Control array element doesn't exist");
         to->text = from->text;
     }
 }
@@ -127,9 +129,10 @@ void TF_RRB1099::ComputeRRB(int /*Index*/) {
     runGuarded(kComputeLabel, [&] {
         if (field(kGross).text.empty()) return;
         amount_ = RrbAmounts{};
-        for (int i = 4; i <= 12; ++i) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
         RrbShortfall shortfall = RrbShortfall::None;
+        // An amount too large to count is the same overflow whether it is typed or worked out.
         try {
+            for (int i = 4; i <= 12; ++i) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
             workOutRrbAmounts(amount_);
             shortfall = firstRrbShortfall(amount_);
         } catch (const std::overflow_error&) {
@@ -145,7 +148,8 @@ void TF_RRB1099::ComputeRRB(int /*Index*/) {
         // No step here ever clears the flag: only the skipped pass of a later validation does.
         if (shortfall == RrbShortfall::None) return;
         field(kNet).foreColor = kRed;
-        MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "", "", 1);
+        MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "",
+               "", 1);
         b_RRBError = true;
     });
 }

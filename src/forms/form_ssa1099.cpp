@@ -37,7 +37,8 @@ void TF_SSA1099::onLoad() {
     TaxForm::onLoad();
     at("Label6").caption =
         "As you move through the fields on the SSA-1099 related to Social Security Payments Received, "
-        "Deductions, etc., computations will be performed. If an error is detected a message will be displayed.";
+        "Deductions, etc., computations will be performed. If an error is detected a message will be "
+        "displayed.";
 }
 
 void TF_SSA1099::onActivate() { Form_Activate(); }
@@ -121,8 +122,9 @@ void TF_SSA1099::ComputeSSA(int Index) {
     runGuarded(kComputeLabel, [&] {
         if (field(kBox3).text.empty()) return;
         amount_ = SsaAmounts{};
-        for (int i : kAmountFields) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
+        // An amount too large to count is the same overflow whether it is typed or worked out.
         try {
+            for (int i : kAmountFields) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
             workOutSsaAmounts(amount_);
         } catch (const std::overflow_error&) {
             throw AppError(kOverflow, "Overflow", kComputeLabel);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/color.h"
+#include "model/tp_info_rec.h"
 
 namespace lw {
 
@@ -36,6 +37,10 @@ struct Globals {
     std::string LastFieldKey;
     // Rows TP1, TP2, OP1..OP7: slot, Text1 index of the birth date, Text2 index of the age.
     std::array<std::array<std::string, 3>, 9> PersonTable{};
+    // The two taxpayers as the last Load TP read them. A person the store lacks keeps the parts parsed
+    // from the block read before, for as long as the program runs.
+    TPInfoRec TP1Info;
+    TPInfoRec TP2Info;
 
     // The design Text of the K-1 code fields (Text2, Text4) and the design Tag of their amounts (Text3,
     // Text5), kept at each K-1 form's load: Clear puts them back and the code list takes back an override.

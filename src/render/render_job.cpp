@@ -128,7 +128,9 @@ public:
         Form* form = headless_->program().desktop.activeChild();
         if (why.empty() && !form) why = "no form was opened";
         if (!why.empty()) return nullptr;
-        // The print look: cut to the document, white fields, no selection.
+        // The print look: cut to the document, white fields, no selection, and no status line, which
+        // names the file just read.
+        if (Control* status = form->find("labelMisc")) status->visible = false;
         Screen_Clip();
         return form;
     }

@@ -29,9 +29,10 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
                           session_.clipboardPicture ? "a picture" : "no picture");
     if (what == "clipboard-size") {
         need(words, 3, "expect clipboard-size WIDTHxHEIGHT");
-        const std::string size = session_.clipboardPicture ? std::to_string(session_.clipboardPicture->width()) + "x" +
-                                                                 std::to_string(session_.clipboardPicture->height())
-                                                           : "no picture";
+        const std::string size = session_.clipboardPicture
+                                     ? std::to_string(session_.clipboardPicture->width()) + "x" +
+                                           std::to_string(session_.clipboardPicture->height())
+                                     : "no picture";
         return expectThat(size == words[2], size);
     }
     if (what == "clipboard-pixel" || what == "printed-pixel") {
@@ -108,16 +109,27 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
         return expectThat(held, "\"" + list.caption + "\" with " + std::to_string(list.rows.size()) +
                                     " rows, none with that text");
     }
-    if (what == "report") {
-        need(words, 3, "expect report \"PART\"");
+    if (what == "report" || what == "no-report") {
+        auto shown = [](const ShownReport& r) {
+            return utf8(r.module) + " " + utf8(r.number) + " " + utf8(r.description);
+        };
+        if (what == "report") need(words, 3, "expect report \"PART\"");
+        const std::size_t seen = session_.reportsSeen;
+        session_.reportsSeen = session_.reports.size();
+        if (what == "no-report") {
+            std::string since;
+            for (std::size_t i = seen; i < session_.reports.size(); ++i)
+                since += (since.empty() ? "" : "; ") + shown(session_.reports[i]);
+            return expectThat(since.empty(), "a report \"" + since + "\"");
+        }
+        // Any report since the start may hold the text, not only those since the last check.
         if (session_.reports.empty()) return expectThat(false, "no report");
         std::string all;
         for (const ShownReport& r : session_.reports) {
             if (contains(utf8(r.module), words[2]) || contains(utf8(r.number), words[2]) ||
                 contains(utf8(r.description), words[2]))
                 return expectThat(true, "");
-            all +=
-                (all.empty() ? "" : "; ") + utf8(r.module) + " " + utf8(r.number) + " " + utf8(r.description);
+            all += (all.empty() ? "" : "; ") + shown(r);
         }
         return expectThat(false, "\"" + all + "\"");
     }

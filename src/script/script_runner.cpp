@@ -114,6 +114,7 @@ void ScriptRunner::execute(const std::vector<std::string>& words) {
     if (command == "show" || command == "dump" || command == "save-clipboard" || command == "print-to" ||
         command == "snapshot")
         return showValue(words);
+    if (command == "list") return list(words);
     act(words);
 }
 
@@ -204,7 +205,11 @@ void ScriptRunner::queueAnswer(const std::vector<std::string>& words) {
         if (words.size() > 2 && words[2] != "clip" && words[2] != "exit")
             throw ScriptError("report takes clip or exit after the description");
     }
-    if (words[0] == "file" && words[1] != "cancel") answer.words[0] = codePage(path(words[1]));
+    // "file proposed FOLDER" keeps the name the dialog proposes and puts it in FOLDER.
+    if (words[0] == "file" && words[1] == "proposed" && words.size() > 2)
+        answer.words = {"proposed", codePage(path(words[2]))};
+    else if (words[0] == "file" && words[1] != "cancel")
+        answer.words[0] = codePage(path(words[1]));
     session_.answers.push_back(std::move(answer));
 }
 

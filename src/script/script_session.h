@@ -61,6 +61,7 @@ struct Session {
     std::size_t boxesSeen = 0;  // boxes shown before the last message check
     std::optional<ShownBox> lastBox;
     std::vector<ShownReport> reports;
+    std::size_t reportsSeen = 0;  // reports shown before the last report check
     std::optional<std::string> lastDialog;
     std::optional<ShownK1List> lastK1List;
     std::optional<QImage> clipboardPicture;

@@ -185,9 +185,14 @@ std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request
     if (!request.proposedName.empty())
         *session_.out << " proposing \"" << forOutput(request.proposedName) << "\"";
     if (!request.startFolder.empty()) *session_.out << " in " << forOutput(request.startFolder);
-    *session_.out << " -> " << (cancel ? "cancel" : forOutput(answer->words[0])) << "\n";
-    if (cancel) return std::nullopt;
-    return answer->words[0];
+    if (cancel) {
+        *session_.out << " -> cancel\n";
+        return std::nullopt;
+    }
+    std::string chosen = answer->words[0];
+    if (chosen == "proposed" && answer->words.size() > 1) chosen = answer->words[1] + "/" + request.proposedName;
+    *session_.out << " -> " << forOutput(chosen) << "\n";
+    return chosen;
 }
 
 bool ScriptUi::openDocument(const std::string& path) {

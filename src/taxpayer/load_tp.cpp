@@ -19,14 +19,15 @@ namespace {
 
 Globals& g() { return program().g; }
 
-TPInfoRec readPerson(const char* slot) {
+// The three keys of a person go into the record, an absent key as empty; the parts cut from the block
+// are renewed only when there is a block, so a person the store no longer has keeps the name, street
+// and city lines that the last Load TP found.
+void readPerson(const char* slot, TPInfoRec& rec) {
     const std::string prefix(slot);
-    TPInfoRec rec;
     rec.NameAddr = readUserInf(prefix + "NameAddr");
     rec.DOB = readUserInf(prefix + "DOB");
     rec.SSN = readUserInf(prefix + "SSN");
     TPInfo_Parse_NameAddr(rec);
-    return rec;
 }
 
 // The first index of a comma list of the catalogue, or none when the list is empty.
@@ -100,11 +101,11 @@ void TPInfo_Read(const std::string& Who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
         Form* form = g().CurrentForm;
         if (!form) return;
-        const TPInfoRec tp1 = readPerson("TP1");
-        const TPInfoRec tp2 = readPerson("TP2");
+        readPerson("TP1", g().TP1Info);
+        readPerson("TP2", g().TP2Info);
         const bool second = Who == "TP 2";
-        const TPInfoRec& A = second ? tp2 : tp1;
-        const TPInfoRec& B = second ? tp1 : tp2;
+        const TPInfoRec& A = second ? g().TP2Info : g().TP1Info;
+        const TPInfoRec& B = second ? g().TP1Info : g().TP2Info;
         fillByPrefix(*form, text::toLower(g().RecordPrefix), Who, A, B);
 
         const std::string prefix = text::toUpper(g().RecordPrefix);

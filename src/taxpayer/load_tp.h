@@ -9,7 +9,8 @@ namespace lw {
 
 class Form;
 
-// Who is "TP 1" or "TP 2", the end of the pressed button's caption. Every fill reads the store afresh.
+// Who is "TP 1" or "TP 2", the end of the pressed button's caption. Every fill reads the store afresh
+// into the two taxpayers' records, which keep the parts of a block the store has lost.
 void TPInfo_Read(const std::string& Who);
 
 // The fills of the forms that do not take the general one; A is the person of the button, B the other.

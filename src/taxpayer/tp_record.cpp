@@ -29,8 +29,9 @@ void TPInfo_Parse_NameAddr(TPInfoRec& Rec) {
             text::split(Rec.NameAddr, std::string(1, text::kLineSeparator));
         const std::size_t n = lines.size() - 1;
         Rec.Name = lines[0];
-        if (n >= 1) Rec.Street = n == 1 ? lines[1] : joined(lines, 1, n - 1, " ");
-        if (n >= 2) Rec.CityStateZip = lines[n];
+        // A block that lacks a line has no such part: nothing of an earlier person stays in it.
+        Rec.Street = n == 0 ? "" : n == 1 ? lines[1] : joined(lines, 1, n - 1, " ");
+        Rec.CityStateZip = n >= 2 ? lines[n] : "";
         Rec.NameAddr = joined(lines, 0, n, "\r\n");
         Rec.Address = Rec.Street;
         if (!Rec.CityStateZip.empty()) Rec.Address += "\r\n" + Rec.CityStateZip;

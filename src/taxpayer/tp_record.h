@@ -1,22 +1,12 @@
 #pragma once
-// A person of the store as the forms want it: the whole block, or its name, street and city lines.
+// The stored block of a person cut into the parts that the forms fill.
 
-#include <string>
+#include "model/tp_info_rec.h"
 
 namespace lw {
 
-struct TPInfoRec {
-    std::string SSN;
-    std::string DOB;
-    std::string NameAddr;      // the block, lines ended by CR LF
-    std::string Name;          // the first line
-    std::string Address;       // everything after the first line
-    std::string Street;        // second to last-but-one line, joined by blanks
-    std::string CityStateZip;  // the last line, when the block has three lines or more
-};
-
-// Cuts the stored block (lines joined by "»") of Rec.NameAddr into its lines, in place. An empty block
-// leaves every other field as it was.
+// Cuts the stored block (lines joined by "»") of Rec.NameAddr into its lines, in place: a block gives
+// every part anew, an empty one leaves every other field as it was.
 void TPInfo_Parse_NameAddr(TPInfoRec& Rec);
 
 }  // namespace lw

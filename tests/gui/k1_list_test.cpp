@@ -120,11 +120,11 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
     EXPECT_FALSE(k1HelpMembers().K1Cancel) << "only the Cancel button sets it";
 }
 
-// The shipped lists of one box of each form, drawn as the dialog shows them. With LW_SCREENSHOT_DIR set
-// the pictures are kept there to be looked at.
+// The shipped lists of one box of each form and the longest list, drawn as the dialog shows them. With
+// LW_SCREENSHOT_DIR set the pictures are kept there to be looked at.
 TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
     program_->g.K1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
-    for (const char* key : {"K1-1041-Box13", "K1-1065-Box20", "K1-1120S-Box17"}) {
+    for (const char* key : {"K1-1041-Box13", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box17"}) {
         k1HelpMembers().F97_K1Key = key;
         Form& list = desktop().load(std::make_unique<F6_K1Help>(), false);
         const QImage picture = renderForm(list);

@@ -27,12 +27,14 @@ std::set<std::string> with(std::set<std::string> codes, std::initializer_list<co
 // project's reference list of K-1 codes (shared/reference/k1-codes.md) so that the test stands alone.
 const std::map<std::string, std::set<std::string>>& referenceCodes() {
     static const std::set<std::string> credits =
-        with(letters('A', 'Z'), {"AA", "AB", "AC", "AD", "AE", "AF", "AG", "AH", "ZZ"});
+        with(letters('A', 'Z'),
+             {"AA", "AB", "AC", "AD", "AE", "AF", "AG", "AH", "AI", "AJ", "AK", "AL", "AM", "AO", "ZZ"});
     static const std::map<std::string, std::set<std::string>> codes{
         {"K1-1041-Box9", letters('A', 'C')},
         {"K1-1041-Box11", letters('A', 'G')},
         {"K1-1041-Box12", letters('A', 'J')},
-        {"K1-1041-Box13", {"A", "B", "C", "D", "F", "G", "H", "J", "K", "M", "N", "O", "P", "Q", "R", "ZZ"}},
+        {"K1-1041-Box13",
+         {"A", "B", "C", "D", "F", "G", "H", "I", "J", "K", "M", "N", "O", "P", "Q", "R", "ZZ"}},
         {"K1-1041-Box14", with(letters('A', 'I'), {"ZZ"})},
         {"K1-1065-Box11", with(letters('A', 'H'), {"ZZ"})},
         {"K1-1065-Box13",
@@ -45,11 +47,11 @@ const std::map<std::string, std::set<std::string>>& referenceCodes() {
         {"K1-1065-Box20", with(letters('A', 'T'), {"V", "W", "X", "Y", "Z", "AA", "AB", "AC", "AD", "AE",
                                                    "AF", "AG", "AJ", "ZZ"})},
         {"K1-1120S-Box10", with(letters('A', 'D'), {"ZZ"})},
-        {"K1-1120S-Box12", with(letters('A', 'J'), {"ZZ"})},
+        {"K1-1120S-Box12", with(letters('A', 'J'), {"L", "M", "N", "O", "ZZ"})},
         {"K1-1120S-Box13", credits},
         {"K1-1120S-Box15", letters('A', 'F')},
         {"K1-1120S-Box16", letters('A', 'F')},
-        {"K1-1120S-Box17", with(letters('A', 'H'), {"AC", "ZZ"})},
+        {"K1-1120S-Box17", with(letters('A', 'R'), {"U", "V", "AA", "AB", "AC", "ZZ"})},
     };
     return codes;
 }
@@ -83,7 +85,22 @@ TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode)
             EXPECT_TRUE(parts[2].empty() || parts[2] == "\tX")
                 << "only a tab and X mark an override: " << line;
         }
+        EXPECT_EQ(seen, codes) << section << " lacks a code of the instructions";
     }
+}
+
+std::string informationOf(const std::string& section, const std::string& code) {
+    for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
+        const std::vector<std::string> row = text::split(K1Help_GridRow(line), "\t");
+        if (row.at(0) == code) return row.at(2);
+    }
+    return "(no code " + code + ")";
+}
+
+TEST(ShippedK1Help, DepletionForTheMinimumTaxPointsToTheDepletionLineOfForm6251) {
+    EXPECT_EQ(informationOf("K1-1041-Box12", "H"), "Form 6251 line 2d");
+    EXPECT_EQ(informationOf("K1-1065-Box17", "C"), "Form 6251 line 2d");
+    EXPECT_EQ(informationOf("K1-1120S-Box15", "C"), "Form 6251 line 2d");
 }
 
 TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
@@ -93,7 +110,7 @@ TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
         {"K1-1065-Box20", {"O", "P", "Q", "T", "X", "Z", "AA", "ZZ"}},
         {"K1-1120S-Box12", {"J"}},
         {"K1-1120S-Box16", {"B"}},
-        {"K1-1120S-Box17", {"ZZ"}},
+        {"K1-1120S-Box17", {"M", "N", "O", "R", "V", "ZZ"}},
     };
     for (const auto& [section, codes] : referenceCodes()) {
         std::set<std::string> marked;

@@ -126,6 +126,8 @@ TEST_F(Render, EachDrawnFormIsAPageWhoseTextLayerHoldsEveryField) {
         ASSERT_TRUE(text);
         for (const std::string& word : d.texts)
             EXPECT_NE(text->find(word), std::string::npos) << d.form << ": " << word;
+        // The status line, which names the file after Open, is no part of the paper.
+        EXPECT_EQ(text->find(fs::path(d.path).filename().string()), std::string::npos) << d.form;
     }
     // The progress count stands before each line when there are more than ten files.
     EXPECT_NE(out.str().find("[ 1/" + std::to_string(documents.size()) + "] "), std::string::npos)

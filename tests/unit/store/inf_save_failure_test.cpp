@@ -3,6 +3,7 @@
 #include <csignal>
 #include <string>
 
+#include "permissions_enforced.h"
 #include "scratch_folder.h"
 #include "store/inf_store.h"
 
@@ -14,6 +15,7 @@
 namespace lw::store {
 namespace {
 
+using testing::PermissionsEnforced;
 using testing::readBytes;
 using testing::ScratchFolder;
 using testing::writeBytes;
@@ -107,6 +109,8 @@ TEST(SaveInfFailure, HalfWrittenTemporaryIsRemoved) {
 }
 #endif
 
+// The folder takes no new file, so the save cannot even begin its temporary copy. The superuser's power
+// to write anywhere is put aside for the test, so the folder refuses whoever runs it.
 TEST(SaveInfFailure, ReadOnlyFolderKeepsTheOldFile) {
     ScratchFolder folder;
     std::filesystem::path sub = folder.path() / "ro";
@@ -115,12 +119,14 @@ TEST(SaveInfFailure, ReadOnlyFolderKeepsTheOldFile) {
     writeBytes(file, kOld);
     std::filesystem::permissions(sub,
                                  std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    PermissionsEnforced enforced;
+    ASSERT_TRUE(enforced.active());
     writeBytes((sub / "probe").string(), "x");
-    if (std::filesystem::exists(sub / "probe")) {
-        GTEST_SKIP() << "permissions are not enforced for this user (root)";
-    }
+    ASSERT_FALSE(std::filesystem::exists(sub / "probe")) << "the read-only folder took a new file";
+
     InfWriteError e = failedSave("ALICE", "Printer", "Ink", file);
     EXPECT_EQ(e.number(), 900);
+    EXPECT_EQ(e.description(), "Error Writing ALICE/Printer/Ink\r\nto " + file);
     EXPECT_EQ(readBytes(file), kOld);
     EXPECT_EQ(ScratchFolder::entriesOf(sub), std::vector<std::string>{"User.inf"});
 }

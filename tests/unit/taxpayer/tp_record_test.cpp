@@ -65,6 +65,26 @@ TEST(ParseNameAddr, AnEmptyBlockLeavesTheOtherFieldsAsTheyWere) {
     EXPECT_EQ(rec.Street, "1 OLD RD");
 }
 
+TEST(ParseNameAddr, ABlockParsedOverAnEarlierPersonKeepsNoneOfItsLines) {
+    TPInfoRec rec = parsed(
+        "JOHN DOE\xBB"
+        "12 MAIN ST\xBB"
+        "ANYTOWN, OH 44000");
+    rec.NameAddr =
+        "ANN LEE\xBB"
+        "5 OAK AVE";
+    TPInfo_Parse_NameAddr(rec);
+    EXPECT_EQ(rec.Name, "ANN LEE");
+    EXPECT_EQ(rec.Street, "5 OAK AVE");
+    EXPECT_EQ(rec.CityStateZip, "");
+    EXPECT_EQ(rec.Address, "5 OAK AVE");
+    rec.NameAddr = "TIFIMRU";
+    TPInfo_Parse_NameAddr(rec);
+    EXPECT_EQ(rec.Name, "TIFIMRU");
+    EXPECT_EQ(rec.Street, "");
+    EXPECT_EQ(rec.Address, "");
+}
+
 TEST(ParseNameAddr, AHugeBlockIsCutWithoutFault) {
     std::string stored(10000, 'A');
     stored +=

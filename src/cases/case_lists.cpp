@@ -1,0 +1,66 @@
+#include "cases/case_lists.h"
+
+#include <stdexcept>
+
+#include "store/inf_store.h"
+#include "text/pieces.h"
+
+namespace lw::cases {
+
+namespace {
+
+// Big enough for any list a trainer could want; the program's own settings read through 1024 characters.
+constexpr std::size_t kListBuffer = 1 << 20;
+
+std::vector<std::string> entries(const std::string& file, const std::string& section) {
+    std::vector<std::string> lines = store::ReadINFSection(section, file, kListBuffer);
+    if (lines.empty()) throw std::runtime_error(file + " has no entries under [" + section + "]");
+    return lines;
+}
+
+std::vector<std::string> fieldsOf(const std::string& line, std::size_t count, const std::string& file,
+                                  const std::string& section) {
+    std::vector<std::string> fields = text::split(line, "|");
+    for (std::string& field : fields) field = text::trim(field);
+    if (fields.size() != count)
+        throw std::runtime_error(file + " [" + section + "]: \"" + line + "\" should have " +
+                                 std::to_string(count) + " parts split by |");
+    return fields;
+}
+
+}  // namespace
+
+CaseLists readCaseLists(const std::string& file) {
+    CaseLists lists;
+    lists.givenFemale = entries(file, "GivenFemale");
+    lists.givenMale = entries(file, "GivenMale");
+    lists.surnames = entries(file, "Surnames");
+    lists.streets = entries(file, "Streets");
+    for (const std::string& line : entries(file, "Towns")) {
+        auto f = fieldsOf(line, 4, file, "Towns");
+        lists.towns.push_back({f[0], f[1], f[2], f[3]});
+    }
+    for (const std::string& line : entries(file, "Employers")) {
+        auto f = fieldsOf(line, 4, file, "Employers");
+        const auto pay = [&](const std::string& dollars) {
+            if (dollars.empty() || dollars.find_first_not_of("0123456789") != std::string::npos || dollars.size() > 9)
+                throw std::runtime_error(file + " [Employers]: \"" + line + "\" has no yearly pay from-to");
+            return std::stoll(dollars);
+        };
+        lists.employers.push_back({f[0], f[1], pay(f[2]), pay(f[3])});
+    }
+    lists.banks = entries(file, "Banks");
+    lists.funds = entries(file, "Funds");
+    lists.lenders = entries(file, "Lenders");
+    lists.servicers = entries(file, "Servicers");
+    lists.schools = entries(file, "Schools");
+    lists.clients = entries(file, "Clients");
+    lists.platforms = entries(file, "Platforms");
+    lists.pensions = entries(file, "Pensions");
+    lists.casinos = entries(file, "Casinos");
+    lists.partnerships = entries(file, "Partnerships");
+    lists.insurers = entries(file, "Insurers");
+    return lists;
+}
+
+}  // namespace lw::cases

@@ -1,0 +1,234 @@
+#include "cases/class_set.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "cases/batched_disk.h"
+#include "cases/case_documents.h"
+#include "cases/dice.h"
+#include "cases/household.h"
+#include "cases/operator_script.h"
+#include "render/render_job.h"
+#include "script/script_runner.h"
+#include "store/atomic_file.h"
+#include "store/inf_store.h"
+
+namespace lw::cases {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMostCases = 500;
+
+std::string caseName(int number, int count) {
+    std::string digits = std::to_string(number);
+    const std::size_t width = std::max<std::size_t>(2, std::to_string(count).size());
+    return "case-" + std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+// A folder of its own in the temporary folder, gone with the object.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string pattern = (fs::temp_directory_path() / "ledgerwick-cases-XXXXXX").string();
+        if (mkdtemp(pattern.data())) path_ = pattern;
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        if (!path_.empty()) fs::remove_all(path_, ec);
+    }
+    const std::string& path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+bool canWriteInto(const std::string& folder) {
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    if (!fs::is_directory(folder, ec)) return false;
+    const fs::path probe = fs::path(folder) / ".ledgerwick-cases-probe";
+    {
+        std::ofstream out(probe);
+        if (!(out << "x")) return false;
+    }
+    fs::remove(probe, ec);
+    return true;
+}
+
+bool writeWhole(const fs::path& file, const std::string& content) {
+    std::string error;
+    return store::writeFileAtomically(file, content, error);
+}
+
+// The boxes, reports and failed checks of a played script: what a trainer needs of its output.
+std::string whatWentWrong(const std::string& played) {
+    std::istringstream lines(played);
+    std::string line, told;
+    while (std::getline(lines, line))
+        for (const char* start : {"box ", "report ", "FAIL ", "ERROR "})
+            if (line.rfind(start, 0) == 0) told += "  " + line + "\n";
+    return told.empty() ? played : told;
+}
+
+}  // namespace
+
+std::string userRootFolder() {
+    if (const char* root = std::getenv("LEDGERWICK_ROOT"); root && *root) return root;
+    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data) return std::string(data) + "/ledgerwick";
+    const char* home = std::getenv("HOME");
+    return std::string(home ? home : ".") + "/.local/share/ledgerwick";
+}
+
+std::string profileFileFor(const std::string& shippedFolder, const std::string& userRoot) {
+    const fs::path own = fs::path(userRoot) / "LedgerwickInfFiles" / "CaseProfiles.inf";
+    std::error_code ec;
+    if (!userRoot.empty() && fs::is_regular_file(own, ec)) return own.string();
+    return (fs::path(shippedFolder) / "CaseProfiles.inf").string();
+}
+
+ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::string userRoot)
+    : options_(std::move(options)), shippedFolder_(std::move(shippedFolder)) {
+    if (options_.count < 1 || options_.count > kMostCases)
+        throw ClassSetRefused{"the count must be a number from 1 to " + std::to_string(kMostCases)};
+    if (options_.edition != "Venturo" && options_.edition != "OthAgcy")
+        throw ClassSetRefused{"the edition must be Venturo or OthAgcy"};
+    profileFile_ = profileFileFor(shippedFolder_, userRoot);
+    try {
+        lists_ = readCaseLists((fs::path(shippedFolder_) / "CaseLists.inf").string());
+        profiles_ = readProfiles(profileFile_);
+    } catch (const std::exception& e) {
+        throw ClassSetRefused{e.what()};
+    }
+    for (const std::string& name : options_.profiles) {
+        const Profile* found = nullptr;
+        for (const Profile& profile : profiles_)
+            if (profile.name == name) found = &profile;
+        if (!found) {
+            std::string known;
+            for (const Profile& profile : profiles_) known += (known.empty() ? "" : ", ") + profile.name;
+            throw ClassSetRefused{"there is no profile \"" + name + "\" (the profiles are " + known + ")"};
+        }
+        chosen_.push_back(found);
+    }
+    if (chosen_.empty())
+        for (const Profile& profile : profiles_) chosen_.push_back(&profile);
+    const std::string ssmc = (fs::path(shippedFolder_) / "SSMC.inf").string();
+    const std::string year = std::to_string(options_.year);
+    const std::string base = store::ReadINF(year, "SSMax", "", ssmc);
+    if (options_.year < 1900 || options_.year > 2999 || base.empty() ||
+        store::ReadINF(year, "SSRate", "", ssmc).empty())
+        throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
+                              " in " + ssmc};
+    socialSecurityMax_ = std::atoll(base.c_str());
+    if (options_.out.empty() || !canWriteInto(options_.out))
+        throw ClassSetRefused{"the folder \"" + options_.out + "\" cannot be written"};
+}
+
+std::string ClassSet::executableName() const { return "Ledgerwick_" + options_.edition; }
+std::string ClassSet::extension() const { return options_.edition == "Venturo" ? ".venturo" : ".taxForm"; }
+
+const Profile& ClassSet::profileOfCase(int number) const {
+    // One profile asked for, or several in turn, so a mixed set holds every kind evenly.
+    return *chosen_[static_cast<std::size_t>(number - 1) % chosen_.size()];
+}
+
+int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progress) {
+    int failed = 0;
+    answers_.clear();
+    {
+        BatchedDisk batched;
+        for (int number = 1; number <= options_.count; ++number) {
+            if (!makeCase(number, log)) ++failed;
+            if (progress) progress(number, options_.count);
+        }
+    }
+    const fs::path out(options_.out);
+    if (!BatchedDisk::syncAllUnder(out)) {
+        log << "ledgerwick-cases: the cases could not be put on the disk under " << options_.out << "\n";
+        ++failed;
+    }
+    if (!writeWhole(out / "answers.csv", answersCsv(answers_)) ||
+        !writeWhole(out / "answers.md", answersMarkdown(answers_, options_.year))) {
+        log << "ledgerwick-cases: the answer key could not be written into " << options_.out << "\n";
+        ++failed;
+    }
+    return failed;
+}
+
+bool ClassSet::makeCase(int number, std::ostream& log) {
+    const std::string name = caseName(number, options_.count);
+    const fs::path finished = fs::path(options_.out) / name;
+    const fs::path staging = fs::path(options_.out) / (name + ".partial");
+    std::error_code ec;
+    fs::remove_all(staging, ec);
+    fs::remove_all(finished, ec);
+    fs::create_directories(staging, ec);
+    auto giveUp = [&](const std::string& why) {
+        log << "ledgerwick-cases: " << name << " was not made: " << why << "\n";
+        fs::remove_all(staging, ec);
+        return false;
+    };
+    if (ec) return giveUp("its folder cannot be made");
+
+    const std::uint64_t seed = caseSeed(options_.seed, number);
+    Dice dice(seed);
+    const Profile& profile = profileOfCase(number);
+    const Household household = makeHousehold(profile, options_.year, lists_, dice);
+
+    ScratchFolder disk;
+    if (disk.path().empty()) return giveUp("no temporary folder");
+    OperatorScript script(disk.path(), std::to_string(options_.year) + "-06-15 09:00:00", executableName());
+    CaseWriting writing{household, lists_, dice, script, staging.string(), socialSecurityMax_};
+    writeTaxpayerSheet(writing);
+    for (const DocumentRule& rule : profile.documents) {
+        const long long count = dice.between(rule.count.lo, rule.count.hi);
+        for (int i = 0; i < count; ++i) writeDocument(writing, rule, i);
+    }
+    std::ostringstream played;
+    int status = 0;
+    {
+        // One program runs in a process at a time: this one ends before the pages are drawn.
+        std::istringstream input(script.text());
+        script::ScriptRunner runner(played, shippedFolder_);
+        status = runner.run(input);
+    }
+    if (status != 0 || played.str().find("\nreport ") != std::string::npos)
+        return giveUp("the program did not take its documents as written:\n" + whatWentWrong(played.str()));
+
+    if (options_.pdf) {
+        render::RenderOptions pages;
+        pages.edition = executableName();
+        pages.year = options_.year;
+        pages.pdf = (staging / "case.pdf").string();
+        for (const auto& entry : fs::directory_iterator(staging))
+            if (entry.path().extension() == extension()) pages.files.push_back(entry.path().string());
+        std::sort(pages.files.begin(), pages.files.end());
+        // The taxpayer sheet leads the case, as a trainer hands it out.
+        std::stable_partition(pages.files.begin(), pages.files.end(), [](const std::string& file) {
+            return fs::path(file).filename().string().find("_TPINFO_") != std::string::npos;
+        });
+        std::ostringstream quiet, trouble;
+        if (render::renderDocuments(pages, shippedFolder_, quiet, trouble) != 0)
+            return giveUp("its pages could not be drawn: " + trouble.str());
+    }
+    CaseAnswers answers;
+    try {
+        answers = readCaseAnswers(staging.string(), extension());
+    } catch (const std::exception& e) {
+        return giveUp(e.what());
+    }
+    answers.caseName = name;
+    answers.profile = profile.name;
+    answers.filingStatus = household.filingStatus();
+    fs::rename(staging, finished, ec);
+    if (ec) return giveUp("it could not be moved into place");
+    answers_.push_back(answers);
+    return true;
+}
+
+}  // namespace lw::cases

@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "cases/case_profiles.h"
+#include "cases/class_set.h"
+#include "cases/fake_numbers.h"
+#include "qt_offscreen.h"
+
+namespace lw::cases {
+namespace {
+
+namespace fs = std::filesystem;
+
+const auto* const kQt = testing::addQtOffscreen();
+const std::string kShipped = LW_BIN_DIR;
+
+fs::path freshFolder(const std::string& name) {
+    const fs::path folder = fs::temp_directory_path() / ("lw-class-set-" + name);
+    fs::remove_all(folder);
+    return folder;
+}
+
+std::string bytesOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+// Every file under a folder, by its path below it, with its bytes.
+std::map<std::string, std::string> filesUnder(const fs::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.is_regular_file()) files[fs::relative(entry.path(), folder).string()] = bytesOf(entry.path());
+    return files;
+}
+
+int make(ClassSetOptions options, const std::string& userRoot = "") {
+    ClassSet set(std::move(options), kShipped, userRoot);
+    std::ostringstream log;
+    const int failed = set.make(log);
+    EXPECT_EQ(log.str(), "");
+    return failed;
+}
+
+ClassSetOptions optionsFor(const fs::path& out, int count, std::uint64_t seed, std::vector<std::string> profiles = {}) {
+    ClassSetOptions options;
+    options.count = count;
+    options.seed = seed;
+    options.year = 2025;
+    options.out = out.string();
+    options.profiles = std::move(profiles);
+    return options;
+}
+
+// The value of a field of a saved line, as an amount in cents; 0 when the line lacks it.
+long long centsIn(const std::string& line, const std::string& key) {
+    const std::string marker = "\xB7" + key + "=";
+    const std::size_t at = line.find(marker);
+    if (at == std::string::npos) return 0;
+    std::string digits;
+    for (std::size_t i = at + marker.size(); i < line.size() && line[i] != '\xB7' && line[i] != '\r'; ++i)
+        if (line[i] >= '0' && line[i] <= '9') digits += line[i];
+    return digits.empty() ? 0 : std::stoll(digits);
+}
+
+std::vector<std::string> csvLine(const std::string& line) {
+    std::vector<std::string> fields(1);
+    bool quoted = false;
+    for (char c : line) {
+        if (c == '"') quoted = !quoted;
+        else if (c == ',' && !quoted) fields.emplace_back();
+        else fields.back() += c;
+    }
+    return fields;
+}
+
+TEST(ClassSet, EveryProfileMakesWholeCasesWithTheirSheetAndDocuments) {
+    for (const Profile& profile : readProfiles(kShipped + "/CaseProfiles.inf")) {
+        const fs::path out = freshFolder("profile-" + profile.name);
+        ASSERT_EQ(make(optionsFor(out, 2, 11, {profile.name})), 0) << profile.name;
+        for (const char* name : {"case-01", "case-02"}) {
+            ASSERT_TRUE(fs::is_directory(out / name)) << profile.name;
+            int sheets = 0, documents = 0;
+            for (const auto& entry : fs::directory_iterator(out / name)) {
+                const std::string line = bytesOf(entry.path());
+                sheets += line.rfind("TPINFO\xB7", 0) == 0;
+                ++documents;
+            }
+            EXPECT_EQ(sheets, 1) << profile.name << " " << name;
+            EXPECT_GE(documents, 3) << profile.name << " " << name;
+        }
+        EXPECT_FALSE(fs::exists(out / "case-01.partial"));
+        EXPECT_TRUE(fs::exists(out / "answers.csv"));
+        EXPECT_TRUE(fs::exists(out / "answers.md"));
+    }
+}
+
+TEST(ClassSet, TheSameSeedMakesTheSameCasesByteForByte) {
+    const fs::path first = freshFolder("seed-a"), second = freshFolder("seed-b"), other = freshFolder("seed-c");
+    ASSERT_EQ(make(optionsFor(first, 7, 2024)), 0);
+    ASSERT_EQ(make(optionsFor(second, 7, 2024)), 0);
+    ASSERT_EQ(make(optionsFor(other, 7, 2025)), 0);
+    const auto a = filesUnder(first), b = filesUnder(second), c = filesUnder(other);
+    EXPECT_GT(a.size(), 30u);
+    EXPECT_EQ(a, b);
+    EXPECT_NE(a, c);
+}
+
+TEST(ClassSet, NumbersOnTheDocumentsCanBelongToNobody) {
+    const fs::path out = freshFolder("numbers");
+    ASSERT_EQ(make(optionsFor(out, 14, 99)), 0);
+    const std::regex tin(R"((?:^|[^0-9-])(\d{3}-\d{2}-\d{4})(?:$|[^0-9]))");
+    const std::regex ein(R"((?:^|[^0-9-])(\d{2}-\d{7})(?:$|[^0-9]))");
+    const std::regex phone(R"(\((\d{3})\) (\d{3})-(\d{4}))");
+    int tins = 0, eins = 0, phones = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (path.rfind("answers", 0) == 0) continue;
+        for (std::sregex_iterator it(line.begin(), line.end(), tin), end; it != end; ++it, ++tins) {
+            const std::string number = (*it)[1];
+            EXPECT_TRUE(isUnissuedSocialSecurityNumber(number) || isUnissuedTaxpayerNumber(number))
+                << number << " in " << path;
+        }
+        for (std::sregex_iterator it(line.begin(), line.end(), ein), end; it != end; ++it, ++eins) {
+            const std::string number = (*it)[1];
+            // The railroad board's and the personnel office's own numbers stand printed on their forms.
+            if (number == "36-3314600" || number == "52-6083699") continue;
+            EXPECT_TRUE(isUnassignedEmployerNumber(number)) << number << " in " << path;
+        }
+        for (std::sregex_iterator it(line.begin(), line.end(), phone), end; it != end; ++it, ++phones) {
+            EXPECT_EQ((*it)[2], "555") << path;
+            EXPECT_EQ(std::string((*it)[3]).substr(0, 2), "01") << path;
+        }
+    }
+    EXPECT_GT(tins, 50);
+    EXPECT_GT(eins, 20);
+    EXPECT_GT(phones, 10);
+}
+
+TEST(ClassSet, TheAnswerKeyIsTheSumOfTheSavedDocuments) {
+    const fs::path out = freshFolder("answers");
+    ASSERT_EQ(make(optionsFor(out, 6, 5, {"married-with-children", "retiree", "investor"})), 0);
+    std::istringstream csv(bytesOf(out / "answers.csv"));
+    std::string header, row;
+    std::getline(csv, header);
+    const auto titles = csvLine(header);
+    auto column = [&](const std::string& title) {
+        return static_cast<std::size_t>(std::find(titles.begin(), titles.end(), title) - titles.begin());
+    };
+    int rows = 0;
+    while (std::getline(csv, row)) {
+        const auto fields = csvLine(row);
+        long long wages = 0, interest = 0, socialSecurity = 0;
+        for (const auto& [path, line] : filesUnder(out / fields[0])) {
+            if (line.rfind("W-2\xB7", 0) == 0) wages += centsIn(line, "TXT2");
+            if (line.rfind("1099-INT\xB7", 0) == 0) interest += centsIn(line, "TXT2");
+            if (line.rfind("SSA\xB7", 0) == 0) socialSecurity += centsIn(line, "TXT4");
+            if (line.rfind("RRB\xB7", 0) == 0) socialSecurity += centsIn(line, "TXT6");
+        }
+        auto cents = [&](const std::string& title) {
+            std::string text = fields.at(column(title));
+            text.erase(std::remove(text.begin(), text.end(), '.'), text.end());
+            return std::stoll(text);
+        };
+        EXPECT_EQ(cents("Wages (W-2 box 1)"), wages) << fields[0];
+        EXPECT_EQ(cents("Taxable interest"), interest) << fields[0];
+        EXPECT_EQ(cents("Social security benefits (net, box 5)"), socialSecurity) << fields[0];
+        ++rows;
+    }
+    EXPECT_EQ(rows, 6);
+}
+
+TEST(ClassSet, TheW2TaxesAreTheFormsOwnForTheYear) {
+    const fs::path out = freshFolder("w2");
+    ASSERT_EQ(make(optionsFor(out, 6, 8, {"married-with-children"})), 0);
+    int checked = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("W-2\xB7", 0) != 0) continue;
+        const long long socialSecurityWages = centsIn(line, "TXT5");
+        const long long medicareWages = centsIn(line, "TXT7");
+        // 2025: 6.2% up to 176,100 and 1.45% below the 200,000 change point; the form rounds to the cent.
+        EXPECT_LE(socialSecurityWages, 17610000);
+        EXPECT_NEAR(centsIn(line, "TXT6"), socialSecurityWages * 62 / 1000.0, 1.0) << path;
+        EXPECT_NEAR(centsIn(line, "TXT8"), medicareWages * 145 / 10000.0, 1.0) << path;
+        ++checked;
+    }
+    EXPECT_GE(checked, 12);
+}
+
+TEST(ClassSet, WhatCannotBeMadeIsRefusedBeforeAnythingIsWritten) {
+    const fs::path out = freshFolder("refused");
+    auto refusal = [&](ClassSetOptions options) {
+        try {
+            ClassSet set(std::move(options), kShipped, "");
+            return std::string("no refusal");
+        } catch (const ClassSetRefused& refused) {
+            return refused.why;
+        }
+    };
+    EXPECT_EQ(refusal(optionsFor(out, 0, 1)), "the count must be a number from 1 to 500");
+    EXPECT_EQ(refusal(optionsFor(out, 501, 1)), "the count must be a number from 1 to 500");
+    EXPECT_NE(refusal(optionsFor(out, 1, 1, {"astronaut"})).find("there is no profile \"astronaut\""),
+              std::string::npos);
+    auto noRates = optionsFor(out, 1, 1);
+    noRates.year = 1999;
+    EXPECT_NE(refusal(noRates).find("no Social Security and Medicare figures for the year 1999"), std::string::npos);
+    // A folder below a plain file cannot be made, for root as for anyone.
+    const fs::path file = freshFolder("a-file");
+    std::ofstream(file) << "x";
+    EXPECT_EQ(refusal(optionsFor(file / "inside", 1, 1)),
+              "the folder \"" + (file / "inside").string() + "\" cannot be written");
+    EXPECT_FALSE(fs::exists(out / "case-1"));
+}
+
+TEST(ClassSet, ACaseTheProgramRefusesIsLeftOutWhole) {
+    // A trainer's profile of benefits smaller than the Medicare premium taken from them: the form refuses
+    // the negative amount paid, and that case is absent.
+    const fs::path root = freshFolder("own-root");
+    fs::create_directories(root / "LedgerwickInfFiles");
+    std::ofstream(root / "LedgerwickInfFiles" / "CaseProfiles.inf")
+        << "[too-poor]\r\nSSA=1\r\nSSA.Amount=100-100\r\n";
+    const fs::path out = freshFolder("refused-case");
+    ClassSet set(optionsFor(out, 2, 1), kShipped, root.string());
+    std::ostringstream log;
+    EXPECT_EQ(set.make(log), 2);
+    EXPECT_NE(log.str().find("case-01 was not made"), std::string::npos) << log.str();
+    EXPECT_FALSE(fs::exists(out / "case-01"));
+    EXPECT_FALSE(fs::exists(out / "case-01.partial"));
+    EXPECT_TRUE(fs::exists(out / "answers.csv"));
+}
+
+}  // namespace
+}  // namespace lw::cases
