@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 
 #include "config/rates.h"
@@ -27,6 +28,7 @@ Globals& g() { return program().g; }
 // Where the operator reads up on Medicare; the status frame's caption names it.
 const char* const kMedicareAgencyAddress = "www.cms.gov";
 constexpr int kFigureSelectionLength = 20;
+constexpr int kOverflow = 6;
 
 std::string lastTwo(const std::string& text) {
     return text.size() >= 2 ? text.substr(text.size() - 2) : text;
@@ -154,7 +156,16 @@ void F1_Configure::chooseFileNameFormat() {
     }
     const std::optional<double> number = text::toDouble(remembered);
     if (!number) throw AppError(err::kTypeMismatch, "Type mismatch");
-    switchOn(at("optFileName", static_cast<int>(std::nearbyint(*number))));
+    // A control array's index is a 16-bit integer: a number beyond it overflows before any option is
+    // looked at, and one within it that names no option (below 0 too) is a missing element.
+    const double index = std::nearbyint(*number);
+    if (!(index >= INT16_MIN && index <= INT16_MAX)) throw AppError(kOverflow, "Overflow");
+    Control* option = index >= 0 ? find("optFileName", static_cast<int>(index)) : nullptr;
+    if (!option)
+        throw AppError(
+            err::kControlArrayElementMissing,
+            "Control array element '" + std::to_string(static_cast<int>(index)) + "' doesn't exist");
+    switchOn(*option);
 }
 
 void F1_Configure::switchOn(Control& option) {
