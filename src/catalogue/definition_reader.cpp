@@ -121,6 +121,7 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
     if (key == "tag") c.tag = value;
     else if (key == "tab") c.tabIndex = line.toNumber(value, "tab index");
     else if (key == "tip") c.toolTipText = value;
+    else if (key == "say") c.spokenName = value;
     else if (key == "text") c.text = value;
     else if (key == "caption") c.caption = value;
     else if (key == "align") c.alignment = alignmentOf(line, value);

@@ -50,6 +50,10 @@ struct Control {
     std::string caption;
     std::string tag;
     std::string toolTipText;
+    // What a screen reader says for a field that no caption of the form names well; on a frame, panel or
+    // shape, the words said before the name of every field inside it. Empty: the names come from the
+    // captions around the field.
+    std::string spokenName;
 
     bool locked = false;
     bool enabled = true;
