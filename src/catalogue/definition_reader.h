@@ -18,7 +18,8 @@
 // `tabs="First|Second"`.
 //
 // `say="..."` gives the words a screen reader says for a field no caption names well, or, on a frame,
-// panel or shape, the words said before the name of every field inside it.
+// panel or shape, the words said before the name of every field inside it. A line `say Text1(0) "..."`
+// gives them to a control drawn before.
 
 #include <stdexcept>
 #include <string>

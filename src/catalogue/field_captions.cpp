@@ -243,7 +243,10 @@ const Control* captionBeside(const Form& form, const Control& control, const Bes
         // A caption may run a little into its field where the drawing is tight.
         if (gap < -120 || gap > how.reach || gap >= bestGap) continue;
         // The caption over a box's own fields is no caption of a field beside it in the next box.
-        if (!how.headingsToo && headsFieldBelow(form, label)) continue;
+        // A caption this close names its field whatever stands below it, unless a rule may part them.
+        constexpr int kRightBeside = 150;
+        const bool close = gap <= kRightBeside && !how.acrossRules;
+        if (!how.headingsToo && !close && headsFieldBelow(form, label)) continue;
         if (!how.acrossRules && ruledApartAcross(form, label, control)) continue;
         best = &label;
         bestGap = gap;
@@ -255,8 +258,8 @@ const Control* captionBeside(const Form& form, const Control& control, const Bes
 const Control* checkBoxCaption(const Form& form, const Control& box) {
     int leftGap = 0;
     int rightGap = 0;
-    const Control* left = captionBeside(form, box, Beside{}, &leftGap);
-    const Control* right = captionBeside(form, box, Beside{true}, &rightGap);
+    const Control* left = captionBeside(form, box, Beside{false, 450, true}, &leftGap);
+    const Control* right = captionBeside(form, box, Beside{true, 450, true}, &rightGap);
     // Words set flush right lead to the box after them.
     if (left && right && left->alignment == static_cast<int>(Alignment::Right)) return left;
     if (left && right) return leftGap < rightGap ? left : right;
@@ -273,6 +276,7 @@ const Control* numberedBeside(const Form& form, const Control& caption) {
 
 const Control* rowCaptionOf(const Form& form, const Control& field) {
     constexpr int kReachBeside = 450;
+    constexpr int kCellsApart = 900;  // the cells of a row of months stand this far apart
     const Control* at = &field;
     for (int hop = 0; hop < 64; ++hop) {
         // A table keeps its rows' captions in a column of their own, ruled off from the cells.
@@ -285,9 +289,10 @@ const Control* rowCaptionOf(const Form& form, const Control& field) {
             if (&other == at || !isField(other) || other.container != at->container ||
                 pageOf(other) != pageOf(*at))
                 continue;
-            if (std::abs(topOf(other) - topOf(*at)) > kSameColumn) continue;
+            const int middles = (topOf(other) + other.height / 2) - (topOf(*at) + at->height / 2);
+            if (std::abs(middles) > kSameColumn) continue;
             const int gap = leftOf(*at) - (leftOf(other) + other.width);
-            if (gap < 0 || gap > kReachBeside || gap >= nextGap) continue;
+            if (gap < 0 || gap > kCellsApart || gap >= nextGap) continue;
             next = &other;
             nextGap = gap;
         }

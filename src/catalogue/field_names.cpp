@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "catalogue/field_captions.h"
+#include "model/containers.h"
+#include "text/case.h"
 
 namespace lw {
 
@@ -68,11 +70,8 @@ Parts namedByCaption(const Form& form, const Control& caption) {
 Parts namedAsCell(const Form& form, const Control& row, const Control& column) {
     if (namesABox(row)) return {&row, {spokenWordsOf(row), spokenWordsOf(column)}};
     if (namesABox(column)) return {&column, {spokenWordsOf(column), spokenWordsOf(row)}};
-    if (const Control* heading = headingOver(form, column, false)) {
-        if (namesABox(*heading))
-            return {heading, {designationOf(*heading), spokenWordsOf(row), spokenWordsOf(column)}};
-        return {heading, {spokenWordsOf(*heading), spokenWordsOf(row), spokenWordsOf(column)}};
-    }
+    if (const Control* heading = headingOver(form, column, true))
+        return {heading, {designationOf(*heading), spokenWordsOf(row), spokenWordsOf(column)}};
     return {&column, {spokenWordsOf(column), spokenWordsOf(row)}};
 }
 
@@ -122,7 +121,7 @@ std::map<const Control*, int> ranksOf(const std::vector<const Control*>& fields,
 
 // What a column of amounts, codes or dates holds, from the kind of field it is.
 std::string columnNoun(const Control& field) {
-    std::string tag = field.tag;
+    std::string tag = text::toUpper(field.tag);
     if (!tag.empty() && (tag.front() == '-' || tag.front() == '+')) tag.erase(0, 1);
     if (tag == "MONEY" || tag == "SMONEY") return "amount";
     if (tag == "K1" || tag == "K1HELP") return "code";
@@ -153,6 +152,28 @@ void sayFrames(const Form& form, const std::set<const Control*>& frames, Names& 
     }
 }
 
+// The titles of the parts of a form that repeats a statement, as the two of the railroad form: the
+// nearest title above each field, set large.
+const Control* titleAbove(const Form& form, const Control& field) {
+    constexpr double kTitleSize = 10;
+    const Control* best = nullptr;
+    for (const auto& owned : form.controls()) {
+        const Control& label = *owned;
+        if (!isCaptionLabel(label) || label.fontSize < kTitleSize || pageOf(label) != pageOf(field)) continue;
+        if (topOf(label) + label.height > topOf(field)) continue;
+        if (!best || topOf(label) > topOf(*best)) best = &label;
+    }
+    return best;
+}
+
+void bySection(const Form& form, const std::vector<const Control*>& same, Names& names) {
+    std::set<const Control*> titles;
+    for (const Control* f : same) titles.insert(titleAbove(form, *f));
+    if (titles.size() < 2 || titles.count(nullptr)) return;
+    for (const Control* f : same)
+        names[f].words.insert(names[f].words.begin(), spokenWordsOf(*titleAbove(form, *f)));
+}
+
 // The captions of their rows, far to the left on their lines: "Box 16, A. Covered individual name".
 void byRowCaption(const Form& form, const std::vector<const Control*>& same, Names& names) {
     std::map<const Control*, const Control*> rows;
@@ -176,7 +197,7 @@ void byRowCaption(const Form& form, const std::vector<const Control*>& same, Nam
 }
 
 void byLine(const Form&, const std::vector<const Control*>& same, Names& names) {
-    const auto ranks = ranksOf(same, [](const Control& c) { return topOf(c); });
+    const auto ranks = ranksOf(same, [](const Control& c) { return topOf(c) + c.height / 2; });
     std::set<int> lines;
     for (const auto& [f, rank] : ranks) lines.insert(rank);
     if (lines.size() < 2) return;
@@ -264,7 +285,7 @@ std::map<const Control*, FieldName> fieldNamesOf(const Form& form) {
     std::set<const Control*> frames;
     for (const auto& same : namesakes(form, names)) frames.merge(framesTellingApart(form, same));
     sayFrames(form, frames, names);
-    for (const Step& step : {Step(byRowCaption), Step(byLine), Step(byColumn)})
+    for (const Step& step : {Step(bySection), Step(byRowCaption), Step(byLine), Step(byColumn)})
         for (const auto& same : namesakes(form, names)) step(form, same, names);
     std::map<const Control*, FieldName> out;
     for (const auto& [field, parts] : names) out[field] = FieldName{parts.joined(), parts.box};
