@@ -243,6 +243,7 @@ std::vector<std::vector<const Control*>> namesakes(const Form& form, const Names
 }  // namespace
 
 bool isNamedField(const Control& c) {
+    if (c.wordsOnly) return false;
     switch (c.kind) {
         case ControlKind::TextBox:
         case ControlKind::CheckLabel:

@@ -18,7 +18,8 @@ struct FieldName {
     const Control* box = nullptr;
 };
 
-// Text boxes, check boxes, combo boxes, option buttons and command buttons.
+// Text boxes, check boxes, combo boxes, option buttons and command buttons; not a text box that only
+// shows words.
 bool isNamedField(const Control& control);
 
 // The names of every field of the form, hidden ones too, each different from the others.

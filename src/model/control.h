@@ -63,6 +63,7 @@ struct Control {
     bool wordWrap = false;
     bool isDefault = false;  // a command button pressed by Enter
     bool focusable = true;   // false keeps a field from ever taking the focus, by click, tab or code
+    bool wordsOnly = false;  // a text box that only shows words, as an entry of the colour legend
 
     int tabIndex = 0;
     int maxLength = 0;  // 0: no limit

@@ -14,12 +14,12 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "model/containers.h"
 #include "catalogue/field_names.h"
+#include "model/containers.h"
 #include "model/program.h"
-#include "ui/form_view_accessible.h"
 #include "ui/command_icons.h"
 #include "ui/form_painter.h"
+#include "ui/form_view_accessible.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -64,8 +64,28 @@ QString FormView::objectNameOf(const Control& control) {
 
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
 
+const FieldName* FormView::fieldNameOf(const Control& control) const {
+    if (!form_) return nullptr;
+    if (!named_) {
+        names_ = fieldNamesOf(*form_);
+        named_ = true;
+    }
+    const auto found = names_.find(&control);
+    return found == names_.end() ? nullptr : &found->second;
+}
+
+void FormView::clickFromAssistant(Control& control) {
+    if (form_ && hasProgram()) forwardInput([&] { program().desktop.click(control); });
+}
+
+void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
+    if (form_ && hasProgram()) forwardInput([&] { program().desktop.choose(control, entry); });
+}
+
 void FormView::detach() {
     form_ = nullptr;
+    names_.clear();
+    named_ = false;
     looks_.reset();
     paintedAt_.clear();
     face_ = QPixmap();
@@ -149,8 +169,12 @@ QWidget* FormView::createEditor(Control& control) {
         default:
             return nullptr;
     }
+    // A legend entry is read as the words it shows, not as a field to fill; said before any screen reader
+    // first asks after the editor.
+    if (control.wordsOnly) editor->setProperty(kWordsOnlyProperty, true);
     editor->setObjectName(objectNameOf(control));
-    editor->setAccessibleName(toQString(accessibleNameOf(*form_, control)));
+    if (const FieldName* named = fieldNameOf(control); named && !named->text.empty())
+        editor->setAccessibleName(toQString(named->text));
     // Only the model moves the focus; a click asks the model first.
     editor->setFocusPolicy(Qt::NoFocus);
     editor->setContextMenuPolicy(Qt::PreventContextMenu);
