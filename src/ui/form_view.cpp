@@ -68,10 +68,21 @@ const FieldName* FormView::fieldNameOf(const Control& control) const {
     if (!form_) return nullptr;
     if (!named_) {
         names_ = fieldNamesOf(*form_);
+        namedCaptions_.clear();
+        for (const auto& [field, name] : names_)
+            if (name.box) namedCaptions_[name.box] = name.box->caption;
         named_ = true;
     }
     const auto found = names_.find(&control);
     return found == names_.end() ? nullptr : &found->second;
+}
+
+// A caption that names a box changed, as the year in one does: the fields are named anew.
+void FormView::renameFields() {
+    named_ = false;
+    for (auto it = editors_.cbegin(); it != editors_.cend(); ++it)
+        if (const FieldName* named = fieldNameOf(*it.key()); named && !named->text.empty())
+            it.value()->setAccessibleName(toQString(named->text));
 }
 
 void FormView::clickFromAssistant(Control& control) {
@@ -85,6 +96,7 @@ void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
 void FormView::detach() {
     form_ = nullptr;
     names_.clear();
+    namedCaptions_.clear();
     named_ = false;
     looks_.reset();
     paintedAt_.clear();
@@ -200,7 +212,11 @@ void FormView::refresh() {
         update();
     }
     QRegion damaged;
+    bool boxRenamed = false;
     for (Control* control : looks_.changedSince(*form_)) {
+        if (const auto named = namedCaptions_.find(control);
+            named != namedCaptions_.end() && named->second != control->caption)
+            boxRenamed = true;
         if (hasEditor(control->kind)) {
             QWidget* editor = editors_.value(control, nullptr);
             if (!editor) editor = createEditor(*control);
@@ -212,6 +228,7 @@ void FormView::refresh() {
         damaged += now;
         paintedAt_.insert(control, now);
     }
+    if (boxRenamed) renameFields();
     if (!damaged.isEmpty() && !face_.isNull()) {
         repaintFace(damaged);
         update(damaged);

@@ -78,7 +78,9 @@ private:
 
     Form* form_;
     mutable std::map<const Control*, FieldName> names_;
+    mutable std::map<const Control*, std::string> namedCaptions_;  // the captions the names were made of
     mutable bool named_ = false;
+    void renameFields();
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <vector>
 
 #include "model/containers.h"
@@ -79,8 +80,41 @@ public:
     }
 };
 
+// An option button of a form. The model, not Qt, keeps the choice one of a group, which Qt would take
+// for a check box; a screen reader says what it is: one option of several.
+class OptionButtonInterface : public QAccessibleWidget {
+public:
+    explicit OptionButtonInterface(QRadioButton* option)
+        : QAccessibleWidget(option, QAccessible::RadioButton) {}
+    QString text(QAccessible::Text t) const override {
+        if (t == QAccessible::Name && widget()->accessibleName().isEmpty()) return option()->text();
+        return QAccessibleWidget::text(t);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = option()->isChecked();
+        return state;
+    }
+    QStringList actionNames() const override {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            option()->click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    QRadioButton* option() const { return static_cast<QRadioButton*>(widget()); }
+};
+
 QAccessibleInterface* formViewFactory(const QString&, QObject* object) {
     if (auto* view = qobject_cast<FormView*>(object)) return new FormViewInterface(view);
+    if (auto* option = qobject_cast<QRadioButton*>(object);
+        option && qobject_cast<FormView*>(option->parent()))
+        return new OptionButtonInterface(option);
     if (auto* box = qobject_cast<QLineEdit*>(object); box && box->property(kWordsOnlyProperty).toBool())
         return new WordsOnlyInterface(box);
     return nullptr;

@@ -4,7 +4,8 @@
 Opens each form with its menu item, turns every page of a tab control, and fails on a field without a
 name, on two fields of one form with the same name, on a field whose name does not carry the caption of
 the box that labels it (or a box caption that stands below or right of its field), on a field of a tax
-form that no box caption labels, and on a colour legend entry that is not read as static text.
+form that no box caption labels, on an option button announced as a check box, and on a colour legend
+entry that is not read as static text.
 """
 
 import sys
@@ -236,6 +237,8 @@ def main():
             collect(form, fields, boxes)
         if not fields:
             fail(label, "no field found")
+        if any(key[0] == pyatspi.ROLE_CHECK_BOX for key in fields) and item.name.startswith("Configure"):
+            fail(label, "an option button is announced as a check box")
         check_form(label, menu in TAX_MENUS, fields, boxes)
         pages = f", {len(tabs)} pages" if tabs else ""
         print(f"{label}: {len(fields)} fields, {len(boxes)} labelled by their boxes{pages}", flush=True)
