@@ -115,6 +115,14 @@ TEST_F(AccessibilityTest, TheColourLegendIsReadAsTextWithItsTip) {
               QStringLiteral("Dollar Amount (Must be Positive Amount)"));
 }
 
+TEST_F(AccessibilityTest, AFieldIsNamedAnewWhenTheCaptionOfItsBoxChanges) {
+    spokenOf("TF_W2");
+    const Control& box1 = form_->at("Text1", 2);
+    form_->at("Label1", 6).caption = "1. Pay of the year";
+    view_->refresh();
+    EXPECT_EQ(view_->editorOf(box1)->accessibleName(), QStringLiteral("Box 1, Pay of the year"));
+}
+
 TEST_F(AccessibilityTest, The1099INTsFieldsHaveTheirBoxesNames) {
     const auto spoken = spokenOf("TF_1099INT");
     for (const char* name : {"Box 1, Interest income", "Box 2, Early withdrawal penalty",
