@@ -228,6 +228,20 @@ void byColumn(const Form&, const std::vector<const Control*>& same, Names& names
     }
 }
 
+// A box whose caption is its number alone, as "12b.", and that holds more than one field: its amount is
+// said to be one, as "Box 12b, amount" beside "Box 12b, Code".
+void sayWhatBareBoxesHold(Names& names) {
+    std::map<const Control*, int> fieldsOfBox;
+    for (const auto& [field, parts] : names)
+        if (parts.box) ++fieldsOfBox[parts.box];
+    for (auto& [field, parts] : names) {
+        const bool bare = parts.box && parts.words.size() == 1 && namesABox(*parts.box) &&
+                          parts.words.front() == designationOf(*parts.box);
+        const std::string noun = columnNoun(*field);
+        if (bare && !noun.empty() && fieldsOfBox[parts.box] > 1) parts.words.push_back(noun);
+    }
+}
+
 // Fields of the same name, in the order of the form.
 std::vector<std::vector<const Control*>> namesakes(const Form& form, const Names& names) {
     std::map<std::string, std::vector<const Control*>> byName;
@@ -288,6 +302,7 @@ std::map<const Control*, FieldName> fieldNamesOf(const Form& form) {
     sayFrames(form, frames, names);
     for (const Step& step : {Step(bySection), Step(byRowCaption), Step(byLine), Step(byColumn)})
         for (const auto& same : namesakes(form, names)) step(form, same, names);
+    sayWhatBareBoxesHold(names);
     std::map<const Control*, FieldName> out;
     for (const auto& [field, parts] : names) out[field] = FieldName{parts.joined(), parts.box};
     return out;

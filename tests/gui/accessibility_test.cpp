@@ -83,7 +83,7 @@ TEST_F(AccessibilityTest, TheCaptionOfABoxIsReadAsTextAndLabelsTheFieldsOfItsBox
         labelled << field->text(QAccessible::Name);
     }
     labelled.sort();
-    EXPECT_EQ(labelled, (QStringList{QStringLiteral("Box 12b"), QStringLiteral("Box 12b, Code")}));
+    EXPECT_EQ(labelled, (QStringList{QStringLiteral("Box 12b, Code"), QStringLiteral("Box 12b, amount")}));
 }
 
 TEST_F(AccessibilityTest, APaintedCheckBoxIsLabelledByItsBoxAndTogglesByItsAction) {

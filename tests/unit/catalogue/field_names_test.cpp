@@ -43,7 +43,7 @@ TEST(FieldNames, TheCodeOfABoxUnderASubCaptionCarriesItsOwnBox) {
     Drawn w2("TF_W2");
     EXPECT_EQ(w2.nameOf("Text1", 15), "Box 12a, Code");
     EXPECT_EQ(w2.nameOf("Text1", 17), "Box 12b, Code") << "not the box 13 beside it";
-    EXPECT_EQ(w2.nameOf("Text1", 18), "Box 12b");
+    EXPECT_EQ(w2.nameOf("Text1", 18), "Box 12b, amount");
     EXPECT_EQ(w2.nameOf("Text1", 21), "Box 12d, Code");
 }
 
