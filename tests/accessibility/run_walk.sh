@@ -38,8 +38,6 @@ chmod 700 "$XDG_RUNTIME_DIR"
 unset QT_QPA_PLATFORM
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 export QT_ACCESSIBILITY=1
-# The program's own end is the test's business; a leak report at that end is not what is tested here.
-export ASAN_OPTIONS="${ASAN_OPTIONS:-}${ASAN_OPTIONS:+:}detect_leaks=0"
 "$program" >"$work/program.log" 2>&1 &
 program_pid=$!
 
