@@ -1,9 +1,10 @@
 #include "catalogue/field_names.h"
 
 #include <algorithm>
+#include <cctype>
 #include <functional>
-#include <limits>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "catalogue/field_captions.h"
