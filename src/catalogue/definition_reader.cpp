@@ -19,13 +19,20 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
-    {"text", ControlKind::TextBox, "Text9"},      {"label", ControlKind::Label, "LabelForm"},
-    {"check", ControlKind::CheckLabel, "Check"},  {"rect", ControlKind::Shape, "Shape1"},
-    {"line", ControlKind::Line, "Line1"},         {"picture", ControlKind::Picture, "Picture9"},
-    {"image", ControlKind::Image, "Image1"},      {"frame", ControlKind::Frame, "Frame9"},
-    {"option", ControlKind::OptionButton, "Option1"}, {"combo", ControlKind::ComboBox, "Combo1"},
-    {"list", ControlKind::ListBox, "List1"},      {"button", ControlKind::CommandButton, "Command1"},
-    {"tabs", ControlKind::TabControl, "TabStrip1"}, {"grid", ControlKind::Grid, "Grid1"},
+    {"text", ControlKind::TextBox, "Text9"},
+    {"label", ControlKind::Label, "LabelForm"},
+    {"check", ControlKind::CheckLabel, "Check"},
+    {"rect", ControlKind::Shape, "Shape1"},
+    {"line", ControlKind::Line, "Line1"},
+    {"picture", ControlKind::Picture, "Picture9"},
+    {"image", ControlKind::Image, "Image1"},
+    {"frame", ControlKind::Frame, "Frame9"},
+    {"option", ControlKind::OptionButton, "Option1"},
+    {"combo", ControlKind::ComboBox, "Combo1"},
+    {"list", ControlKind::ListBox, "List1"},
+    {"button", ControlKind::CommandButton, "Command1"},
+    {"tabs", ControlKind::TabControl, "TabStrip1"},
+    {"grid", ControlKind::Grid, "Grid1"},
 };
 
 class LineReader {
@@ -78,8 +85,8 @@ int alignmentOf(LineReader& line, const std::string& value) {
     line.fail("bad alignment \"" + value + "\"");
 }
 
-constexpr const char* kFlags[] = {"locked", "nostop", "hidden", "disabled", "multi",  "bold",
-                                  "italic", "opaque", "transparent", "wrap", "default"};
+constexpr const char* kFlags[] = {"locked", "nostop", "hidden",      "disabled", "multi",  "bold",
+                                  "italic", "opaque", "transparent", "wrap",     "default"};
 
 bool isFlag(const std::string& word) {
     for (const char* flag : kFlags)
@@ -102,54 +109,90 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
     Control& c = designed.control;
     std::size_t equals = word.find('=');
     if (equals == std::string::npos) {
-        if (word == "locked") c.locked = true;
-        else if (word == "nostop") c.tabStop = false;
-        else if (word == "hidden") c.visible = false;
-        else if (word == "disabled") c.enabled = false;
-        else if (word == "multi") c.multiLine = true;
-        else if (word == "bold") c.fontBold = true;
-        else if (word == "italic") c.fontItalic = true;
-        else if (word == "opaque") c.opaque = true;
-        else if (word == "transparent") c.opaque = false;
-        else if (word == "wrap") c.wordWrap = true;
-        else if (word == "default") c.isDefault = true;
-        else line.fail("unknown flag \"" + word + "\"");
+        if (word == "locked")
+            c.locked = true;
+        else if (word == "nostop")
+            c.tabStop = false;
+        else if (word == "hidden")
+            c.visible = false;
+        else if (word == "disabled")
+            c.enabled = false;
+        else if (word == "multi")
+            c.multiLine = true;
+        else if (word == "bold")
+            c.fontBold = true;
+        else if (word == "italic")
+            c.fontItalic = true;
+        else if (word == "opaque")
+            c.opaque = true;
+        else if (word == "transparent")
+            c.opaque = false;
+        else if (word == "wrap")
+            c.wordWrap = true;
+        else if (word == "default")
+            c.isDefault = true;
+        else
+            line.fail("unknown flag \"" + word + "\"");
         return;
     }
     const std::string key = word.substr(0, equals);
     const std::string value = word.substr(equals + 1);
-    if (key == "tag") c.tag = value;
-    else if (key == "tab") c.tabIndex = line.toNumber(value, "tab index");
-    else if (key == "tip") c.toolTipText = value;
-    else if (key == "text") c.text = value;
-    else if (key == "caption") c.caption = value;
-    else if (key == "align") c.alignment = alignmentOf(line, value);
-    else if (key == "max") c.maxLength = line.toNumber(value, "length");
-    else if (key == "size") c.fontSize = std::atof(value.c_str());
-    else if (key == "font") c.fontName = value;
-    else if (key == "back") c.backColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0)), c.opaque = true;
-    else if (key == "fore") c.foreColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
-    else if (key == "border") c.borderWidth = line.toNumber(value, "border width");
-    else if (key == "style") c.borderStyle = line.toNumber(value, "border style");
-    else if (key == "color") c.borderColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
-    else if (key == "picture") c.picture = value;
-    else if (key == "in") designed.container = value == "-" ? std::string() : value;
-    else if (key == "page") c.page = line.toNumber(value, "page");
-    else if (key == "tabs") c.items = captionsOf(value), c.listIndex = 0, c.text = c.items.front();
-    else if (key == "tabheight") c.tabHeight = line.toNumber(value, "tab height");
-    else line.fail("unknown property \"" + key + "\"");
+    if (key == "tag")
+        c.tag = value;
+    else if (key == "tab")
+        c.tabIndex = line.toNumber(value, "tab index");
+    else if (key == "tip")
+        c.toolTipText = value;
+    else if (key == "say")
+        c.spokenName = value;
+    else if (key == "text")
+        c.text = value;
+    else if (key == "caption")
+        c.caption = value;
+    else if (key == "align")
+        c.alignment = alignmentOf(line, value);
+    else if (key == "max")
+        c.maxLength = line.toNumber(value, "length");
+    else if (key == "size")
+        c.fontSize = std::atof(value.c_str());
+    else if (key == "font")
+        c.fontName = value;
+    else if (key == "back")
+        c.backColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0)), c.opaque = true;
+    else if (key == "fore")
+        c.foreColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+    else if (key == "border")
+        c.borderWidth = line.toNumber(value, "border width");
+    else if (key == "style")
+        c.borderStyle = line.toNumber(value, "border style");
+    else if (key == "color")
+        c.borderColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+    else if (key == "picture")
+        c.picture = value;
+    else if (key == "in")
+        designed.container = value == "-" ? std::string() : value;
+    else if (key == "page")
+        c.page = line.toNumber(value, "page");
+    else if (key == "tabs")
+        c.items = captionsOf(value), c.listIndex = 0, c.text = c.items.front();
+    else if (key == "tabheight")
+        c.tabHeight = line.toNumber(value, "tab height");
+    else
+        line.fail("unknown property \"" + key + "\"");
 }
 
 // Designed defaults of each kind: entry fields are white, everything else shows the form behind it.
 void applyDefaults(Control& c) {
-    c.tabStop = c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox || c.kind == ControlKind::ListBox ||
-                c.kind == ControlKind::CommandButton || c.kind == ControlKind::OptionButton ||
-                c.kind == ControlKind::Grid || c.kind == ControlKind::TabControl;
+    c.tabStop = c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox ||
+                c.kind == ControlKind::ListBox || c.kind == ControlKind::CommandButton ||
+                c.kind == ControlKind::OptionButton || c.kind == ControlKind::Grid ||
+                c.kind == ControlKind::TabControl;
     c.opaque = c.kind == ControlKind::TextBox || c.kind == ControlKind::CheckLabel ||
-               c.kind == ControlKind::ComboBox || c.kind == ControlKind::ListBox || c.kind == ControlKind::Grid;
+               c.kind == ControlKind::ComboBox || c.kind == ControlKind::ListBox ||
+               c.kind == ControlKind::Grid;
     if (c.kind == ControlKind::CheckLabel) c.alignment = 2;
-    if (c.kind == ControlKind::Label || c.kind == ControlKind::Line || c.kind == ControlKind::Shape) c.borderStyle =
-        c.kind == ControlKind::Label ? 0 : 1;
+    if (c.kind == ControlKind::Label || c.kind == ControlKind::Line || c.kind == ControlKind::Shape)
+        c.borderStyle = c.kind == ControlKind::Label ? 0 : 1;
 }
 
 }  // namespace
@@ -188,9 +231,22 @@ FormDefinition readDefinition(const std::string& text) {
         if (!haveForm) line.fail("the first line must be the form line");
         if (kindWord == "in") {
             inside = line.take("container");
-            if (inside == "-") inside.clear();
-            else if (!containers.count(inside)) line.fail("no container \"" + inside + "\" drawn before");
+            if (inside == "-")
+                inside.clear();
+            else if (!containers.count(inside))
+                line.fail("no container \"" + inside + "\" drawn before");
             if (line.more()) line.fail("more than a container after in");
+            continue;
+        }
+        if (kindWord == "say") {
+            const std::string target = line.take("control");
+            const std::string words = line.take("words");
+            if (line.more()) line.fail("more than a control and its words after say");
+            ControlDefinition* said = nullptr;
+            for (ControlDefinition& d : definition.controls)
+                if (d.control.key() == target) said = &d;
+            if (!said) line.fail("no control \"" + target + "\" drawn before");
+            said->control.spokenName = words;
             continue;
         }
         const Kind* kind = nullptr;
@@ -228,9 +284,12 @@ FormDefinition readDefinition(const std::string& text) {
         if (c.kind == ControlKind::TextBox && c.text.empty()) c.text = c.caption, c.caption.clear();
         if (!designed.container.empty()) {
             auto holder = containers.find(designed.container);
-            if (holder == containers.end()) line.fail("no container \"" + designed.container + "\" drawn before");
-            if (holder->second != ControlKind::TabControl) c.page = -1;
-            else if (c.page < 0) line.fail("a control on a tab control needs page=");
+            if (holder == containers.end())
+                line.fail("no container \"" + designed.container + "\" drawn before");
+            if (holder->second != ControlKind::TabControl)
+                c.page = -1;
+            else if (c.page < 0)
+                line.fail("a control on a tab control needs page=");
         } else {
             c.page = -1;
         }

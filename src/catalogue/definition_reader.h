@@ -16,6 +16,10 @@
 // relative to it: `in=NAME` on the line, or a line `in NAME` for every line after it (`in -` ends it).
 // A control straight on a tab control names its page: `page=1`. A tab control lists its captions as
 // `tabs="First|Second"`.
+//
+// `say="..."` gives the words a screen reader says for a field no caption names well, or, on a frame,
+// panel or shape, the words said before the name of every field inside it. A line `say Text1(0) "..."`
+// gives them to a control drawn before.
 
 #include <stdexcept>
 #include <string>

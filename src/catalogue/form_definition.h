@@ -10,14 +10,14 @@
 namespace lw {
 
 struct ControlDefinition {
-    Control control;  // the properties as designed; `form` is set when the control is made
+    Control control;        // the properties as designed; `form` is set when the control is made
     std::string container;  // the control it is drawn inside, drawn before it; empty for the form
 };
 
 struct FormDefinition {
     std::string name;
     std::string caption;
-    int width = 0;   // twips
+    int width = 0;  // twips
     int height = 0;
     std::vector<ControlDefinition> controls;
 };

@@ -74,6 +74,7 @@ F1_Configure::F1_Configure()
     // Printer and note side by side; Load fits the printer frame to the note's height.
     Frame1.place(kMargin, kMargin, 6240, 1500);
     cbxPrinters.place(240, 360, 6000, kFieldHeight);
+    cbxPrinters.spokenName = "Printer to use";  // no caption stands by the list
     label(lblPrinter, "", 240, 780, 6000, 840);
     lblPrinter.backColor = kPrinterNoteColor;
     label(lblNote, "", 6480, kMargin, kFormWidth - 6480 - kMargin, 1695);

@@ -50,6 +50,10 @@ struct Control {
     std::string caption;
     std::string tag;
     std::string toolTipText;
+    // What a screen reader says for a field that no caption of the form names well; on a frame, panel or
+    // shape, the words said before the name of every field inside it. Empty: the names come from the
+    // captions around the field.
+    std::string spokenName;
 
     bool locked = false;
     bool enabled = true;
@@ -59,6 +63,7 @@ struct Control {
     bool wordWrap = false;
     bool isDefault = false;  // a command button pressed by Enter
     bool focusable = true;   // false keeps a field from ever taking the focus, by click, tab or code
+    bool wordsOnly = false;  // a text box that only shows words, as an entry of the colour legend
 
     int tabIndex = 0;
     int maxLength = 0;  // 0: no limit

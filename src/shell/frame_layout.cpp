@@ -85,6 +85,7 @@ void F0_MDI::buildPanel() {
         legend.backColor = kLegend[i].color;
         legend.locked = true;
         legend.tabStop = false;
+        legend.wordsOnly = true;
         legend.alignment = 2;
         legend.fontBold = i == 0;
         legend.left = kButtonLeft;

@@ -14,13 +14,13 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "model/containers.h"
 #include "catalogue/field_names.h"
 #include "fields/box_dollar_sign.h"
+#include "model/containers.h"
 #include "model/program.h"
-#include "ui/form_view_accessible.h"
 #include "ui/command_icons.h"
 #include "ui/form_painter.h"
+#include "ui/form_view_accessible.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -65,8 +65,40 @@ QString FormView::objectNameOf(const Control& control) {
 
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
 
+const FieldName* FormView::fieldNameOf(const Control& control) const {
+    if (!form_) return nullptr;
+    if (!named_) {
+        names_ = fieldNamesOf(*form_);
+        namedCaptions_.clear();
+        for (const auto& [field, name] : names_)
+            if (name.box) namedCaptions_[name.box] = name.box->caption;
+        named_ = true;
+    }
+    const auto found = names_.find(&control);
+    return found == names_.end() ? nullptr : &found->second;
+}
+
+// A caption that names a box changed, as the year in one does: the fields are named anew.
+void FormView::renameFields() {
+    named_ = false;
+    for (auto it = editors_.cbegin(); it != editors_.cend(); ++it)
+        if (const FieldName* named = fieldNameOf(*it.key()); named && !named->text.empty())
+            it.value()->setAccessibleName(toQString(named->text));
+}
+
+void FormView::clickFromAssistant(Control& control) {
+    if (form_ && hasProgram()) forwardInput([&] { program().desktop.click(control); });
+}
+
+void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
+    if (form_ && hasProgram()) forwardInput([&] { program().desktop.choose(control, entry); });
+}
+
 void FormView::detach() {
     form_ = nullptr;
+    names_.clear();
+    namedCaptions_.clear();
+    named_ = false;
     looks_.reset();
     paintedAt_.clear();
     face_ = QPixmap();
@@ -150,8 +182,12 @@ QWidget* FormView::createEditor(Control& control) {
         default:
             return nullptr;
     }
+    // A legend entry is read as the words it shows, not as a field to fill; said before any screen reader
+    // first asks after the editor.
+    if (control.wordsOnly) editor->setProperty(kWordsOnlyProperty, true);
     editor->setObjectName(objectNameOf(control));
-    editor->setAccessibleName(toQString(accessibleNameOf(*form_, control)));
+    if (const FieldName* named = fieldNameOf(control); named && !named->text.empty())
+        editor->setAccessibleName(toQString(named->text));
     // Only the model moves the focus; a click asks the model first.
     editor->setFocusPolicy(Qt::NoFocus);
     editor->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -177,7 +213,11 @@ void FormView::refresh() {
         update();
     }
     QRegion damaged;
+    bool boxRenamed = false;
     for (Control* control : looks_.changedSince(*form_)) {
+        if (const auto named = namedCaptions_.find(control);
+            named != namedCaptions_.end() && named->second != control->caption)
+            boxRenamed = true;
         if (hasEditor(control->kind)) {
             QWidget* editor = editors_.value(control, nullptr);
             if (!editor) editor = createEditor(*control);
@@ -199,6 +239,7 @@ void FormView::refresh() {
         damaged += now;
         paintedAt_.insert(control, now);
     }
+    if (boxRenamed) renameFields();
     if (!damaged.isEmpty() && !face_.isNull()) {
         repaintFace(damaged);
         update(damaged);

@@ -6,8 +6,11 @@
 #include <QPixmap>
 #include <QRegion>
 #include <QWidget>
+#include <map>
+#include <string>
 #include <vector>
 
+#include "catalogue/field_names.h"
 #include "model/form.h"
 #include "model/look_tracker.h"
 #include "ui/input_bridge.h"
@@ -33,6 +36,11 @@ public:
     void detach();
 
     QWidget* editorOf(const Control& control) const;
+    // What a screen reader says of a field, and the caption that shows its box; named once per form.
+    const FieldName* fieldNameOf(const Control& control) const;
+    // Input from a screen reader, as a click or a choice with the mouse would give it.
+    void clickFromAssistant(Control& control);
+    void chooseFromAssistant(Control& control, const std::string& entry);
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
     const QPixmap& face() const { return face_; }
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
@@ -69,6 +77,10 @@ private:
     void repaintFace(const QRegion& area);
 
     Form* form_;
+    mutable std::map<const Control*, FieldName> names_;
+    mutable std::map<const Control*, std::string> namedCaptions_;  // the captions the names were made of
+    mutable bool named_ = false;
+    void renameFields();
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn

@@ -1,11 +1,13 @@
 // A screen reader can name every field: each editor and painted check box of a drawn form carries the
-// box and caption of the official form, and its tip as description.
+// box and caption of the official form, and its tip as description; the caption of a box is read as text
+// and labels the fields of its box; the colour legend is read as text.
 #include <QAccessible>
 #include <map>
 #include <string>
 
 #include "catalogue/definitions.h"
 #include "gui_fixture.h"
+#include "shell/frame_form.h"
 #include "ui/form_view.h"
 
 namespace lw::ui::test {
@@ -54,7 +56,7 @@ TEST_F(AccessibilityTest, TheW2sFieldsAndCheckBoxesHaveTheirBoxesNames) {
     for (const char* name :
          {"Box a, Employee's social security number", "Box 1, Wages, tips, other compensation",
           "Box 4, Social security tax withheld", "Box e, Employee's first name and initial", "Box 12a, Code",
-          "Box 20, Locality name"}) {
+          "Box 20, Locality name, line 1", "Box 12b, Code", "Box 14, Other, line 2, amount"}) {
         ASSERT_EQ(spoken.count(QString::fromUtf8(name)), 1u) << name;
         EXPECT_EQ(spoken.at(QString::fromUtf8(name)).role, QAccessible::EditableText) << name;
     }
@@ -64,6 +66,61 @@ TEST_F(AccessibilityTest, TheW2sFieldsAndCheckBoxesHaveTheirBoxesNames) {
     view_->refresh();
     const QString tip = QString::fromStdString(box1.toolTipText);
     EXPECT_EQ(view_->editorOf(box1)->accessibleDescription(), tip);
+}
+
+TEST_F(AccessibilityTest, TheCaptionOfABoxIsReadAsTextAndLabelsTheFieldsOfItsBox) {
+    spokenOf("TF_W2");
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(view_.get());
+    QAccessibleInterface* caption = nullptr;
+    for (int i = 0; i < view->childCount() && !caption; ++i)
+        if (view->child(i)->role() == QAccessible::StaticText &&
+            view->child(i)->text(QAccessible::Name) == QStringLiteral("Box 12b"))
+            caption = view->child(i);
+    ASSERT_NE(caption, nullptr);
+    QStringList labelled;
+    for (const auto& [field, relation] : caption->relations(QAccessible::Labelled)) {
+        EXPECT_EQ(relation, QAccessible::Labelled);
+        labelled << field->text(QAccessible::Name);
+    }
+    labelled.sort();
+    EXPECT_EQ(labelled, (QStringList{QStringLiteral("Box 12b, Code"), QStringLiteral("Box 12b, amount")}));
+}
+
+TEST_F(AccessibilityTest, APaintedCheckBoxIsLabelledByItsBoxAndTogglesByItsAction) {
+    spokenOf("TF_W2");
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(view_.get());
+    QAccessibleInterface* check = nullptr;
+    for (int i = 0; i < view->childCount() && !check; ++i)
+        if (view->child(i)->text(QAccessible::Name) == QStringLiteral("Box 13, Retirement plan"))
+            check = view->child(i);
+    ASSERT_NE(check, nullptr);
+    const auto labels = check->relations(QAccessible::Label);
+    ASSERT_EQ(labels.size(), 1);
+    EXPECT_EQ(labels.front().first->text(QAccessible::Name), QStringLiteral("Box 13"));
+    ASSERT_NE(check->actionInterface(), nullptr);
+    EXPECT_EQ(check->actionInterface()->actionNames(),
+              QStringList{QAccessibleActionInterface::toggleAction()});
+}
+
+TEST_F(AccessibilityTest, TheColourLegendIsReadAsTextWithItsTip) {
+    F0_MDI frame;
+    FormView panel(frame);
+    QWidget* money = panel.editorOf(frame.at("txtLegend", 3));
+    ASSERT_NE(money, nullptr);
+    QAccessibleInterface* entry = QAccessible::queryAccessibleInterface(money);
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->role(), QAccessible::StaticText);
+    EXPECT_EQ(entry->text(QAccessible::Name), QStringLiteral("Money"));
+    EXPECT_EQ(entry->text(QAccessible::Description),
+              QStringLiteral("Dollar Amount (Must be Positive Amount)"));
+}
+
+TEST_F(AccessibilityTest, AFieldIsNamedAnewWhenTheCaptionOfItsBoxChanges) {
+    spokenOf("TF_W2");
+    const Control& box1 = form_->at("Text1", 2);
+    form_->at("Label1", 6).caption = "1. Pay of the year";
+    view_->refresh();
+    EXPECT_EQ(view_->editorOf(box1)->accessibleName(), QStringLiteral("Box 1, Pay of the year"));
 }
 
 TEST_F(AccessibilityTest, The1099INTsFieldsHaveTheirBoxesNames) {

@@ -1,5 +1,6 @@
 // A form on a two-page tab control: only the page on show has its fields on the screen, a click on a
 // tab turns the page, and a field's place counts the panels it stands in.
+#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 
@@ -47,6 +48,25 @@ TEST_F(TabPagesTest, OnlyTheFieldsOfThePageOnShowAreOnTheScreen) {
     // The field stands inside its panel, which stands below the tab strip.
     EXPECT_EQ(editor(0)->geometry().topLeft(),
               QPoint(toPixels(300, kScreenScale), toPixels(960, kScreenScale)));
+}
+
+TEST_F(TabPagesTest, AScreenReaderFindsTheTabsAndPressingOneTurnsThePage) {
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(view_.get());
+    QAccessibleInterface* tabs = nullptr;
+    for (int i = 0; i < view->childCount() && !tabs; ++i)
+        if (view->child(i)->role() == QAccessible::PageTabList) tabs = view->child(i);
+    ASSERT_NE(tabs, nullptr);
+    ASSERT_EQ(tabs->childCount(), 2);
+    QAccessibleInterface* bottom = tabs->child(1);
+    EXPECT_EQ(bottom->role(), QAccessible::PageTab);
+    EXPECT_EQ(bottom->text(QAccessible::Name), QStringLiteral("Bottom"));
+    EXPECT_TRUE(tabs->child(0)->state().selected);
+    EXPECT_FALSE(bottom->state().selected);
+    ASSERT_NE(bottom->actionInterface(), nullptr);
+    bottom->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(tabOf(form_->at("SSTab1")), 1);
+    EXPECT_TRUE(bottom->state().selected);
+    EXPECT_TRUE(editor(1)->isVisible());
 }
 
 TEST_F(TabPagesTest, AClickOnTheSecondTabTurnsThePage) {

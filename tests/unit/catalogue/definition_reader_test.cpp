@@ -1,6 +1,7 @@
+#include "catalogue/definition_reader.h"
+
 #include <gtest/gtest.h>
 
-#include "catalogue/definition_reader.h"
 #include "model/containers.h"
 #include "model/form.h"
 
@@ -84,10 +85,24 @@ TEST(DefinitionReader, FaultsNameTheirLine) {
     EXPECT_EQ(faultOf("form F \"c\" 10 10\nbox - 1 2 3 4"), "line 2: unknown kind \"box\"");
     EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(x) 1 2 3 4"), "line 2: bad index \"x\"");
     EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(0) 1 2 3"), "line 2: missing height");
-    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(0) 1 2 3 4 colour=red"), "line 2: unknown property \"colour\"");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext Text1(0) 1 2 3 4 colour=red"),
+              "line 2: unknown property \"colour\"");
     EXPECT_EQ(faultOf("form F \"c\" 10 10\nlabel L 1 2 3 4 \"open"), "line 2: a quoted word is not closed");
     EXPECT_EQ(faultOf(""), "no form line");
     EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext T 1 2 3 4 align=middle"), "line 2: bad alignment \"middle\"");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\nsay Text1(0) \"Card 1\""),
+              "line 2: no control \"Text1(0)\" drawn before");
+    EXPECT_EQ(faultOf("form F \"c\" 10 10\ntext T 1 2 3 4\nsay T \"a\" \"b\""),
+              "line 3: more than a control and its words after say");
+}
+
+TEST(DefinitionReader, SpokenWordsComeAsAPropertyOrOnALineOfTheirOwn) {
+    FormDefinition d = readDefinition(
+        "form F \"c\" 10 10\nrect - 0 0 9 9 say=\"Left license\"\ntext Text1(3) 1 2 3 4\nsay Text1(3) \"Card "
+        "2, name\"\n");
+    ASSERT_EQ(d.controls.size(), 2u);
+    EXPECT_EQ(d.controls[0].control.spokenName, "Left license");
+    EXPECT_EQ(d.controls[1].control.spokenName, "Card 2, name");
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
+#include "catalogue/form_info.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "catalogue/form_info.h"
 #include "test_program.h"
 
 namespace lw {
@@ -15,10 +16,12 @@ struct FormInfoTest : ::testing::Test {
     void SetUp() override {
         std::string path = (test.root / "Forms.inf").string();
         std::ofstream file(path, std::ios::binary);
-        file << "[1099MISC]\r\nFormName=TF_1099MISC\r\nRecordPrefix=1099-MISC\r\nSSNIndex=6\r\nFocusOnStartup=4\r\n"
+        file << "[1099MISC]\r\nFormName=TF_1099MISC\r\nRecordPrefix=1099-MISC\r\nSSNIndex="
+                "6\r\nFocusOnStartup=4\r\n"
              << "FocusAfterTPButton=7\r\nOtherInfo=0\r\nRTL1=Long text  with  spaces\r\n"
              << "[Plain]\r\nFormName=Plain\r\nFocusOnStartup=abc\r\nFocusAfterTPButton=\r\n"
-             << "[Long]\r\nExact=" << std::string(1023, 'x') << "\r\nOver=" << std::string(1500, 'y') << "\r\n";
+             << "[Long]\r\nExact=" << std::string(1023, 'x') << "\r\nOver=" << std::string(1500, 'y')
+             << "\r\n";
         file.close();
         test.program->g.FormsInfFile = path;
         test.program->g.CurrentForm = &form;
@@ -34,7 +37,9 @@ TEST_F(FormInfoTest, ASectionTextWithoutAnUnderscoreIsUsedAsItStands) {
     EXPECT_EQ(GetFormInfo("Plain", "FormName"), "Plain");
 }
 
-TEST_F(FormInfoTest, SpacesInsideAValueStay) { EXPECT_EQ(GetFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces"); }
+TEST_F(FormInfoTest, SpacesInsideAValueStay) {
+    EXPECT_EQ(GetFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces");
+}
 
 TEST_F(FormInfoTest, AValueOf1023CharactersComesWholeAndALongerOneIsCut) {
     EXPECT_EQ(GetFormInfo("X_Long", "Exact").size(), 1023u);

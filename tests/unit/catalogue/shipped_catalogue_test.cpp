@@ -60,7 +60,8 @@ TEST(ShippedCatalogue, EveryDrawingHasTheFieldsOfItsForm) {
             for (const ControlDefinition& c : definition.controls) {
                 if (c.control.name != array.name) continue;
                 ++fields;
-                EXPECT_TRUE(indexes.insert(c.control.index).second) << array.name << "(" << c.control.index << ") twice";
+                EXPECT_TRUE(indexes.insert(c.control.index).second)
+                    << array.name << "(" << c.control.index << ") twice";
             }
             EXPECT_EQ(fields, array.count) << array.name;
         }
