@@ -126,6 +126,7 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
     else if (key == "align") c.alignment = alignmentOf(line, value);
     else if (key == "max") c.maxLength = line.toNumber(value, "length");
     else if (key == "size") c.fontSize = std::atof(value.c_str());
+    else if (key == "fit") c.fitFloor = std::atof(value.c_str());
     else if (key == "font") c.fontName = value;
     else if (key == "back") c.backColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0)), c.opaque = true;
     else if (key == "fore") c.foreColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
