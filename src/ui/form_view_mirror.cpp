@@ -1,6 +1,7 @@
 // Copying the model's properties to the editors: only what differs is set, so a refresh after every key
 // costs little and never disturbs the operator's caret.
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFontMetricsF>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -45,6 +46,15 @@ qreal lineWidthOf(const Control& control, const QPlainTextEdit& box) {
     const double painted = advanceOf(laid.font, sample);
     const double shown = QFontMetricsF(box.font()).horizontalAdvance(sample);
     return fieldArea(control).width() * (painted > 0 ? shown / painted : kScreenScale);
+}
+
+// A line editor keeps room for the farthest a glyph of its face may reach past its advance before it
+// takes its text as fitting. Its margins give that room back, so that it shows whole, without scrolling,
+// every text the painter fits in the same box.
+QMargins bearingMargins(const QFont& font) {
+    const QFontMetrics metrics(font);
+    return QMargins(-std::max(0, -metrics.minLeftBearing()), 0,
+                    -(std::max(0, -metrics.minRightBearing()) + 1), 0);
 }
 
 }  // namespace
@@ -101,6 +111,8 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         if (line->alignment() != (horizontal | Qt::AlignVCenter))
             line->setAlignment(horizontal | Qt::AlignVCenter);
         if (line->hasFrame() != (control.borderStyle != 0)) line->setFrame(control.borderStyle != 0);
+        const QMargins margins = bearingMargins(line->font());
+        if (line->textMargins() != margins) line->setTextMargins(margins);
         const int start = control.selStart();
         const int length = control.selLength();
         const int shownStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
