@@ -17,6 +17,7 @@
 
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
+#include "documents/saving.h"
 #include "fields/edit_ctl.h"
 #include "forms/register_forms.h"
 #include "longest_values.h"
@@ -88,6 +89,18 @@ protected:
         ASSERT_NE(form, nullptr);
         ASSERT_EQ(form->name(), GetParam());
         ASSERT_NO_FATAL_FAILURE(fill());
+        keepDocument();
+    }
+
+    // With LW_TEXT_FIT_FOLDER set, each filled form is saved there too, to be drawn by ledgerwick-render
+    // and looked at.
+    void keepDocument() {
+        const QString folder = qEnvironmentVariable("LW_TEXT_FIT_FOLDER");
+        if (folder.isEmpty() || GetParam() == "F1_Configure") return;
+        test.ui.fileAnswers.push_back(
+            (folder + QLatin1Char('/') + QString::fromStdString(GetParam()) + QStringLiteral(".venturo"))
+                .toStdString());
+        Save_File();
     }
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
