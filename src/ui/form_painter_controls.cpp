@@ -186,8 +186,9 @@ void FormPainter::paintTabs(QPainter& p, const Control& c, const QRect& r) const
     const int strip = tabStripHeight(c, scale_);
     const QRect body = r.adjusted(0, strip, 0, 0);
     p.fillRect(body, toQColor(c.backColor));
+    // With its strip taken away (a half printed as a page) the control is a plain ground, unframed.
+    if (c.tabHeight <= 0) return;
     strokeInside(p, body, QPen(QBrush(kBoxBorder), px(1)));
-    // A strip taken away (a page as printed) leaves the body alone.
     if (strip <= 0) return;
     const std::vector<TextBlock> captions = tabLayouts(c);
     const int count = static_cast<int>(c.items.size());

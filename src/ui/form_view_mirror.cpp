@@ -45,7 +45,7 @@ qreal lineWidthOf(const Control& control, const QPlainTextEdit& box) {
     if (sample.trimmed().isEmpty()) sample = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789");
     const double painted = advanceOf(laid.font, sample);
     const double shown = QFontMetricsF(box.font()).horizontalAdvance(sample);
-    return fieldArea(control).width() * (painted > 0 ? shown / painted : kScreenScale);
+    return laid.lineWidth * (painted > 0 ? shown / painted : kScreenScale);
 }
 
 // A line editor keeps room for the farthest a glyph of its face may reach past its advance before it

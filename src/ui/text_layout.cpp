@@ -71,8 +71,9 @@ bool TextBlock::fits() const {
 }
 
 TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area, Qt::Alignment alignment,
-                     TextFlow flow, QPoint origin) {
+                     TextFlow flow, QPoint origin, double lineWidth) {
     TextBlock block;
+    block.lineWidth = lineWidth < 0 ? area.width() : lineWidth;
     block.font = font;
     block.points = font.pixelSize() / 20.0;
     block.origin = origin;
@@ -94,7 +95,7 @@ TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area,
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(flow == TextFlow::OneLine ? 1e9 : std::max(0.0, area.width()));
+        line.setLineWidth(flow == TextFlow::OneLine ? 1e9 : std::max(0.0, block.lineWidth));
         QString part = shown.mid(line.textStart(), line.textLength());
         while (!part.isEmpty() && (part.back() == QChar::LineSeparator || part.back() == QLatin1Char(' ')))
             part.chop(1);
@@ -116,20 +117,54 @@ TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area,
     return block;
 }
 
+namespace {
+
+// Lines that break a text between its words into two lines at most, as evenly as its words allow: the
+// longer line of the two is as short as it can be. The width returned lies midway in the range of widths
+// that make those same lines, so that a slightly different measure of the text breaks it alike.
+double evenTwoLineWidth(const QString& text, const QFont& font, double widest) {
+    const auto laidAt = [&](double width) {
+        return layoutText(text, font, QRectF(0, 0, width, 1e9), Qt::AlignLeft, TextFlow::Words, QPoint(),
+                          width);
+    };
+    const auto search = [](double yes, double no, const auto& holds) {
+        while (std::abs(yes - no) > kSlack) {
+            const double middle = (yes + no) / 2;
+            (holds(middle) ? yes : no) = middle;
+        }
+        return yes;
+    };
+    if (laidAt(widest).lines.size() > 2) return widest;
+    const double narrowest = search(widest, 0.0, [&](double w) { return laidAt(w).lines.size() <= 2; });
+    const QString first = laidAt(narrowest).lines.front().text;
+    const bool sameAtWidest = laidAt(widest).lines.front().text == first;
+    const double broadest = sameAtWidest ? widest : search(narrowest, widest, [&](double w) {
+        return laidAt(w).lines.front().text == first;
+    });
+    return (narrowest + broadest) / 2;
+}
+
+}  // namespace
+
 TextBlock layoutShrinking(const QString& text, const Control& control, const QRectF& area,
                           Qt::Alignment alignment, QPoint origin) {
-    const auto at = [&](double points, TextFlow flow) {
-        return layoutText(text, designFont(control.fontName, points, control.fontBold, control.fontItalic),
-                          area, alignment, flow, origin);
+    const auto face = [&](double points) {
+        return designFont(control.fontName, points, control.fontBold, control.fontItalic);
     };
     const double floor = std::min(control.fontSize, control.fitFloor);
-    for (double points = control.fontSize; points > floor; points -= kPointStep) {
-        TextBlock block = at(points, TextFlow::OneLine);
+    // One line, in a smaller size of the face down to the floor.
+    for (double points = control.fontSize; points >= floor - 1e-9; points -= kPointStep) {
+        TextBlock block = layoutText(text, face(points), area, alignment, TextFlow::OneLine, origin);
         if (block.lines.empty() || block.extent().width() <= area.width() + kSlack) return block;
     }
-    TextBlock one = at(floor, TextFlow::OneLine);
-    if (one.lines.empty() || one.extent().width() <= area.width() + kSlack) return one;
-    return at(floor, TextFlow::WordsOrAnywhere);
+    // Two lines broken between words as evenly as they go, in the largest size that holds them.
+    for (double points = control.fontSize; points >= floor - 1e-9; points -= kPointStep) {
+        const QFont font = face(points);
+        const double width = evenTwoLineWidth(text, font, area.width());
+        TextBlock block = layoutText(text, font, area, alignment, TextFlow::Words, origin, width);
+        if (block.lines.size() <= 2 && block.fits()) return block;
+    }
+    return layoutText(text, face(floor), area, alignment, TextFlow::WordsOrAnywhere, origin);
 }
 
 void drawText(QPainter& painter, const TextBlock& block, double scale) {

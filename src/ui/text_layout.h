@@ -47,6 +47,7 @@ struct TextBlock {
     double ascent = 0;
     double height = 0;      // of one line: its ascent and descent
     double lineHeight = 0;  // from one baseline to the next
+    double lineWidth = 0;   // how long a line may grow before it breaks, in twips
     std::vector<TextLine> lines;
 
     // Where the lines' characters stand, twips from the origin.
@@ -56,12 +57,14 @@ struct TextBlock {
 };
 
 // Lays a text out in an area (twips from the origin) as `flow` breaks it, placed by `alignment`.
-// The block is clipped to the area unless given a clip of its own.
+// The lines break at the area's width unless given a width of their own; the block is clipped to the
+// area unless given a clip of its own.
 TextBlock layoutText(const QString& text, const QFont& designFont, const QRectF& area,
-                     Qt::Alignment alignment, TextFlow flow, QPoint origin = QPoint());
+                     Qt::Alignment alignment, TextFlow flow, QPoint origin = QPoint(), double lineWidth = -1);
 
-// A text that takes a smaller size of its face, down to `floorPoints`, to stand on one line, and breaks
-// into lines at that floor when it still does not. Sizes go down by half a point.
+// A text that takes a smaller size of its face, down to the control's floor, to stand on one line; when
+// it still does not, it breaks into two lines as even as its words allow, in the largest size that holds
+// them. Sizes go down by half a point.
 TextBlock layoutShrinking(const QString& text, const Control& control, const QRectF& area,
                           Qt::Alignment alignment, QPoint origin);
 

@@ -193,6 +193,22 @@ TEST_P(TextFit, EveryFieldShowsItsLongestValueWholeAtEveryScale) {
     }
 }
 
+// The captions of the form are laid out as its fields are: a caption that stands whole in its label
+// stands whole at every scale.
+TEST_P(TextFit, EveryCaptionStandsWholeInItsLabel) {
+    for (const auto& label : form->controls()) {
+        if (label->kind != ControlKind::Label || !label->visible || label->caption.empty()) continue;
+        const ui::TextBlock block = ui::captionLayout(*label);
+        const QRectF taken = block.extent();
+        EXPECT_TRUE(taken.left() >= block.area.left() - 0.5 && taken.right() <= block.area.right() + 0.5 &&
+                    taken.bottom() <= block.area.bottom() + 0.5)
+            << GetParam() << " " << label->key() << " cuts \"" << label->caption << "\": its label of "
+            << label->width << " x " << label->height << " twips needs "
+            << std::lround(taken.right() + label->width - block.area.right()) << " x "
+            << std::lround(taken.bottom());
+    }
+}
+
 // What a line editor needs across, as it reckons before scrolling its text.
 double lineEditorRoom(const QLineEdit& line) {
     QStyleOptionFrame option;
