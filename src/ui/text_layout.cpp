@@ -1,6 +1,7 @@
 #include "ui/text_layout.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
@@ -32,15 +33,22 @@ QTextOption::WrapMode wrapModeOf(TextFlow flow) {
 }  // namespace
 
 QFont designFont(const std::string& name, double points, bool bold, bool italic) {
+    // A form asks for a handful of faces again and again: each is made once.
+    static QHash<QString, QFont> made;
+    const int pixels = std::max(1, static_cast<int>(std::lround(points * 20.0)));
+    const QString key = toQString(name) + QLatin1Char('/') + QString::number(pixels) + QLatin1Char('/') +
+                        QLatin1Char(bold ? 'b' : '-') + QLatin1Char(italic ? 'i' : '-');
+    if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
     installFontSubstitutes();
     QFont font(toQString(name));
     // A point is twenty twips. Unhinted outlines measure the same at every size, so the lines laid out
     // here keep their widths on any screen or printer.
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20.0))));
+    font.setPixelSize(pixels);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::ForceOutline);
     font.setBold(bold);
     font.setItalic(italic);
+    made.insert(key, font);
     return font;
 }
 
@@ -70,6 +78,13 @@ bool TextBlock::fits() const {
            taken.top() >= area.top() - kSlack && taken.bottom() <= area.bottom() + kSlack;
 }
 
+namespace {
+// Breaks a text of several lines, or one too long for its line, where the flow allows.
+void breakLines(QString shown, const QFont& font, TextFlow flow, TextBlock& block);
+// Places the lines in the area: across by the alignment, and down from the top or in the middle.
+void placeLines(TextBlock& block, Qt::Alignment alignment);
+}  // namespace
+
 TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area, Qt::Alignment alignment,
                      TextFlow flow, QPoint origin, double lineWidth) {
     TextBlock block;
@@ -79,14 +94,28 @@ TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area,
     block.origin = origin;
     block.area = area;
     block.clip = area;
+    if (text.isEmpty()) return block;
     const QFontMetricsF metrics(font);
     block.ascent = metrics.ascent();
     block.height = metrics.height();
     block.lineHeight = metrics.lineSpacing();
-    if (text.isEmpty()) return block;
 
     QString shown = text;
-    if (flow == TextFlow::OneLine) shown.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    if (flow == TextFlow::OneLine) {
+        // One line needs no breaking: its advance is its width, as the layout of lines would measure it.
+        shown.replace(QLatin1Char('\n'), QLatin1Char(' '));
+        while (shown.endsWith(QLatin1Char(' '))) shown.chop(1);
+        if (!shown.isEmpty()) block.lines.push_back({shown, 0, 0, metrics.horizontalAdvance(shown)});
+    } else {
+        breakLines(shown, font, flow, block);
+    }
+    placeLines(block, alignment);
+    return block;
+}
+
+namespace {
+
+void breakLines(QString shown, const QFont& font, TextFlow flow, TextBlock& block) {
     shown.replace(QLatin1Char('\n'), QChar::LineSeparator);
     QTextLayout layout(shown, font);
     QTextOption option;
@@ -95,14 +124,18 @@ TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area,
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(flow == TextFlow::OneLine ? 1e9 : std::max(0.0, block.lineWidth));
+        line.setLineWidth(std::max(0.0, block.lineWidth));
         QString part = shown.mid(line.textStart(), line.textLength());
         while (!part.isEmpty() && (part.back() == QChar::LineSeparator || part.back() == QLatin1Char(' ')))
             part.chop(1);
         block.lines.push_back({part, 0, 0, line.naturalTextWidth()});
     }
     layout.endLayout();
+}
 
+void placeLines(TextBlock& block, Qt::Alignment alignment) {
+    if (block.lines.empty()) return;
+    const QRectF& area = block.area;
     const double height = block.height + static_cast<double>(block.lines.size() - 1) * block.lineHeight;
     double top = area.top();
     if (alignment & Qt::AlignVCenter) top = area.top() + (area.height() - height) / 2;
@@ -114,8 +147,9 @@ TextBlock layoutText(const QString& text, const QFont& font, const QRectF& area,
         if (alignment & Qt::AlignHCenter) line.x = area.left() + (area.width() - line.width) / 2;
         line.baseline = top + block.ascent + static_cast<double>(i) * block.lineHeight;
     }
-    return block;
 }
+
+}  // namespace
 
 namespace {
 
