@@ -155,6 +155,8 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
         c.maxLength = line.toNumber(value, "length");
     else if (key == "size")
         c.fontSize = std::atof(value.c_str());
+    else if (key == "fit")
+        c.fitFloor = std::atof(value.c_str());
     else if (key == "font")
         c.fontName = value;
     else if (key == "back")

@@ -94,6 +94,9 @@ struct Control {
     double fontSize = 8.25;
     bool fontBold = false;
     bool fontItalic = false;
+    // A text box whose text takes a smaller size of its face, down to this many points, to show whole
+    // on one line, and breaks into lines when even that is too wide; 0 keeps the size as set.
+    double fitFloor = 0;
 
     std::vector<std::string> items;  // combo and list boxes; grid rows with their cells joined by tabs
     // Grid columns: ColWidth in twips and ColAlignment by the grid's numbers (kGridAlign...). With no

@@ -38,11 +38,12 @@ struct K1Tabs {
     int width = 0;
 };
 
-K1Tabs liftShownHalf(Form& form) {
+// A clip keeps a strip of one twip; a page of paper keeps none.
+K1Tabs liftShownHalf(Form& form, int strip = 1) {
     Control& tabs = form.at("SSTab1");
     const K1Tabs noted{tabs.height, tabs.width};
     tabs.backColor = kWhite;
-    tabs.tabHeight = 1;
+    tabs.tabHeight = strip;
     const std::string half = shownHalf(form);
     Control& left = form.at("Pic" + half + "L");
     Control& right = form.at("Pic" + half + "R");
@@ -204,6 +205,33 @@ void putBack(Form& form, const std::string& key, const K1Tabs& tabs) {
 }
 
 }  // namespace
+
+HalfAsPaper::HalfAsPaper(Form& form) : form_(form) {
+    if (!isKOne(clipKeyOf(form))) return;
+    Control& tabs = form.at("SSTab1");
+    const std::string half = shownHalf(form);
+    Control& left = form.at("Pic" + half + "L");
+    Control& right = form.at("Pic" + half + "R");
+    noted_ = Noted{form.width, form.height, tabs.tabHeight, tabs.backColor,
+                   left.top,   right.top,   left.backColor, right.backColor};
+    liftShownHalf(form, 0);
+}
+
+HalfAsPaper::~HalfAsPaper() {
+    if (!noted_) return;
+    Control& tabs = form_.at("SSTab1");
+    const std::string half = shownHalf(form_);
+    Control& left = form_.at("Pic" + half + "L");
+    Control& right = form_.at("Pic" + half + "R");
+    form_.width = noted_->width;
+    form_.height = noted_->height;
+    tabs.tabHeight = noted_->tabHeight;
+    tabs.backColor = noted_->tabBack;
+    left.top = noted_->leftTop;
+    right.top = noted_->rightTop;
+    left.backColor = noted_->leftBack;
+    right.backColor = noted_->rightBack;
+}
 
 // Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
 bool Screen_Clip() {

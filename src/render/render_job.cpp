@@ -9,12 +9,12 @@
 #include <sstream>
 
 #include "model/app_error.h"
+#include "model/containers.h"
 #include "model/program.h"
 #include "output/screen_clip.h"
 #include "script/headless_program.h"
 #include "text/cp1252.h"
 #include "ui/document_pages.h"
-#include "model/containers.h"
 
 namespace lw::render {
 
@@ -161,6 +161,8 @@ bool addPages(PageSink& pages, Form& form, const std::string& file, int& count) 
     bool written = true;
     for (int tab = 0; tab < count && written; ++tab) {
         setTab(*tabs, tab);
+        // Paper has no strip of tabs: each half is a page of its own, as the form is printed.
+        const HalfAsPaper paper(form);
         written = pages.add(form, file, tab + 1);
     }
     setTab(*tabs, shown);

@@ -2,12 +2,12 @@
 
 #include <QFileInfo>
 #include <QFontDatabase>
-#include <QFontMetrics>
 #include <algorithm>
 #include <cmath>
 
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
+#include "ui/control_text.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -24,10 +24,13 @@ void installFontSubstitutes() {
     const QStringList families = QFontDatabase::families();
     // Metric twins keep the official forms' text inside their boxes where the originals are missing.
     const std::pair<const char*, const char*> twins[] = {
-        {"Tahoma", "DejaVu Sans"},          {"Arial Narrow", "Liberation Sans Narrow"},
+        {"Tahoma", "DejaVu Sans"},
+        {"Arial Narrow", "Liberation Sans Narrow"},
         {"ArialNarrow", "Liberation Sans Narrow"},
-        {"Arial", "Liberation Sans"},       {"Times New Roman", "Liberation Serif"},
-        {"Courier New", "Liberation Mono"}, {"MS Sans Serif", "DejaVu Sans"},
+        {"Arial", "Liberation Sans"},
+        {"Times New Roman", "Liberation Serif"},
+        {"Courier New", "Liberation Mono"},
+        {"MS Sans Serif", "DejaVu Sans"},
     };
     for (const auto& [original, twin] : twins) {
         if (!families.contains(QString::fromLatin1(original)) && families.contains(QString::fromLatin1(twin)))
@@ -36,12 +39,10 @@ void installFontSubstitutes() {
 }
 
 QFont scaledFont(const std::string& name, double points, bool bold, bool italic, double scale) {
-    installFontSubstitutes();
-    QFont font(toQString(name));
-    // A point is twenty twips; whole pixels keep the screen's text as the classic renderer had it.
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20.0 * scale))));
-    font.setBold(bold);
-    font.setItalic(italic);
+    QFont font = designFont(name, points, bold, italic);
+    // Whole pixels only: the size is rounded down, so a text the painter fits fits the widget too.
+    font.setPixelSize(std::max(1, static_cast<int>(std::floor(points * 20.0 * scale + 1e-6))));
+    font.setStyleStrategy(QFont::PreferDefault);
     return font;
 }
 
@@ -73,35 +74,6 @@ QRect paintedExtent(const Control& control, double scale) {
 
 QSize formSize(const Form& form, double scale) {
     return QSize(std::max(1, toPixels(form.width, scale)), std::max(1, toPixels(form.height, scale)));
-}
-
-LabelLayout labelLayout(const Control& label, double scale) {
-    const int margin = std::max(1, static_cast<int>(std::lround(kTwipsPerPixel * scale)));
-    // As on any label, "&&" shows one "&" and a single "&" marks an access key.
-    LabelLayout layout{controlRect(label, scale).adjusted(margin, 0, -margin, 0),
-                       withoutAccessMarks(withLineFeeds(label.caption))};
-    // A long text opens each of its lines with a blank; drawn as an indent, the lines it wraps stay flush
-    // with the first.
-    QStringList lines = layout.text.split(QLatin1Char('\n'));
-    const bool indented = label.alignment == 0 &&
-                          std::all_of(lines.cbegin(), lines.cend(),
-                                      [](const QString& line) { return line.startsWith(QLatin1Char(' ')); });
-    if (indented) {
-        for (QString& line : lines) line.remove(0, 1);
-        layout.text = lines.join(QLatin1Char('\n'));
-        layout.box.setLeft(layout.box.left() +
-                           QFontMetrics(controlFont(label, scale)).horizontalAdvance(QLatin1Char(' ')));
-    }
-    return layout;
-}
-
-QRect textArea(const Control& control, double scale) {
-    const auto px = [scale](int pixelsAt96) {
-        return std::max(1, static_cast<int>(std::lround(pixelsAt96 * kTwipsPerPixel * scale)));
-    };
-    QRect inner = controlRect(control, scale);
-    if (control.borderStyle != 0) inner.adjust(px(1), px(1), -px(1), -px(1));
-    return inner.adjusted(px(2), control.multiLine ? px(1) : 0, -px(2), 0);
 }
 
 QRect boxDollarSignRect(const Control& field, double scale) {
@@ -154,12 +126,10 @@ std::vector<const Control*> paintOrder(const Form& form) {
     return order;
 }
 
-int tabStripHeight(const Control& control, double scale) {
-    return control.items.empty() ? 0 : toPixels(control.tabHeight, scale);
-}
+int tabStripHeight(const Control& control, double scale) { return toPixels(tabStripTwips(control), scale); }
 
 int rowHeight(const Control& control, double scale) {
-    return QFontMetrics(controlFont(control, scale)).height() + std::max(1, toPixels(45, scale));
+    return std::max(1, static_cast<int>(std::lround(rowTwips(control) * scale)));
 }
 
 int entryAt(const Control& control, QPoint point, double scale) {
@@ -221,7 +191,6 @@ void FormPainter::paintControl(QPainter& painter, const Control& control) const 
     const QRect r = controlRect(control, scale_);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setFont(controlFont(control, scale_));
     switch (control.kind) {
         case ControlKind::Label:
             paintLabel(painter, control, r);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/form.h"
+#include "ui/text_layout.h"
 
 namespace lw::ui {
 
@@ -17,7 +18,8 @@ constexpr double kScreenScale = 1.0 / kTwipsPerPixel;
 // Makes Tahoma and Arial Narrow fall back to their metric twins where those are installed. Runs once.
 void installFontSubstitutes();
 
-// The font of a control or a form at a scale of device pixels per twip.
+// The font of a widget that shows a control at a scale of device pixels per twip: the face as the
+// painter measures it, at the largest whole pixel size that does not outgrow the painted text.
 QFont scaledFont(const std::string& name, double points, bool bold, bool italic, double scale);
 QFont controlFont(const Control& control, double scale);
 
@@ -28,14 +30,6 @@ QRect controlRect(const Control& control, double scale);
 // border and strokes.
 QRect paintedExtent(const Control& control, double scale);
 QSize formSize(const Form& form, double scale);
-// What a label writes and the rectangle it writes it in, word-wrapped from the top.
-struct LabelLayout {
-    QRect box;
-    QString text;
-};
-LabelLayout labelLayout(const Control& label, double scale);
-// Where a text box writes its text: inside its border, with the small margins of an edit control.
-QRect textArea(const Control& control, double scale);
 // Where the box prints the "$" of an amount whose text carries none: in the room left of the field.
 QRect boxDollarSignRect(const Control& field, double scale);
 QFont boxDollarSignFont(double scale);

@@ -1,13 +1,14 @@
 // How each kind of control looks, drawn inside its rectangle at the painter's scale.
 #include <QFileInfo>
-#include <QFontMetrics>
 #include <QHash>
 #include <QImage>
 #include <QPolygon>
 #include <algorithm>
+#include <cmath>
 
 #include "model/containers.h"
 #include "ui/command_icons.h"
+#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
 
@@ -46,17 +47,6 @@ void bevel(QPainter& p, const QRect& r, int w, const QColor& topLeft, const QCol
     p.fillRect(QRect(r.right() - w + 1, r.top(), w, r.height()), bottomRight);
 }
 
-Qt::Alignment horizontalOf(int alignment) {
-    switch (alignment) {
-        case 1:
-            return Qt::AlignRight;
-        case 2:
-            return Qt::AlignHCenter;
-        default:
-            return Qt::AlignLeft;
-    }
-}
-
 // Pictures are read once per path; a file that cannot be read is looked for again next time.
 QImage pictureFile(const std::string& path) {
     static QHash<QString, QImage> cache;
@@ -70,27 +60,20 @@ QImage pictureFile(const std::string& path) {
     return image;
 }
 
-QString textOf(const Control& c) {
-    QString text =
-        c.multiLine ? withLineFeeds(c.text) : toQString(c.text.substr(0, c.text.find_first_of("\r\n")));
-    return text;
-}
-
 }  // namespace
 
 void FormPainter::paintLabel(QPainter& p, const Control& c, const QRect& r) const {
     // A label is its caption and, when opaque, its back colour; boxes around text are shapes of their own.
     if (c.opaque) p.fillRect(r, toQColor(c.backColor));
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    const LabelLayout layout = labelLayout(c, scale_);
-    p.drawText(layout.box, Qt::AlignTop | horizontalOf(c.alignment) | Qt::TextWordWrap, layout.text);
+    drawText(p, captionLayout(c), scale_);
 }
 
 void FormPainter::paintCheckLabel(QPainter& p, const Control& c, const QRect& r) const {
     if (c.opaque) p.fillRect(r, toQColor(c.backColor));
     strokeInside(p, r, QPen(QBrush(toQColor(c.borderColor)), px(1)));
     p.setPen(toQColor(c.foreColor));
-    p.drawText(r, Qt::AlignCenter, toQString(c.caption));
+    drawText(p, checkLayout(c), scale_);
 }
 
 void FormPainter::paintShape(QPainter& p, const Control& c, const QRect& r) const {
@@ -110,29 +93,27 @@ void FormPainter::paintLine(QPainter& p, const Control& c) const {
 void FormPainter::paintFrame(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
     if (c.borderStyle == 0) return;
-    const QFontMetrics metrics(p.font());
-    const QString caption = withoutAccessMarks(toQString(c.caption));
-    const int top = caption.isEmpty() ? 0 : metrics.height() / 2;
+    const TextBlock caption = frameCaptionLayout(c);
+    const int top = caption.lines.empty() ? 0 : toPixels(static_cast<int>(caption.area.height() / 2), scale_);
     const QRect box = r.adjusted(0, top, 0, 0);
     // An etched line: a shadow with a light line beside it.
     strokeInside(p, box.adjusted(px(1), px(1), 0, 0), QPen(QBrush(kLight), px(1)));
     strokeInside(p, box.adjusted(0, 0, -px(1), -px(1)), QPen(QBrush(kShadow), px(1)));
-    if (caption.isEmpty()) return;
-    QRect text(r.left() + px(8), r.top(), metrics.horizontalAdvance(caption) + px(4), metrics.height());
+    if (caption.lines.empty()) return;
+    const QRectF area = caption.area.translated(caption.origin);
+    const QRect text(QPoint(toPixels(static_cast<int>(area.left()), scale_), r.top()),
+                     QPoint(toPixels(static_cast<int>(std::ceil(area.right())), scale_),
+                            r.top() + toPixels(static_cast<int>(std::ceil(area.height())), scale_)));
     p.fillRect(text.intersected(r), toQColor(c.backColor));
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    p.drawText(text, Qt::AlignCenter, caption);
+    drawText(p, caption, scale_);
 }
 
 void FormPainter::paintTextBox(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
     if (c.borderStyle != 0) strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
-    const QRect inner = textArea(c, scale_);
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    p.setClipRect(r);
-    const Qt::Alignment vertical = c.multiLine ? Qt::AlignTop : Qt::AlignVCenter;
-    const int wrap = c.multiLine ? Qt::TextWordWrap : Qt::TextSingleLine;
-    p.drawText(inner, vertical | horizontalOf(c.alignment) | wrap, textOf(c));
+    drawText(p, fieldLayout(c), scale_);
 }
 
 void FormPainter::paintButton(QPainter& p, const Control& c, const QRect& r) const {
@@ -140,8 +121,7 @@ void FormPainter::paintButton(QPainter& p, const Control& c, const QRect& r) con
     bevel(p, r, px(1), kLight, kDark);
     bevel(p, r.adjusted(px(1), px(1), -px(1), -px(1)), px(1), kFace, kShadow);
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    p.drawText(r.adjusted(px(2), px(2), -px(2), -px(2)), Qt::AlignCenter | Qt::TextWordWrap,
-               withoutAccessMarks(withLineFeeds(c.caption)));
+    drawText(p, buttonLayout(c), scale_);
 }
 
 void FormPainter::paintOption(QPainter& p, const Control& c, const QRect& r) const {
@@ -159,14 +139,13 @@ void FormPainter::paintOption(QPainter& p, const Control& c, const QRect& r) con
     }
     p.setRenderHint(QPainter::Antialiasing, false);
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    p.drawText(r.adjusted(d + px(5), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap,
-               withoutAccessMarks(toQString(c.caption)));
+    drawText(p, optionLayout(c), scale_);
 }
 
 void FormPainter::paintCombo(QPainter& p, const Control& c, const QRect& r) const {
     p.fillRect(r, toQColor(c.backColor));
     strokeInside(p, r, QPen(QBrush(kBoxBorder), px(1)));
-    const int arrowWidth = std::min(px(17), r.width() / 2);
+    const int arrowWidth = r.right() + 1 - toPixels(formLeft(c) + c.width - comboArrowTwips(c), scale_);
     const QRect arrow(r.right() - arrowWidth + 1, r.top() + px(1), arrowWidth - px(1),
                       r.height() - 2 * px(1));
     p.fillRect(arrow, kFace);
@@ -176,12 +155,8 @@ void FormPainter::paintCombo(QPainter& p, const Control& c, const QRect& r) cons
     p.setBrush(Qt::black);
     p.drawPolygon(QPolygon({QPoint(m.x() - a, m.y() - a / 2), QPoint(m.x() + a, m.y() - a / 2),
                             QPoint(m.x(), m.y() + a / 2 + 1)}));
-    std::string shown = c.text;
-    if (shown.empty() && c.listIndex >= 0 && c.listIndex < static_cast<int>(c.items.size()))
-        shown = c.items[static_cast<size_t>(c.listIndex)];
     p.setPen(c.enabled ? toQColor(c.foreColor) : kGreyText);
-    p.drawText(r.adjusted(px(3), 0, -arrowWidth - px(2), 0),
-               Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, toQString(shown));
+    drawText(p, comboLayout(c), scale_);
 }
 
 void FormPainter::paintPicture(QPainter& p, const Control& c, const QRect& r) const {
@@ -211,7 +186,11 @@ void FormPainter::paintTabs(QPainter& p, const Control& c, const QRect& r) const
     const int strip = tabStripHeight(c, scale_);
     const QRect body = r.adjusted(0, strip, 0, 0);
     p.fillRect(body, toQColor(c.backColor));
+    // With its strip taken away (a half printed as a page) the control is a plain ground, unframed.
+    if (c.tabHeight <= 0) return;
     strokeInside(p, body, QPen(QBrush(kBoxBorder), px(1)));
+    if (strip <= 0) return;
+    const std::vector<TextBlock> captions = tabLayouts(c);
     const int count = static_cast<int>(c.items.size());
     for (int i = 0; i < count; ++i) {
         const int x0 = r.left() + r.width() * i / count;
@@ -221,8 +200,7 @@ void FormPainter::paintTabs(QPainter& p, const Control& c, const QRect& r) const
         p.fillRect(tab, current ? toQColor(c.backColor) : kFace);
         strokeInside(p, tab.adjusted(0, 0, 0, current ? 0 : -1), QPen(QBrush(kBoxBorder), px(1)));
         p.setPen(toQColor(c.foreColor));
-        p.drawText(tab, Qt::AlignCenter | Qt::TextSingleLine,
-                   withoutAccessMarks(toQString(c.items[static_cast<size_t>(i)])));
+        drawText(p, captions[static_cast<size_t>(i)], scale_);
     }
 }
 
@@ -233,9 +211,12 @@ Qt::Alignment columnAlignment(const Control& c, int col) {
     if (c.kind != ControlKind::Grid || static_cast<size_t>(col) >= c.colAlignments.size())
         return Qt::AlignLeft;
     switch (c.colAlignments[static_cast<size_t>(col)]) {
-        case kGridAlignRightCenter: return Qt::AlignRight;
-        case kGridAlignCenterCenter: return Qt::AlignHCenter;
-        default: return Qt::AlignLeft;
+        case kGridAlignRightCenter:
+            return Qt::AlignRight;
+        case kGridAlignCenterCenter:
+            return Qt::AlignHCenter;
+        default:
+            return Qt::AlignLeft;
     }
 }
 
@@ -269,8 +250,12 @@ void FormPainter::paintRows(QPainter& p, const Control& c, const QRect& r) const
             const QString shown = !grid                ? cells.join(QLatin1Char(' '))
                                   : col < cells.size() ? cells[col]
                                                        : QString();
-            p.drawText(cell.adjusted(px(3), 0, -px(2), 0),
-                       Qt::AlignVCenter | Qt::TextSingleLine | columnAlignment(c, col), shown);
+            // Rows are placed in whole pixels of the screen; their text is measured as everywhere else.
+            const QRectF area = QRectF(cell.adjusted(px(3), 0, -px(2), 0));
+            const QRectF twips(area.topLeft() / scale_, area.size() / scale_);
+            TextBlock text = layoutText(shown, designFont(c), twips,
+                                        Qt::AlignVCenter | columnAlignment(c, col), TextFlow::OneLine);
+            drawText(p, text, scale_);
         }
     }
     p.setClipping(false);

@@ -19,8 +19,10 @@
 #include "model/containers.h"
 #include "model/program.h"
 #include "ui/command_icons.h"
+#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
+#include "ui/lines_editor.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -115,13 +117,12 @@ QWidget* FormView::createEditor(Control& control) {
     QWidget* editor = nullptr;
     switch (control.kind) {
         case ControlKind::TextBox:
-            if (control.multiLine) {
-                auto* box = new QPlainTextEdit(this);
+            // A field whose text may take several lines on paper shows them in an editor of lines.
+            if (breaksLines(control)) {
+                auto* box = new LinesEditor(this);
                 box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
                 box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
                 box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-                // The narrow margin of a classic edit box: the field shows the lines its print shows.
-                box->document()->setDocumentMargin(1);
                 box->setAcceptDrops(false);
                 box->viewport()->installEventFilter(this);
                 box->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);

@@ -1,6 +1,8 @@
 // Copying the model's properties to the editors: only what differs is set, so a refresh after every key
 // costs little and never disturbs the operator's caret.
 #include <QComboBox>
+#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -10,8 +12,10 @@
 
 #include "model/containers.h"
 #include "model/program.h"
+#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
+#include "ui/lines_editor.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -24,6 +28,35 @@ void setWhenDifferent(QWidget* w, const QString& tip) {
     if (w->accessibleDescription() != tip) w->setAccessibleDescription(tip);
 }
 
+// The face of an editor: the size the painter gives the control's text, a text that shrinks to fit
+// included, in whole pixels of the screen.
+QFont editorFont(const Control& control) {
+    if (control.kind != ControlKind::TextBox || control.fitFloor <= 0)
+        return controlFont(control, kScreenScale);
+    const TextBlock laid = fieldLayout(control);
+    return scaledFont(control.fontName, laid.points, control.fontBold, control.fontItalic, kScreenScale);
+}
+
+// The width of line that makes an editor of several lines break them where the painter does: as wide as
+// the painted lines, in the measure of the editor's own face.
+qreal lineWidthOf(const Control& control, const QPlainTextEdit& box) {
+    const TextBlock laid = fieldLayout(control);
+    QString sample = withLineFeeds(control.text).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    if (sample.trimmed().isEmpty()) sample = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789");
+    const double painted = advanceOf(laid.font, sample);
+    const double shown = QFontMetricsF(box.font()).horizontalAdvance(sample);
+    return laid.lineWidth * (painted > 0 ? shown / painted : kScreenScale);
+}
+
+// A line editor keeps room for the farthest a glyph of its face may reach past its advance before it
+// takes its text as fitting. Its margins give that room back, so that it shows whole, without scrolling,
+// every text the painter fits in the same box.
+QMargins bearingMargins(const QFont& font) {
+    const QFontMetrics metrics(font);
+    return QMargins(-std::max(0, -metrics.minLeftBearing()), 0,
+                    -(std::max(0, -metrics.minRightBearing()) + 1), 0);
+}
+
 }  // namespace
 
 void FormView::mirror(Control& control, QWidget* editor) {
@@ -33,7 +66,7 @@ void FormView::mirror(Control& control, QWidget* editor) {
     if (editor->isHidden() == shown) editor->setVisible(shown);
     if (editor->isEnabled() != control.enabled) editor->setEnabled(control.enabled);
     setWhenDifferent(editor, toQString(control.toolTipText));
-    const QFont font = controlFont(control, kScreenScale);
+    const QFont font = editorFont(control);
     if (editor->font() != font) editor->setFont(font);
 
     QPalette palette = editor->palette();
@@ -78,6 +111,8 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         if (line->alignment() != (horizontal | Qt::AlignVCenter))
             line->setAlignment(horizontal | Qt::AlignVCenter);
         if (line->hasFrame() != (control.borderStyle != 0)) line->setFrame(control.borderStyle != 0);
+        const QMargins margins = bearingMargins(line->font());
+        if (line->textMargins() != margins) line->setTextMargins(margins);
         const int start = control.selStart();
         const int length = control.selLength();
         const int shownStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
@@ -99,6 +134,7 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         }
         const QFrame::Shape frame = control.borderStyle != 0 ? QFrame::StyledPanel : QFrame::NoFrame;
         if (box->frameShape() != frame) box->setFrameShape(frame);
+        if (auto* lines = dynamic_cast<LinesEditor*>(box)) lines->setLineWidth(lineWidthOf(control, *box));
         const int start = editorPosition(control.text, control.selStart());
         const int end = editorPosition(control.text, control.selStart() + control.selLength());
         QTextCursor cursor = box->textCursor();

@@ -11,7 +11,7 @@ namespace {
 const char* kSample = R"LWF(# a small form
 form TF_SAMPLE "Sample (Test)" 6000 3000
 label Label1(0) 120 100 2000 200 "a Employee's number" size=7 bold
-text  Text1(0)  120 300 2000 285 tag=TIN tab=3 align=center tip="SSN here"
+text  Text1(0)  120 300 2000 285 tag=TIN tab=3 align=center tip="SSN here" fit=8.5
 text  Text1(1)  120 700 2000 855 tag=ISSUER tab=1 multi
 line  -         0 1600 6000 1600 border=2
 line  -         3000 0 3000 1600
@@ -42,6 +42,8 @@ TEST(DefinitionReader, ReadsTheProperties) {
     EXPECT_EQ(ssn.tabIndex, 3);
     EXPECT_EQ(ssn.alignment, 2);
     EXPECT_EQ(ssn.toolTipText, "SSN here");
+    EXPECT_DOUBLE_EQ(ssn.fitFloor, 8.5);
+    EXPECT_DOUBLE_EQ(d.controls[2].control.fitFloor, 0) << "a text keeps its size unless given a floor";
     EXPECT_TRUE(ssn.tabStop);
     EXPECT_TRUE(d.controls[2].control.multiLine);
     const Control& hidden = d.controls[7].control;

@@ -11,6 +11,7 @@
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
+#include "ui/control_text.h"
 #include "ui/form_painter.h"
 
 namespace lw {
@@ -46,13 +47,11 @@ std::string inTheWay(const Form& form, const Control& field, const QRect& sign, 
         }
         if (isField(c) && ui::controlRect(c, scale).intersects(sign)) return "the field " + c.key();
         if (c.kind == ControlKind::Label && !c.caption.empty()) {
-            const ui::LabelLayout layout = ui::labelLayout(c, scale);
-            const int align = c.alignment == 1   ? Qt::AlignRight
-                              : c.alignment == 2 ? Qt::AlignHCenter
-                                                 : Qt::AlignLeft;
-            const QRect words =
-                QFontMetrics(ui::controlFont(c, scale))
-                    .boundingRect(layout.box, Qt::AlignTop | align | Qt::TextWordWrap, layout.text);
+            const ui::TextBlock layout = ui::captionLayout(c);
+            const QRectF twips = layout.extent().translated(layout.origin);
+            const QRect words = QRectF(twips.left() * scale, twips.top() * scale, twips.width() * scale,
+                                       twips.height() * scale)
+                                    .toAlignedRect();
             if (words.intersects(sign)) return "the caption of " + c.key() + " \"" + c.caption + "\"";
         }
     }

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QImage>
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -10,6 +9,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "catalogue/catalogue_table.h"
@@ -120,8 +120,8 @@ TEST_F(Render, EachDrawnFormIsAPageWhoseTextLayerHoldsEveryField) {
     int first = 1;
     for (const Document& d : documents) {
         const int last = first + d.pages - 1;
-        const auto text = commandOutput("pdftotext -f " + std::to_string(first) + " -l " + std::to_string(last) +
-                                        " '" + options.pdf + "' -");
+        const auto text = commandOutput("pdftotext -f " + std::to_string(first) + " -l " +
+                                        std::to_string(last) + " '" + options.pdf + "' -");
         first = last + 1;
         ASSERT_TRUE(text);
         for (const std::string& word : d.texts)
@@ -187,8 +187,9 @@ TEST_F(Render, PicturesComeOnePerPageAtTheirZoom) {
 }
 
 TEST_F(Render, AK1IsAPictureForEachHalf) {
-    std::ofstream(folder / "k1.venturo", std::ios::binary) << "K11065\xB7"
-                                                              "2025\xB7TXT5=123-45-6789\xB7TX320=ZBOTTOMZ\r\n";
+    std::ofstream(folder / "k1.venturo", std::ios::binary)
+        << "K11065\xB7"
+           "2025\xB7TXT5=123-45-6789\xB7TX320=ZBOTTOMZ\r\n";
     render::RenderOptions options;
     options.pngFolder = (folder / "pages").string();
     options.files = {(folder / "k1.venturo").string()};
@@ -201,6 +202,42 @@ TEST_F(Render, AK1IsAPictureForEachHalf) {
     EXPECT_EQ(top.size(), bottom.size());
     EXPECT_NE(top, bottom) << "the two halves differ";
     EXPECT_FALSE(QFile::exists(QString::fromStdString((folder / "pages" / "k1.png").string())));
+}
+
+// The size of a panel of a K-1 as drawn, in twips.
+QSize panelSize(const char* form, const char* panel) {
+    for (const ControlDefinition& designed : findDefinition(form)->controls)
+        if (designed.control.name == panel) return QSize(designed.control.width, designed.control.height);
+    return QSize();
+}
+
+TEST_F(Render, AK1PageIsItsTwoPanelsSideBySideWithNoStripOfTabs) {
+    std::ofstream(folder / "k1.venturo", std::ios::binary)
+        << "K11065\xB7"
+           "2025\xB7TXT5=123-45-6789\xB7TX320=ZBOTTOMZ\r\n";
+    render::RenderOptions options;
+    options.pngFolder = (folder / "pages").string();
+    options.files = {(folder / "k1.venturo").string()};
+    ASSERT_EQ(render(options), 0) << err.str();
+    for (const auto& [page, left, right] :
+         {std::tuple{"k1-1.png", "Pic1L", "Pic1R"}, {"k1-2.png", "Pic2L", "Pic2R"}}) {
+        const QImage picture(QString::fromStdString((folder / "pages" / page).string()));
+        const QSize l = panelSize("TF_K11065", left);
+        const QSize r = panelSize("TF_K11065", right);
+        EXPECT_EQ(picture.size(), QSize((l.width() + r.width()) / 15, l.height() / 15)) << page;
+        // The strip's grey tab of the other half would stand across the top rows of pixels.
+        int grey = 0;
+        for (int x = 0; x < picture.width(); ++x) grey += picture.pixel(x, 10) == qRgb(0xF0, 0xF0, 0xF0);
+        EXPECT_LT(grey, picture.width() / 4) << page << " shows a strip of tabs";
+    }
+    options.pngFolder.clear();
+    options.pdf = (folder / "k1.pdf").string();
+    ASSERT_EQ(render(options), 0) << err.str();
+    const auto text = commandOutput("pdftotext '" + options.pdf + "' -");
+    ASSERT_TRUE(text) << "pdftotext (poppler-utils) must be installed: tools/install-deps installs it";
+    EXPECT_NE(text->find("ZBOTTOMZ"), std::string::npos);
+    EXPECT_EQ(text->find("(Form 1065) Top"), std::string::npos) << "the tab's caption is on the page";
+    EXPECT_EQ(text->find("(Form 1065) Bottom"), std::string::npos) << "the tab's caption is on the page";
 }
 
 TEST(RenderArguments, TheCommandLineIsCheckedBeforeAnythingIsRead) {

@@ -1,0 +1,43 @@
+#pragma once
+// What each kind of control writes and where, laid out in twips from the control's corner: the same at
+// every resolution, so that a text that fits on the screen fits on paper.
+
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "model/control.h"
+#include "ui/text_layout.h"
+
+namespace lw::ui {
+
+// Twips of the fixed margins, a pixel of the screen being fifteen.
+constexpr int kPixelTwips = 15;
+
+// The area a text box writes in, twips from its corner: inside its border, with the small margins of
+// an edit control.
+QRectF fieldArea(const Control& box);
+// A text box's text: one line in the middle of its height, or lines from the top in a multi-line box
+// and in a box whose text shrinks and breaks to show whole.
+TextBlock fieldLayout(const Control& box);
+// A text box whose lines an editor of several lines must show.
+bool breaksLines(const Control& box);
+// A label's caption, word-wrapped from the top; a text whose lines all open with a blank is drawn as an
+// indent, so the lines it wraps stay flush with the first.
+TextBlock captionLayout(const Control& label);
+// The captions of the other kinds, at their places in the control.
+TextBlock checkLayout(const Control& check);
+TextBlock frameCaptionLayout(const Control& frame);
+TextBlock buttonLayout(const Control& button);
+TextBlock optionLayout(const Control& option);
+TextBlock comboLayout(const Control& combo);
+// The width of a combo box's drop-down button, in twips.
+int comboArrowTwips(const Control& combo);
+// One block per tab of a tab control.
+std::vector<TextBlock> tabLayouts(const Control& tabs);
+// The height of a tab control's strip, in twips (0 for a tab control with no tabs).
+int tabStripTwips(const Control& tabs);
+// The twips from one row of a grid or list to the next.
+double rowTwips(const Control& rows);
+
+}  // namespace lw::ui

@@ -1,0 +1,18 @@
+#pragma once
+// The editor of a field of several lines: it breaks its lines where the painter breaks them on paper,
+// its lines being made as wide as the painted ones in the measure of its own face.
+
+#include <QPlainTextEdit>
+
+namespace lw::ui {
+
+class LinesEditor : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+    // Lines of this many pixels: whole pixels are kept free at the right, the rest shared by the margins
+    // of the text.
+    void setLineWidth(qreal pixels);
+};
+
+}  // namespace lw::ui

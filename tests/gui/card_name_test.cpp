@@ -1,0 +1,49 @@
+// A card's name in the window: a name too long for one line shows in an editor of lines, broken where
+// the printed card breaks it, and Enter still moves on without breaking the name.
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
+
+#include "forms/cards_form.h"
+#include "gui_fixture.h"
+#include "ui/control_text.h"
+#include "ui/form_view.h"
+#include "ui/input_bridge.h"
+
+namespace lw::ui::test {
+namespace {
+
+class CardNameWindowTest : public FormViewTest<F2_SS_ITIN> {
+protected:
+    void SetUp() override {
+        FormViewTest::SetUp();
+        desktop().setFocus(form_->at("Text1", 1));
+        refreshAll();
+    }
+    QPlainTextEdit* nameEditor() const {
+        return view_->findChild<QPlainTextEdit*>(QStringLiteral("Text1_1"));
+    }
+};
+
+TEST_F(CardNameWindowTest, ALongNameShowsOnTheLinesOfThePrintedCard) {
+    ASSERT_NE(nameEditor(), nullptr) << "the name of a card is shown in an editor of lines";
+    type(view_.get(), QStringLiteral("maximiliano alejandro washington-mcbride"));
+    const Control& name = form_->at("Text1", 1);
+    EXPECT_EQ(name.text, "MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE");
+    QStringList shown;
+    const QTextBlock block = nameEditor()->document()->begin();
+    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+        const QTextLine line = block.layout()->lineAt(i);
+        shown << block.text().mid(line.textStart(), line.textLength()).trimmed();
+    }
+    QStringList printed;
+    for (const TextLine& line : fieldLayout(name).lines) printed << line.text;
+    EXPECT_EQ(shown, printed);
+    EXPECT_EQ(printed.size(), 2);
+    press(view_.get(), Qt::Key_Return);
+    EXPECT_EQ(desktop().focus(), &form_->at("Text1", 2)) << "Enter moves on to the next card";
+    EXPECT_EQ(name.text, "MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE") << "Enter breaks no line in a name";
+}
+
+}  // namespace
+}  // namespace lw::ui::test
