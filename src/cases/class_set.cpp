@@ -1,6 +1,7 @@
 #include "cases/class_set.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -63,6 +64,16 @@ bool canWriteInto(const std::string& folder) {
 bool writeWhole(const fs::path& file, const std::string& content) {
     std::string error;
     return store::writeFileAtomically(file, content, error);
+}
+
+// The operator of each case sits down at a moment of its own, from 08:00 on the tax year's June 15, a
+// minute and a second after the one before: the license numbers the forms stamp from the clock then
+// differ from case to case.
+std::string clockOfCase(int year, int number) {
+    const int seconds = 8 * 3600 + (number - 1) * 61;
+    char time[16];
+    std::snprintf(time, sizeof time, "%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    return std::to_string(year) + "-06-15 " + time;
 }
 
 // The boxes, reports and failed checks of a played script: what a trainer needs of its output.
@@ -182,7 +193,7 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
 
     ScratchFolder disk;
     if (disk.path().empty()) return giveUp("no temporary folder");
-    OperatorScript script(disk.path(), std::to_string(options_.year) + "-06-15 09:00:00", executableName());
+    OperatorScript script(disk.path(), clockOfCase(options_.year, number), executableName());
     CaseWriting writing{household, lists_, dice, script, staging.string(), socialSecurityMax_};
     writeTaxpayerSheet(writing);
     for (const DocumentRule& rule : profile.documents) {

@@ -1,13 +1,15 @@
+#include "cases/class_set.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
+#include <set>
 #include <sstream>
 
 #include "cases/case_profiles.h"
-#include "cases/class_set.h"
 #include "cases/fake_numbers.h"
 #include "qt_offscreen.h"
 
@@ -67,6 +69,15 @@ long long centsIn(const std::string& line, const std::string& key) {
     for (std::size_t i = at + marker.size(); i < line.size() && line[i] != '\xB7' && line[i] != '\r'; ++i)
         if (line[i] >= '0' && line[i] <= '9') digits += line[i];
     return digits.empty() ? 0 : std::stoll(digits);
+}
+
+// The text of a field of a saved line; empty when the line lacks it.
+std::string fieldIn(const std::string& line, const std::string& key) {
+    const std::string marker = "\xB7" + key + "=";
+    const std::size_t at = line.find(marker);
+    if (at == std::string::npos) return "";
+    const std::size_t from = at + marker.size();
+    return line.substr(from, line.find_first_of("\xB7\r\n", from) - from);
 }
 
 std::vector<std::string> csvLine(const std::string& line) {
@@ -190,6 +201,20 @@ TEST(ClassSet, TheW2TaxesAreTheFormsOwnForTheYear) {
         ++checked;
     }
     EXPECT_GE(checked, 12);
+}
+
+TEST(ClassSet, NoTwoCasesShareALicenseNumber) {
+    const fs::path out = freshFolder("licenses");
+    ASSERT_EQ(make(optionsFor(out, 5, 3, {"single-worker"})), 0);
+    std::set<std::string> numbers;
+    int licenses = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("DL\xB7", 0) != 0) continue;
+        ++licenses;
+        numbers.insert(fieldIn(line, "TXT2"));
+    }
+    EXPECT_EQ(licenses, 5);
+    EXPECT_EQ(numbers.size(), 5u);
 }
 
 TEST(ClassSet, WhatCannotBeMadeIsRefusedBeforeAnythingIsWritten) {
