@@ -203,6 +203,20 @@ TEST(ClassSet, TheW2TaxesAreTheFormsOwnForTheYear) {
     EXPECT_GE(checked, 12);
 }
 
+TEST(ClassSet, TheRailroadClaimNumberIsMadeOfTheRecipientsOwnNumber) {
+    const fs::path out = freshFolder("claims");
+    ASSERT_EQ(make(optionsFor(out, 4, 11, {"retiree"})), 0);
+    int statements = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("RRB\xB7", 0) != 0) continue;
+        ++statements;
+        std::string recipient = fieldIn(line, "TXT2");
+        recipient.erase(std::remove(recipient.begin(), recipient.end(), '-'), recipient.end());
+        EXPECT_EQ(fieldIn(line, "TXT1"), "A" + recipient + " 10") << path;
+    }
+    EXPECT_GE(statements, 1);
+}
+
 TEST(ClassSet, NoTwoCasesShareALicenseNumber) {
     const fs::path out = freshFolder("licenses");
     ASSERT_EQ(make(optionsFor(out, 5, 3, {"single-worker"})), 0);
