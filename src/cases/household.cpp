@@ -82,6 +82,11 @@ std::string Organisation::block(bool withTelephone) const {
     return text;
 }
 
+void Organisation::moveTo(const Town& place) {
+    town = place;
+    telephone = "(" + place.areaCode + ")" + telephone.substr(telephone.find(')') + 1);
+}
+
 Organisation makeOrganisation(const std::string& name, const CaseLists& lists, Dice& dice) {
     Organisation organisation;
     organisation.name = name;

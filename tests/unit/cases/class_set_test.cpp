@@ -203,6 +203,32 @@ TEST(ClassSet, TheW2TaxesAreTheFormsOwnForTheYear) {
     EXPECT_GE(checked, 12);
 }
 
+TEST(ClassSet, ATelephoneNumberHasTheAreaCodeOfTheTownAboveIt) {
+    std::map<std::string, std::string> areaCodes;
+    for (const Town& town : readCaseLists(kShipped + "/CaseLists.inf").towns)
+        areaCodes[town.name + ", " + town.state + " " + town.zip] = "(" + town.areaCode + ")";
+    const fs::path out = freshFolder("telephones");
+    ASSERT_EQ(make(optionsFor(out, 4, 5, {"self-employed"})), 0);
+    int checked = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        // The lines of a block stand split by the code page's guillemet.
+        std::vector<std::string> pieces(1);
+        for (char c : line) {
+            if (c == '\xBB' || c == '\xB7' || c == '=')
+                pieces.emplace_back();
+            else
+                pieces.back() += c;
+        }
+        for (std::size_t i = 0; i + 1 < pieces.size(); ++i) {
+            const auto town = areaCodes.find(pieces[i]);
+            if (town == areaCodes.end() || pieces[i + 1].rfind("(", 0) != 0) continue;
+            EXPECT_EQ(pieces[i + 1].substr(0, 5), town->second) << path;
+            ++checked;
+        }
+    }
+    EXPECT_GE(checked, 6);
+}
+
 TEST(ClassSet, TheRailroadClaimNumberIsMadeOfTheRecipientsOwnNumber) {
     const fs::path out = freshFolder("claims");
     ASSERT_EQ(make(optionsFor(out, 4, 11, {"retiree"})), 0);
