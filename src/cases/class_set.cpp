@@ -197,7 +197,8 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
     CaseWriting writing{household, lists_, dice, script, staging.string(), socialSecurityMax_};
     writeTaxpayerSheet(writing);
     for (const DocumentRule& rule : profile.documents) {
-        const long long count = dice.between(rule.count.lo, rule.count.hi);
+        const long long count =
+            std::min(dice.between(rule.count.lo, rule.count.hi), mostDocuments(rule.kind, household));
         for (int i = 0; i < count; ++i) writeDocument(writing, rule, i);
     }
     std::ostringstream played;

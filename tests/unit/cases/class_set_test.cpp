@@ -257,6 +257,72 @@ TEST(ClassSet, NoTwoCasesShareALicenseNumber) {
     EXPECT_EQ(numbers.size(), 5u);
 }
 
+// Checks that the amounts of every document of a set agree with each other as real ones do.
+void expectAmountsThatAgree(const fs::path& out) {
+    for (const auto& [path, line] : filesUnder(out)) {
+        auto cents = [&](int box) { return centsIn(line, "TXT" + std::to_string(box)); };
+        if (line.rfind("W-2\xB7", 0) == 0) {
+            EXPECT_LE(cents(5), cents(7)) << path;  // social security wages within Medicare wages
+            EXPECT_LE(cents(2), cents(7)) << path;  // box 1 is what is left after a deferral
+            EXPECT_LE(cents(5), 17610000) << path;  // the 2025 wage base
+        } else if (line.rfind("1099-DIV\xB7", 0) == 0) {
+            EXPECT_LE(cents(2), cents(1)) << path;  // qualified within ordinary dividends
+        } else if (line.rfind("1099-R\xB7", 0) == 0 || line.rfind("CSA\xB7", 0) == 0) {
+            const int gross = line.rfind("CSA", 0) == 0 ? 6 : 1;
+            EXPECT_LE(cents(gross + 1), cents(gross)) << path;  // taxable within gross
+        } else if (line.rfind("1099-K\xB7", 0) == 0) {
+            long long months = 0;
+            for (int box = 11; box <= 22; ++box) months += cents(box);
+            EXPECT_EQ(months, cents(6)) << path;
+        } else if (line.rfind("1095-A\xB7", 0) == 0) {
+            for (int first : {38, 51, 64}) {
+                long long months = 0;
+                for (int box = first; box < first + 12; ++box) months += cents(box);
+                EXPECT_EQ(months, cents(first + 12)) << path;
+            }
+            for (int month = 0; month < 12; ++month)
+                EXPECT_LE(cents(64 + month), cents(38 + month)) << path;  // advance credit within the premium
+        }
+    }
+}
+
+TEST(ClassSet, TheAmountsOfEachDocumentAgree) {
+    const fs::path mixed = freshFolder("agree-mixed");
+    ASSERT_EQ(make(optionsFor(mixed, 28, 21)), 0);
+    expectAmountsThatAgree(mixed);
+    // A set where a monthly advance credit drawn from the benchmark would pass the premium.
+    const fs::path marketplace = freshFolder("agree-marketplace");
+    ASSERT_EQ(make(optionsFor(marketplace, 4, 35, {"marketplace-family"})), 0);
+    expectAmountsThatAgree(marketplace);
+    // A trainer's profile of pay above the wage base.
+    const fs::path root = freshFolder("agree-root");
+    fs::create_directories(root / "LedgerwickInfFiles");
+    std::ofstream(root / "LedgerwickInfFiles" / "CaseProfiles.inf")
+        << "[high-pay]\r\nW2=1\r\nW2.Wages=178000-185000\r\n";
+    const fs::path highPay = freshFolder("agree-high-pay");
+    ASSERT_EQ(make(optionsFor(highPay, 3, 1), root.string()), 0);
+    expectAmountsThatAgree(highPay);
+}
+
+TEST(ClassSet, ABenefitStatementComesOnceAYearToEachPerson) {
+    const fs::path out = freshFolder("statements");
+    ASSERT_EQ(make(optionsFor(out, 8, 4, {"retiree"})), 0);
+    int statements = 0;
+    for (const auto& entry : fs::directory_iterator(out)) {
+        if (!entry.is_directory()) continue;
+        std::map<std::string, int> perPerson;
+        for (const auto& [path, line] : filesUnder(entry.path())) {
+            if (line.rfind("SSA\xB7", 0) == 0) ++perPerson["SSA " + fieldIn(line, "TXT1")];
+            if (line.rfind("RRB\xB7", 0) == 0) ++perPerson["RRB " + fieldIn(line, "TXT2")];
+        }
+        for (const auto& [who, count] : perPerson) {
+            EXPECT_EQ(count, 1) << entry.path() << " " << who;
+            ++statements;
+        }
+    }
+    EXPECT_GE(statements, 8);
+}
+
 TEST(ClassSet, WhatCannotBeMadeIsRefusedBeforeAnythingIsWritten) {
     const fs::path out = freshFolder("refused");
     auto refusal = [&](ClassSetOptions options) {
