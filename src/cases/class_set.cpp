@@ -15,6 +15,7 @@
 #include "render/render_job.h"
 #include "script/script_runner.h"
 #include "store/atomic_file.h"
+#include "store/file_bytes.h"
 #include "store/inf_store.h"
 
 namespace lw::cases {
@@ -74,6 +75,26 @@ std::string clockOfCase(int year, int number) {
     char time[16];
     std::snprintf(time, sizeof time, "%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
     return std::to_string(year) + "-06-15 " + time;
+}
+
+// The page writer stamps a PDF with the moment it wrote it; the case's own clock stands there instead, in
+// a stamp as long as the one it replaces, so that the same seed makes the same case.pdf.
+bool stampWithClock(const fs::path& pdf, const std::string& clock) {
+    std::string bytes;
+    if (!store::readFileBytes(pdf, bytes)) return false;
+    const std::string key = "/CreationDate (D:";
+    const std::size_t at = bytes.rfind(key);
+    const std::size_t end = at == std::string::npos ? at : bytes.find(')', at);
+    if (end == std::string::npos) return true;
+    std::string stamp;
+    for (char c : clock)
+        if (c >= '0' && c <= '9') stamp += c;
+    // The written stamp ends in its zone: Z for universal time, or an offset such as +01'00'.
+    const std::size_t from = at + key.size();
+    stamp += end - from == stamp.size() + 1 ? "Z" : "+00'00'";
+    if (stamp.size() != end - from) return true;
+    bytes.replace(from, stamp.size(), stamp);
+    return writeWhole(pdf, bytes);
 }
 
 // The boxes, reports and failed checks of a played script: what a trainer needs of its output.
@@ -193,7 +214,8 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
 
     ScratchFolder disk;
     if (disk.path().empty()) return giveUp("no temporary folder");
-    OperatorScript script(disk.path(), clockOfCase(options_.year, number), executableName());
+    const std::string clock = clockOfCase(options_.year, number);
+    OperatorScript script(disk.path(), clock, executableName());
     CaseWriting writing{household, lists_, dice, script, staging.string(), socialSecurityMax_};
     writeTaxpayerSheet(writing);
     for (const DocumentRule& rule : profile.documents) {
@@ -227,6 +249,7 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
         std::ostringstream quiet, trouble;
         if (render::renderDocuments(pages, shippedFolder_, quiet, trouble) != 0)
             return giveUp("its pages could not be drawn: " + trouble.str());
+        if (!stampWithClock(pages.pdf, clock)) return giveUp("its case.pdf could not be written");
     }
     CaseAnswers answers;
     try {

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
 #include <set>
 #include <sstream>
+#include <thread>
 
 #include "cases/case_profiles.h"
 #include "cases/fake_numbers.h"
@@ -121,6 +123,20 @@ TEST(ClassSet, TheSameSeedMakesTheSameCasesByteForByte) {
     EXPECT_GT(a.size(), 30u);
     EXPECT_EQ(a, b);
     EXPECT_NE(a, c);
+}
+
+TEST(ClassSet, TheSameSeedMakesTheSamePrintedPagesAtAnyMoment) {
+    const fs::path first = freshFolder("pdf-a"), second = freshFolder("pdf-b");
+    auto options = optionsFor(first, 1, 2024);
+    options.pdf = true;
+    ASSERT_EQ(make(options), 0);
+    // The second set is made in a later second of the machine's clock.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    options.out = second.string();
+    ASSERT_EQ(make(options), 0);
+    const std::string pages = bytesOf(first / "case-01" / "case.pdf");
+    EXPECT_GT(pages.size(), 1000u);
+    EXPECT_TRUE(pages == bytesOf(second / "case-01" / "case.pdf"));
 }
 
 TEST(ClassSet, NumbersOnTheDocumentsCanBelongToNobody) {
