@@ -172,6 +172,12 @@ const Profile& ClassSet::profileOfCase(int number) const {
 int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progress) {
     int failed = 0;
     answers_.clear();
+    const fs::path out(options_.out);
+    // The key of an earlier set in this folder would not fit the cases made now, should this set stop
+    // half way: it goes first, and the new key comes when every case is made.
+    std::error_code gone;
+    fs::remove(out / "answers.csv", gone);
+    fs::remove(out / "answers.md", gone);
     {
         BatchedDisk batched;
         for (int number = 1; number <= options_.count; ++number) {
@@ -179,7 +185,6 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
             if (progress) progress(number, options_.count);
         }
     }
-    const fs::path out(options_.out);
     if (!BatchedDisk::syncAllUnder(out)) {
         log << "ledgerwick-cases: the cases could not be put on the disk under " << options_.out << "\n";
         ++failed;

@@ -364,6 +364,19 @@ TEST(ClassSet, WhatCannotBeMadeIsRefusedBeforeAnythingIsWritten) {
     EXPECT_FALSE(fs::exists(out / "case-1"));
 }
 
+TEST(ClassSet, ASetStoppedHalfWayLeavesNoAnswerKeyOfAnEarlierSet) {
+    const fs::path out = freshFolder("stopped");
+    ASSERT_EQ(make(optionsFor(out, 2, 1)), 0);
+    ASSERT_TRUE(fs::exists(out / "answers.csv"));
+    ClassSet again(optionsFor(out, 2, 2), kShipped, "");
+    std::ostringstream log;
+    struct Stopped {};
+    EXPECT_THROW(again.make(log, [](int, int) { throw Stopped{}; }), Stopped);
+    EXPECT_TRUE(fs::is_directory(out / "case-01"));
+    EXPECT_FALSE(fs::exists(out / "answers.csv"));
+    EXPECT_FALSE(fs::exists(out / "answers.md"));
+}
+
 TEST(ClassSet, ACaseTheProgramRefusesIsLeftOutWhole) {
     // A trainer's profile of benefits smaller than the Medicare premium taken from them: the form refuses
     // the negative amount paid, and that case is absent.
