@@ -171,7 +171,9 @@ TEST(ClassSet, NumbersOnTheDocumentsCanBelongToNobody) {
 
 TEST(ClassSet, TheAnswerKeyIsTheSumOfTheSavedDocuments) {
     const fs::path out = freshFolder("answers");
-    ASSERT_EQ(make(optionsFor(out, 6, 5, {"married-with-children", "retiree", "investor"})), 0);
+    ASSERT_EQ(
+        make(optionsFor(out, 8, 5, {"married-with-children", "retiree", "investor", "marketplace-family"})),
+        0);
     std::istringstream csv(bytesOf(out / "answers.csv"));
     std::string header, row;
     std::getline(csv, header);
@@ -179,15 +181,27 @@ TEST(ClassSet, TheAnswerKeyIsTheSumOfTheSavedDocuments) {
     auto column = [&](const std::string& title) {
         return static_cast<std::size_t>(std::find(titles.begin(), titles.end(), title) - titles.begin());
     };
+    // The boxes of federal income tax withheld, by the document's first field.
+    const std::map<std::string, std::string> withholding = {
+        {"W-2", "TXT3"},      {"W-2G", "TXT4"},    {"1099-INT", "TXT8"}, {"1099-DIV", "TXT11"},
+        {"1099-NEC", "TXT6"}, {"1099-K", "TXT10"}, {"1099-R", "TXT6"},   {"CSA", "TXT8"},
+        {"SSA", "TXT13"},     {"RRB", "TXT11"},    {"1099-G", "TXT6"}};
     int rows = 0;
     while (std::getline(csv, row)) {
         const auto fields = csvLine(row);
-        long long wages = 0, interest = 0, socialSecurity = 0;
+        long long wages = 0, interest = 0, ordinary = 0, qualified = 0, socialSecurity = 0, withheld = 0,
+                  premiums = 0;
         for (const auto& [path, line] : filesUnder(out / fields[0])) {
-            if (line.rfind("W-2\xB7", 0) == 0) wages += centsIn(line, "TXT2");
-            if (line.rfind("1099-INT\xB7", 0) == 0) interest += centsIn(line, "TXT2");
-            if (line.rfind("SSA\xB7", 0) == 0) socialSecurity += centsIn(line, "TXT4");
-            if (line.rfind("RRB\xB7", 0) == 0) socialSecurity += centsIn(line, "TXT6");
+            const std::string kind = line.substr(0, line.find('\xB7'));
+            if (kind == "W-2") wages += centsIn(line, "TXT2");
+            if (kind == "1099-INT") interest += centsIn(line, "TXT2");
+            if (kind == "1099-DIV") ordinary += centsIn(line, "TXT1"), qualified += centsIn(line, "TXT2");
+            // A partner's share of interest and dividends is carried to the return with the others.
+            if (kind == "K11065") interest += centsIn(line, "TX36"), ordinary += centsIn(line, "TX37");
+            if (kind == "SSA") socialSecurity += centsIn(line, "TXT4");
+            if (kind == "RRB") socialSecurity += centsIn(line, "TXT6");
+            if (kind == "1095-A") premiums += centsIn(line, "TXT50");
+            if (withholding.count(kind)) withheld += centsIn(line, withholding.at(kind));
         }
         auto cents = [&](const std::string& title) {
             std::string text = fields.at(column(title));
@@ -196,10 +210,14 @@ TEST(ClassSet, TheAnswerKeyIsTheSumOfTheSavedDocuments) {
         };
         EXPECT_EQ(cents("Wages (W-2 box 1)"), wages) << fields[0];
         EXPECT_EQ(cents("Taxable interest"), interest) << fields[0];
+        EXPECT_EQ(cents("Ordinary dividends"), ordinary) << fields[0];
+        EXPECT_EQ(cents("Qualified dividends"), qualified) << fields[0];
         EXPECT_EQ(cents("Social security benefits (net, box 5)"), socialSecurity) << fields[0];
+        EXPECT_EQ(cents("Federal income tax withheld"), withheld) << fields[0];
+        EXPECT_EQ(cents("Marketplace premiums (1095-A)"), premiums) << fields[0];
         ++rows;
     }
-    EXPECT_EQ(rows, 6);
+    EXPECT_EQ(rows, 8);
 }
 
 TEST(ClassSet, TheW2TaxesAreTheFormsOwnForTheYear) {
