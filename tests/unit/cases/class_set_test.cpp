@@ -338,6 +338,28 @@ TEST(ClassSet, TheAmountsOfEachDocumentAgree) {
     expectAmountsThatAgree(highPay);
 }
 
+TEST(ClassSet, ParentsAreOfAnAgeToHaveTheirChildren) {
+    const fs::path out = freshFolder("ages");
+    ASSERT_EQ(make(optionsFor(out, 12, 17, {"married-with-children", "marketplace-family", "self-employed"})),
+              0);
+    int households = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("TPINFO\xB7", 0) != 0) continue;
+        // The sheet works out each age: the taxpayers' in TX20 and TX21, the others' from TX22 on.
+        std::vector<long long> parents, children;
+        for (int row = 0; row < 9; ++row) {
+            const std::string age = fieldIn(line, "TX2" + std::to_string(row));
+            if (!age.empty()) (row < 2 ? parents : children).push_back(std::stoll(age));
+        }
+        ASSERT_FALSE(parents.empty()) << path;
+        if (parents.size() == 2) EXPECT_LE(std::llabs(parents[0] - parents[1]), 8) << path;
+        for (long long child : children)
+            EXPECT_GE(*std::min_element(parents.begin(), parents.end()) - child, 18) << path;
+        households += !children.empty();
+    }
+    EXPECT_GE(households, 8);
+}
+
 TEST(ClassSet, ABenefitStatementComesOnceAYearToEachPerson) {
     const fs::path out = freshFolder("statements");
     ASSERT_EQ(make(optionsFor(out, 8, 4, {"retiree"})), 0);
