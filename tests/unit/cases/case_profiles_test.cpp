@@ -91,6 +91,7 @@ TEST(CaseLists, TheShippedListsAreWholeAndTownsCarryTheirZipCodes) {
         EXPECT_EQ(town.zip.size(), 5u) << town.name;
         EXPECT_EQ(town.areaCode.size(), 3u) << town.name;
     }
+    EXPECT_EQ(lists.portraitsFemale.size() + lists.portraitsMale.size(), 16u);
     const std::string broken = scratchFile("lists.inf", "[Towns]\r\nSPRINGFIELD|IL\r\n");
     EXPECT_THROW(readCaseLists(broken), std::runtime_error);
 }

@@ -277,6 +277,28 @@ TEST(ClassSet, TheRailroadClaimNumberIsMadeOfTheRecipientsOwnNumber) {
     EXPECT_GE(statements, 1);
 }
 
+TEST(ClassSet, ALicenseShowsAPortraitThatFitsItsHolder) {
+    const CaseLists lists = readCaseLists(kShipped + "/CaseLists.inf");
+    const std::set<std::string> women(lists.givenFemale.begin(), lists.givenFemale.end());
+    auto fits = [&](const std::string& block, const std::string& portrait) {
+        const std::string first = block.substr(0, block.find(' '));
+        const auto& kind = women.count(first) ? lists.portraitsFemale : lists.portraitsMale;
+        return std::find(kind.begin(), kind.end(), std::stoi(portrait)) != kind.end();
+    };
+    const fs::path out = freshFolder("portraits");
+    ASSERT_EQ(make(optionsFor(out, 8, 6, {"married-with-children", "single-worker"})), 0);
+    int portraits = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("DL\xB7", 0) != 0) continue;
+        EXPECT_TRUE(fits(fieldIn(line, "TXT0"), fieldIn(line, "PIC1"))) << path;
+        ++portraits;
+        if (fieldIn(line, "TXT4").empty()) continue;
+        EXPECT_TRUE(fits(fieldIn(line, "TXT4"), fieldIn(line, "PIC2"))) << path;
+        ++portraits;
+    }
+    EXPECT_GE(portraits, 10);
+}
+
 TEST(ClassSet, NoTwoCasesShareALicenseNumber) {
     const fs::path out = freshFolder("licenses");
     ASSERT_EQ(make(optionsFor(out, 5, 3, {"single-worker"})), 0);
