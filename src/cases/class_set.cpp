@@ -36,7 +36,10 @@ std::string caseName(int number, int count) {
 class ScratchFolder {
 public:
     ScratchFolder() {
-        std::string pattern = (fs::temp_directory_path() / "ledgerwick-cases-XXXXXX").string();
+        std::error_code ec;
+        const fs::path temporary = fs::temp_directory_path(ec);
+        if (ec) return;
+        std::string pattern = (temporary / "ledgerwick-cases-XXXXXX").string();
         if (mkdtemp(pattern.data())) path_ = pattern;
     }
     ~ScratchFolder() {
@@ -157,6 +160,8 @@ ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::stri
         throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
                               " in " + ssmc};
     socialSecurityMax_ = std::atoll(base.c_str());
+    if (ScratchFolder().path().empty())
+        throw ClassSetRefused{"no temporary folder can be made (see TMPDIR) for the program to work in"};
     if (options_.out.empty() || !canWriteInto(options_.out))
         throw ClassSetRefused{"the folder \"" + options_.out + "\" cannot be written"};
 }

@@ -50,5 +50,8 @@ int main(int argc, char** argv) {
     } catch (const lw::cases::ClassSetRefused& refused) {
         std::cerr << "ledgerwick-cases: " << refused.why << "\n";
         return 2;
+    } catch (const std::exception& e) {
+        std::cerr << "ledgerwick-cases: the class set stopped: " << e.what() << "\n";
+        return 1;
     }
 }
