@@ -57,6 +57,9 @@ constexpr FigureSource kSources[] = {
     {"1095-A", "TXT63", Figure::MarketplaceBenchmark},
     {"1095-A", "TXT76", Figure::MarketplaceAdvance},
     {"K11065", "TX30", Figure::PartnershipIncome},
+    // A partner's share of interest (box 5) and dividends (box 6a) goes to the return with the others.
+    {"K11065", "TX36", Figure::TaxableInterest},
+    {"K11065", "TX37", Figure::OrdinaryDividends},
 };
 
 constexpr const char* kTitles[] = {

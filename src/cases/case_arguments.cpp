@@ -14,7 +14,7 @@ const char* const kCasesUsage =
 namespace {
 
 bool wholeNumber(const std::string& text, unsigned long long& value) {
-    if (text.empty() || text.size() > 19 || text.find_first_not_of("0123456789") != std::string::npos)
+    if (text.empty() || text.size() > 20 || text.find_first_not_of("0123456789") != std::string::npos)
         return false;
     errno = 0;
     value = std::strtoull(text.c_str(), nullptr, 10);
@@ -59,8 +59,11 @@ std::optional<CaseArguments> parseCaseArguments(const std::vector<std::string>& 
             } else if (word == "--seed") {
                 parsed.options.seed = number;
                 seed = true;
+            } else if (number > 9999) {
+                error = "--year takes a year such as 2025, not \"" + *text + "\"";
+                return std::nullopt;
             } else {
-                parsed.options.year = number > 9999 ? 0 : static_cast<int>(number);
+                parsed.options.year = static_cast<int>(number);
                 year = true;
             }
         } else if (word == "--out") {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace lw::cases {
 
@@ -31,6 +32,21 @@ std::string dateIn(int year, int month, int day) {
 }
 
 }  // namespace pieces
+
+long long mostDocuments(DocumentKind kind, const Household& household) {
+    switch (kind) {
+        case DocumentKind::SocialSecurity:
+        case DocumentKind::Railroad:
+            return household.hasSpouse ? 2 : 1;
+        case DocumentKind::Cards:
+        case DocumentKind::License:
+        case DocumentKind::Check:
+        case DocumentKind::Marketplace:
+            return 1;
+        default:
+            return std::numeric_limits<long long>::max();
+    }
+}
 
 void writeDocument(CaseWriting& writing, const DocumentRule& rule, int ordinal) {
     static const struct {

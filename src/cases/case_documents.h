@@ -27,6 +27,11 @@ void writeTaxpayerSheet(CaseWriting& writing);
 // couple is the spouse's).
 void writeDocument(CaseWriting& writing, const DocumentRule& rule, int ordinal);
 
+// How many documents of a kind one household can hold: Social Security and the railroad board send each
+// person on the sheet one statement a year; the cards, the license, the check and the marketplace's
+// statement (which covers everyone) come once a case. Any other kind, as many as the profile asks.
+long long mostDocuments(DocumentKind kind, const Household& household);
+
 // The pieces the document writers share.
 namespace pieces {
 // 1 for the taxpayer, 2 for the spouse: alternates when a spouse is on the sheet.

@@ -28,6 +28,20 @@ std::vector<std::string> fieldsOf(const std::string& line, std::size_t count, co
     return fields;
 }
 
+std::vector<int> portraits(const std::string& file, const std::string& section) {
+    std::vector<int> numbers;
+    for (const std::string& line : entries(file, section)) {
+        const std::string number = text::trim(line);
+        if (number.empty() || number.size() > 2 ||
+            number.find_first_not_of("0123456789") != std::string::npos || std::stoi(number) < 1 ||
+            std::stoi(number) > 16)
+            throw std::runtime_error(file + " [" + section + "]: \"" + line +
+                                     "\" is no portrait from 1 to 16");
+        numbers.push_back(std::stoi(number));
+    }
+    return numbers;
+}
+
 }  // namespace
 
 CaseLists readCaseLists(const std::string& file) {
@@ -60,6 +74,8 @@ CaseLists readCaseLists(const std::string& file) {
     lists.casinos = entries(file, "Casinos");
     lists.partnerships = entries(file, "Partnerships");
     lists.insurers = entries(file, "Insurers");
+    lists.portraitsFemale = portraits(file, "PortraitsFemale");
+    lists.portraitsMale = portraits(file, "PortraitsMale");
     return lists;
 }
 

@@ -27,6 +27,7 @@ struct CaseLists {
     std::vector<Employer> employers;
     std::vector<std::string> banks, funds, lenders, servicers, schools, clients, platforms, pensions,
         casinos, partnerships, insurers;
+    std::vector<int> portraitsFemale, portraitsMale;  // numbers of the license portraits, 1 to 16
 };
 
 // Reads the lists; throws std::runtime_error naming the file and the list that is missing or empty.

@@ -31,6 +31,10 @@ constexpr KindKey kKinds[] = {
     {DocumentKind::Check, "CHECK"},
 };
 
+// More of one document than any household holds: a count above it is a slip of the trainer's hand,
+// which would otherwise fill the disk with documents.
+constexpr long long kMostOfADocument = 20;
+
 // The section names of an INF file, in the order they stand.
 std::vector<std::string> sectionNames(const std::string& file) {
     std::ifstream in(file, std::ios::binary);
@@ -105,6 +109,9 @@ std::vector<Profile> readProfiles(const std::string& file) {
             const std::string count = valueOf(section, entry.key, file);
             if (count.empty()) continue;
             DocumentRule rule{entry.kind, parseRange(count, where + " " + entry.key), {0, 0}};
+            if (rule.count.hi > kMostOfADocument)
+                throw std::runtime_error(where + " " + entry.key + ": \"" + count + "\" asks for more than " +
+                                         std::to_string(kMostOfADocument) + " of a document");
             const std::string amountKey = std::string(entry.key) + ".Amount";
             const std::string wagesKey = std::string(entry.key) + ".Wages";
             std::string amount = valueOf(section, amountKey, file);

@@ -1,6 +1,7 @@
 #include "cases/class_set.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +15,7 @@
 #include "render/render_job.h"
 #include "script/script_runner.h"
 #include "store/atomic_file.h"
+#include "store/file_bytes.h"
 #include "store/inf_store.h"
 
 namespace lw::cases {
@@ -34,7 +36,10 @@ std::string caseName(int number, int count) {
 class ScratchFolder {
 public:
     ScratchFolder() {
-        std::string pattern = (fs::temp_directory_path() / "ledgerwick-cases-XXXXXX").string();
+        std::error_code ec;
+        const fs::path temporary = fs::temp_directory_path(ec);
+        if (ec) return;
+        std::string pattern = (temporary / "ledgerwick-cases-XXXXXX").string();
         if (mkdtemp(pattern.data())) path_ = pattern;
     }
     ~ScratchFolder() {
@@ -63,6 +68,36 @@ bool canWriteInto(const std::string& folder) {
 bool writeWhole(const fs::path& file, const std::string& content) {
     std::string error;
     return store::writeFileAtomically(file, content, error);
+}
+
+// The operator of each case sits down at a moment of its own, from 08:00 on the tax year's June 15, a
+// minute and a second after the one before: the license numbers the forms stamp from the clock then
+// differ from case to case.
+std::string clockOfCase(int year, int number) {
+    const int seconds = 8 * 3600 + (number - 1) * 61;
+    char time[16];
+    std::snprintf(time, sizeof time, "%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    return std::to_string(year) + "-06-15 " + time;
+}
+
+// The page writer stamps a PDF with the moment it wrote it; the case's own clock stands there instead, in
+// a stamp as long as the one it replaces, so that the same seed makes the same case.pdf.
+bool stampWithClock(const fs::path& pdf, const std::string& clock) {
+    std::string bytes;
+    if (!store::readFileBytes(pdf, bytes)) return false;
+    const std::string key = "/CreationDate (D:";
+    const std::size_t at = bytes.rfind(key);
+    const std::size_t end = at == std::string::npos ? at : bytes.find(')', at);
+    if (end == std::string::npos) return true;
+    std::string stamp;
+    for (char c : clock)
+        if (c >= '0' && c <= '9') stamp += c;
+    // The written stamp ends in its zone: Z for universal time, or an offset such as +01'00'.
+    const std::size_t from = at + key.size();
+    stamp += end - from == stamp.size() + 1 ? "Z" : "+00'00'";
+    if (stamp.size() != end - from) return true;
+    bytes.replace(from, stamp.size(), stamp);
+    return writeWhole(pdf, bytes);
 }
 
 // The boxes, reports and failed checks of a played script: what a trainer needs of its output.
@@ -125,6 +160,8 @@ ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::stri
         throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
                               " in " + ssmc};
     socialSecurityMax_ = std::atoll(base.c_str());
+    if (ScratchFolder().path().empty())
+        throw ClassSetRefused{"no temporary folder can be made (see TMPDIR) for the program to work in"};
     if (options_.out.empty() || !canWriteInto(options_.out))
         throw ClassSetRefused{"the folder \"" + options_.out + "\" cannot be written"};
 }
@@ -140,6 +177,12 @@ const Profile& ClassSet::profileOfCase(int number) const {
 int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progress) {
     int failed = 0;
     answers_.clear();
+    const fs::path out(options_.out);
+    // The key of an earlier set in this folder would not fit the cases made now, should this set stop
+    // half way: it goes first, and the new key comes when every case is made.
+    std::error_code gone;
+    fs::remove(out / "answers.csv", gone);
+    fs::remove(out / "answers.md", gone);
     {
         BatchedDisk batched;
         for (int number = 1; number <= options_.count; ++number) {
@@ -147,7 +190,6 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
             if (progress) progress(number, options_.count);
         }
     }
-    const fs::path out(options_.out);
     if (!BatchedDisk::syncAllUnder(out)) {
         log << "ledgerwick-cases: the cases could not be put on the disk under " << options_.out << "\n";
         ++failed;
@@ -182,11 +224,13 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
 
     ScratchFolder disk;
     if (disk.path().empty()) return giveUp("no temporary folder");
-    OperatorScript script(disk.path(), std::to_string(options_.year) + "-06-15 09:00:00", executableName());
+    const std::string clock = clockOfCase(options_.year, number);
+    OperatorScript script(disk.path(), clock, executableName());
     CaseWriting writing{household, lists_, dice, script, staging.string(), socialSecurityMax_};
     writeTaxpayerSheet(writing);
     for (const DocumentRule& rule : profile.documents) {
-        const long long count = dice.between(rule.count.lo, rule.count.hi);
+        const long long count =
+            std::min(dice.between(rule.count.lo, rule.count.hi), mostDocuments(rule.kind, household));
         for (int i = 0; i < count; ++i) writeDocument(writing, rule, i);
     }
     std::ostringstream played;
@@ -215,6 +259,7 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
         std::ostringstream quiet, trouble;
         if (render::renderDocuments(pages, shippedFolder_, quiet, trouble) != 0)
             return giveUp("its pages could not be drawn: " + trouble.str());
+        if (!stampWithClock(pages.pdf, clock)) return giveUp("its case.pdf could not be written");
     }
     CaseAnswers answers;
     try {

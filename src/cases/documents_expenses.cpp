@@ -1,4 +1,6 @@
 // Documents of what a household paid: 1098, 1098-E, 1098-T and the marketplace's 1095-A.
+#include <algorithm>
+
 #include "cases/case_documents.h"
 #include "cases/fake_numbers.h"
 
@@ -51,7 +53,9 @@ void writeMarketplace(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Household& h = w.household;
     const long long premium = amountIn(w.dice, rule.amount);
     const long long benchmark = premium + percentOf(premium, static_cast<int>(w.dice.between(-10, 15)));
-    const long long advance = percentOf(benchmark, static_cast<int>(w.dice.between(40, 90)));
+    // The credit paid in advance never exceeds the premium it pays towards.
+    const long long advance =
+        std::min(premium, percentOf(benchmark, static_cast<int>(w.dice.between(40, 90))));
     w.script.openForm("mnu1095A");
     w.script.loadTaxpayer(1);
     w.script.fill("Text1(0)", std::string(h.town.state == "CA" ? "06" : "17") + "-" + w.dice.digits(7));

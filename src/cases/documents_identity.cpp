@@ -47,14 +47,22 @@ void writeCards(CaseWriting& w, const DocumentRule&, int) {
 }
 
 void writeLicense(CaseWriting& w, const DocumentRule&, int) {
+    const Household& h = w.household;
+    // The row of portraits counts from 0; a holder gets one of the portraits that fit them.
+    auto portraitOf = [&](const Person& holder) {
+        return "picDL(" +
+               std::to_string(w.dice.pick(holder.female ? w.lists.portraitsFemale : w.lists.portraitsMale) -
+                              1) +
+               ")";
+    };
     w.script.openForm("mnuIDFormsDL");
     w.script.loadTaxpayer(1);
     // The issue and expiration dates follow when the operator leaves a birth date.
     w.script.leave("Text1(1)");
-    w.script.click("picDL(" + std::to_string(w.dice.between(0, 15)) + ") left");
-    if (w.household.hasSpouse) {
+    w.script.click(portraitOf(h.taxpayer) + " left");
+    if (h.hasSpouse) {
         w.script.leave("Text1(5)");
-        w.script.click("picDL(" + std::to_string(w.dice.between(0, 15)) + ") right");
+        w.script.click(portraitOf(h.spouse) + " right");
     }
     w.script.saveInto(w.folder);
 }

@@ -45,9 +45,12 @@ void writeSocialSecurity(CaseWriting& w, const DocumentRule& rule, int ordinal) 
 
 void writeRailroad(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const long long benefits = amountIn(w.dice, rule.amount);
+    const int whose = whoseDocument(w.household, ordinal);
     w.script.openForm("mnuRRB1099");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(1)", "A" + w.dice.digits(9) + " 10");
+    w.script.loadTaxpayer(whose);
+    // The board's claim number is a letter before the number of the person it pays: made of the
+    // recipient's own number, it belongs to nobody either.
+    w.script.fill("Text1(1)", "A" + typedDigits(personOf(w.household, whose).number) + " 10");
     w.script.fill("Text1(4)", typedAmount(benefits));  // box 5 follows from it
     if (w.dice.chance(35)) w.script.fill("Text1(11)", typedAmount(percentOf(benefits, 10)));
     w.script.saveInto(w.folder);

@@ -16,7 +16,7 @@ void writeW2(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Range pay{std::max(rule.amount.lo, employer.lowestPay), std::min(rule.amount.hi, employer.highestPay)};
     Organisation company = makeOrganisation(employer.name, w.lists, w.dice);
     // Most people work near home.
-    if (w.dice.chance(85)) company.town = h.town;
+    if (w.dice.chance(85)) company.moveTo(h.town);
     const long long gross = amountIn(w.dice, pay.hi >= pay.lo ? pay : rule.amount);
     // Some employees put part of their pay into a 401(k): it leaves box 1 but not boxes 3 and 5.
     const long long deferral = w.dice.chance(45) ? percentOf(gross, static_cast<int>(w.dice.between(3, 10))) : 0;
@@ -65,7 +65,7 @@ void writeW2G(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 
 void writeNonemployee(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     Organisation client = makeOrganisation(w.dice.pick(w.lists.clients), w.lists, w.dice);
-    if (w.dice.chance(70)) client.town = w.household.town;
+    if (w.dice.chance(70)) client.moveTo(w.household.town);
     w.script.openForm("mnu1099NEC");
     w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
     w.script.fill("Text1(0)", client.block(true));
@@ -96,7 +96,7 @@ void writePaymentCard(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writeUnemployment(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Household& h = w.household;
     Organisation agency = makeOrganisation("STATE OF " + h.town.state + " UNEMPLOYMENT INSURANCE", w.lists, w.dice);
-    agency.town = h.town;
+    agency.moveTo(h.town);
     const long long paid = amountIn(w.dice, rule.amount);
     w.script.openForm("mnu1099G");
     w.script.loadTaxpayer(whoseDocument(h, ordinal));

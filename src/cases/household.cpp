@@ -1,5 +1,6 @@
 #include "cases/household.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "cases/fake_numbers.h"
@@ -55,18 +56,25 @@ Household makeHousehold(const Profile& profile, int taxYear, const CaseLists& li
     household.taxYear = taxYear;
     const std::string last = dice.pick(lists.surnames);
     const bool taxpayerFemale = dice.chance(50);
-    household.taxpayer = makePerson(last, taxpayerFemale, taxYear,
-                                    dice.between(profile.ages.lo, profile.ages.hi), lists, dice);
+    const long long age = dice.between(profile.ages.lo, profile.ages.hi);
+    household.taxpayer = makePerson(last, taxpayerFemale, taxYear, age, lists, dice);
     household.hasSpouse = dice.chance(profile.spousePercent);
+    long long youngestParent = age;
     if (household.hasSpouse) {
-        const long long age = std::max<long long>(18, dice.between(profile.ages.lo - 4, profile.ages.hi + 4));
-        household.spouse = makePerson(last, !taxpayerFemale, taxYear, age, lists, dice);
+        // A spouse is within eight years of the taxpayer, and within four of the profile's ages.
+        const long long spouseAge = std::max<long long>(
+            18, dice.between(std::max(profile.ages.lo - 4, age - 8), std::min(profile.ages.hi + 4, age + 8)));
+        household.spouse = makePerson(last, !taxpayerFemale, taxYear, spouseAge, lists, dice);
+        youngestParent = std::min(age, spouseAge);
     }
+    // A child is at least eighteen years younger than both parents.
+    const long long oldestChild = std::max<long long>(0, std::min(profile.childAges.hi, youngestParent - 18));
+    const Range childAges{std::min(profile.childAges.lo, oldestChild), oldestChild};
     const long long children = dice.between(profile.dependents.lo, profile.dependents.hi);
     for (long long i = 0; i < children; ++i) {
         const bool female = dice.chance(50);
-        Person child = makePerson(last, female, taxYear, dice.between(profile.childAges.lo, profile.childAges.hi),
-                                  lists, dice);
+        Person child =
+            makePerson(last, female, taxYear, dice.between(childAges.lo, childAges.hi), lists, dice);
         child.relation = female ? "DAUGHTER" : "SON";
         household.dependents.push_back(child);
     }
@@ -80,6 +88,11 @@ std::string Organisation::block(bool withTelephone) const {
     std::string text = name + "\n" + street + "\n" + town.name + ", " + town.state + " " + town.zip;
     if (withTelephone) text += "\n" + telephone;
     return text;
+}
+
+void Organisation::moveTo(const Town& place) {
+    town = place;
+    telephone = "(" + place.areaCode + ")" + telephone.substr(telephone.find(')') + 1);
 }
 
 Organisation makeOrganisation(const std::string& name, const CaseLists& lists, Dice& dice) {

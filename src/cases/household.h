@@ -49,6 +49,8 @@ struct Organisation {
     std::string telephone;
 
     std::string block(bool withTelephone) const;  // lines split by "\n"
+    // Puts the organisation in `place`, its telephone number under the area code of that town.
+    void moveTo(const Town& place);
 };
 
 Organisation makeOrganisation(const std::string& name, const CaseLists& lists, Dice& dice);

@@ -1,5 +1,6 @@
 // ledgerwick-cases: makes practice cases, each a household with its documents, filled through the forms.
 #include <QApplication>
+#include <QHashSeed>
 #include <iostream>
 #include <vector>
 
@@ -9,6 +10,9 @@
 #include "script/headless_program.h"
 
 int main(int argc, char** argv) {
+    // The printed pages list their fonts in the order of a hash table: a fixed seed keeps that order, and
+    // so the bytes of case.pdf, the same from one run to the next.
+    QHashSeed::setDeterministicGlobalSeed();
     std::vector<std::string> arguments(argv + 1, argv + argc);
     std::string error;
     auto parsed = lw::cases::parseCaseArguments(arguments, error);
@@ -46,5 +50,8 @@ int main(int argc, char** argv) {
     } catch (const lw::cases::ClassSetRefused& refused) {
         std::cerr << "ledgerwick-cases: " << refused.why << "\n";
         return 2;
+    } catch (const std::exception& e) {
+        std::cerr << "ledgerwick-cases: the class set stopped: " << e.what() << "\n";
+        return 1;
     }
 }

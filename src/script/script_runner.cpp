@@ -205,7 +205,10 @@ void ScriptRunner::queueAnswer(const std::vector<std::string>& words) {
         if (words.size() > 2 && words[2] != "clip" && words[2] != "exit")
             throw ScriptError("report takes clip or exit after the description");
     }
-    // "file proposed FOLDER" keeps the name the dialog proposes and puts it in FOLDER.
+    // "file proposed FOLDER" keeps the name the dialog proposes and puts it in FOLDER; an empty FOLDER
+    // would put it at the top of the disk.
+    if (words[0] == "file" && words[1] == "proposed" && words.size() > 2 && words[2].empty())
+        throw ScriptError("file proposed takes a folder");
     if (words[0] == "file" && words[1] == "proposed" && words.size() > 2)
         answer.words = {"proposed", codePage(path(words[2]))};
     else if (words[0] == "file" && words[1] != "cancel")

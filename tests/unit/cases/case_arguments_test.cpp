@@ -25,6 +25,14 @@ TEST(CaseArguments, AWholeLineIsRead) {
     EXPECT_FALSE(parsed->window);
 }
 
+TEST(CaseArguments, EverySeedOfSixtyFourBitsIsTaken) {
+    std::string error;
+    auto parsed =
+        parse({"--count", "1", "--seed", "18446744073709551615", "--year", "2025", "--out", "x"}, error);
+    ASSERT_TRUE(parsed) << error;
+    EXPECT_EQ(parsed->options.seed, 18446744073709551615u);
+}
+
 TEST(CaseArguments, NoArgumentOpensTheWindow) {
     std::string error;
     auto parsed = parse({}, error);
@@ -41,6 +49,11 @@ TEST(CaseArguments, WhatCannotBeUsedIsSaidClearly) {
     EXPECT_EQ(error, "--out needs a value");
     EXPECT_FALSE(parse({"--count", "3", "--year", "2025", "--out", "x"}, error));
     EXPECT_EQ(error, "--count, --seed, --year and --out are all needed");
+    EXPECT_FALSE(parse({"--count", "3", "--seed", "1", "--year", "20250", "--out", "x"}, error));
+    EXPECT_EQ(error, "--year takes a year such as 2025, not \"20250\"");
+    EXPECT_FALSE(
+        parse({"--count", "3", "--seed", "18446744073709551616", "--year", "2025", "--out", "x"}, error));
+    EXPECT_EQ(error, "--seed takes a whole number, not \"18446744073709551616\"");
     EXPECT_FALSE(parse({"--frobnicate"}, error));
     EXPECT_EQ(error, "unknown argument \"--frobnicate\"");
 }

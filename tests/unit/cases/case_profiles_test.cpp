@@ -58,6 +58,16 @@ TEST(CaseProfiles, AValueThatIsNoRangeNamesTheFileTheProfileAndTheKey) {
     }
     const std::string backwards = scratchFile("backwards.inf", "[odd]\r\nW2.Wages=9000-100\r\nW2=1\r\n");
     EXPECT_THROW(readProfiles(backwards), std::runtime_error);
+    const std::string many = scratchFile("many.inf", "[odd]\r\nINT=1-200000\r\n");
+    try {
+        readProfiles(many);
+        FAIL() << "no error";
+    } catch (const std::runtime_error& e) {
+        EXPECT_NE(std::string(e.what()).find("[odd] INT: \"1-200000\" asks for more than 20 of a document"),
+                  std::string::npos)
+            << e.what();
+    }
+    EXPECT_EQ(readProfiles(scratchFile("twenty.inf", "[odd]\r\nINT=20\r\n"))[0].documents[0].count.hi, 20);
     const std::string empty = scratchFile("empty.inf", "; nothing\r\n");
     EXPECT_THROW(readProfiles(empty), std::runtime_error);
 }
@@ -81,6 +91,7 @@ TEST(CaseLists, TheShippedListsAreWholeAndTownsCarryTheirZipCodes) {
         EXPECT_EQ(town.zip.size(), 5u) << town.name;
         EXPECT_EQ(town.areaCode.size(), 3u) << town.name;
     }
+    EXPECT_EQ(lists.portraitsFemale.size() + lists.portraitsMale.size(), 16u);
     const std::string broken = scratchFile("lists.inf", "[Towns]\r\nSPRINGFIELD|IL\r\n");
     EXPECT_THROW(readCaseLists(broken), std::runtime_error);
 }
