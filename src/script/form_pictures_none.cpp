@@ -9,11 +9,11 @@ namespace lw::script {
 
 namespace {
 
-// Twips to a pixel on a 96 dpi screen, as the painter counts them.
-constexpr double kTwipsPerPixel = 15.0;
-
+// Device pixels of a length in twips, counted as the painter counts them: 15 twips to a pixel at 96 dpi,
+// times the zoom, rounded, and never less than one.
 int toPixels(int twips, double zoom) {
-    return std::max(1, static_cast<int>(std::lround(twips * zoom / kTwipsPerPixel)));
+    const double scale = (1.0 / 15.0) * zoom;
+    return std::max(1, static_cast<int>(std::lround(twips * scale)));
 }
 
 class UndrawnPicture : public FormPicture {
