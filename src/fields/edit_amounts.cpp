@@ -1,5 +1,6 @@
 #include <string>
 
+#include "fields/box_dollar_sign.h"
 #include "fields/edit_ctl.h"
 #include "fields/edit_handler.h"
 #include "model/app_error.h"
@@ -49,7 +50,7 @@ bool EditCtl_Money(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_Money";
     return runEdit(ctl, kLabel, {kMoneyColour, false}, [&] {
         const std::string amount = amountText(withoutDollarsAndCommas(ctl.text), kLabel);
-        ctl.text = text::formatNumber(amount, ctl.tag == "SMONEY" ? "###,###.00" : "$###,###.00");
+        ctl.text = text::formatNumber(amount, takesBoxDollarSign(ctl) ? "###,###.00" : "$###,###.00");
     });
 }
 

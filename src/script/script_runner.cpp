@@ -135,6 +135,7 @@ void ScriptRunner::execute(const std::vector<std::string>& words) {
     if (command == "show" || command == "dump" || command == "save-clipboard" || command == "print-to" ||
         command == "snapshot")
         return showValue(words);
+    if (command == "list") return list(words);
     act(words);
 }
 

@@ -39,6 +39,9 @@ private:
     void queueAnswer(const std::vector<std::string>& words);
     void check(const std::vector<std::string>& words);
     void showValue(const std::vector<std::string>& words);
+    void list(const std::vector<std::string>& words);
+    void listMenu();
+    void listControls();
 
     Form& inputForm() const;
     Control& control(const std::string& reference) const;

@@ -27,6 +27,32 @@ std::string escapeLineEnds(const std::string& text) {
     return out;
 }
 
+std::string quoted(const std::string& text) {
+    std::string out = "\"";
+    for (char c : text) {
+        switch (c) {
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
+            default:
+                out.push_back(c);
+        }
+    }
+    return out + "\"";
+}
+
 std::string flag(bool value) { return value ? "True" : "False"; }
 
 std::string number(double value) {

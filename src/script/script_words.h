@@ -18,6 +18,8 @@ std::string codePage(const std::string& utf8);
 std::string utf8(const std::string& cp1252);
 // Line ends shown as \r and \n, so that a failure stays on one line of the output.
 std::string escapeLineEnds(const std::string& text);
+// A text in double quotes with the escapes a script line reads back (\" \\ \r \n \t).
+std::string quoted(const std::string& text);
 std::string flag(bool value);
 std::string number(double value);
 

@@ -107,6 +107,15 @@ std::string longText(std::string value, const std::string& year) {
     return " " + value;
 }
 
+// A bar inside a caption breaks its line; one that opens or closes the caption is the character itself
+// (a caption never starts or ends on an empty line), as in the routing marks "|:" and ":|" of a check.
+std::string withLineBreaks(const std::string& caption) {
+    if (caption.size() < 2) return caption;
+    const std::size_t last = caption.size() - 1;
+    return caption.substr(0, 1) + text::replaceAll(caption.substr(1, last - 1), "|", "\r\n") +
+           caption.substr(last);
+}
+
 }  // namespace
 
 void Form_Common_Init(Form& frm) {
@@ -186,7 +195,7 @@ void Form_Init_Captions() {
             if (!isLabel(c)) continue;
             const std::string lead = text::toUpper(c.name.substr(0, 3));
             if (lead != "RTL" && lead != "RTB") {
-                c.caption = text::replaceAll(text::replaceAll(c.caption, "20??", year), "|", "\r\n");
+                c.caption = withLineBreaks(text::replaceAll(c.caption, "20??", year));
                 continue;
             }
             c.caption = longText(GetFormInfo(form.name(), c.name), year);

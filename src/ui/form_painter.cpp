@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "fields/box_dollar_sign.h"
 #include "model/containers.h"
 #include "ui/qt_text.h"
 
@@ -65,6 +66,7 @@ QRect paintedExtent(const Control& control, double scale) {
                                       toPixels(control.y2 + originTop(control), scale)))
                              .normalized()
                        : controlRect(control, scale);
+    if (takesBoxDollarSign(control)) extent = extent.united(boxDollarSignRect(control, scale));
     const int stroke = std::max(2, static_cast<int>(std::ceil(control.borderWidth * 15 * scale))) + 1;
     return extent.adjusted(-stroke, -stroke, stroke, stroke);
 }
@@ -101,6 +103,14 @@ QRect textArea(const Control& control, double scale) {
     if (control.borderStyle != 0) inner.adjust(px(1), px(1), -px(1), -px(1));
     return inner.adjusted(px(2), control.multiLine ? px(1) : 0, -px(2), 0);
 }
+
+QRect boxDollarSignRect(const Control& field, double scale) {
+    const QRect r = controlRect(field, scale);
+    const int left = toPixels(formLeft(field) - kBoxDollarSignRoom, scale);
+    return QRect(left, r.top(), r.left() - left, r.height());
+}
+
+QFont boxDollarSignFont(double scale) { return scaledFont("Tahoma", 8, false, false, scale); }
 
 bool hasEditor(ControlKind kind) {
     switch (kind) {
@@ -186,7 +196,9 @@ void FormPainter::paintForm(QPainter& painter, const Form& form, bool skipEditor
     painter.save();
     painter.fillRect(QRect(QPoint(0, 0), formSize(form, scale_)), toQColor(form.backColor));
     for (const Control* control : paintOrder(form)) {
-        if (!isShown(*control) || (skipEditors && hasEditor(control->kind))) continue;
+        if (!isShown(*control)) continue;
+        if (takesBoxDollarSign(*control)) paintBoxDollarSign(painter, *control);
+        if (skipEditors && hasEditor(control->kind)) continue;
         paintControl(painter, *control);
     }
     painter.restore();
@@ -197,8 +209,9 @@ void FormPainter::paintArea(QPainter& painter, const Form& form, const QRect& ar
     painter.setClipRect(area);
     painter.fillRect(area, toQColor(form.backColor));
     for (const Control* control : paintOrder(form)) {
-        if (!isShown(*control) || (skipEditors && hasEditor(control->kind))) continue;
-        if (!paintedExtent(*control, scale_).intersects(area)) continue;
+        if (!isShown(*control) || !paintedExtent(*control, scale_).intersects(area)) continue;
+        if (takesBoxDollarSign(*control)) paintBoxDollarSign(painter, *control);
+        if (skipEditors && hasEditor(control->kind)) continue;
         paintControl(painter, *control);
     }
     painter.restore();
@@ -249,6 +262,16 @@ void FormPainter::paintControl(QPainter& painter, const Control& control) const 
             paintRows(painter, control, r);
             break;
     }
+    painter.restore();
+}
+
+void FormPainter::paintBoxDollarSign(QPainter& painter, const Control& field) const {
+    painter.save();
+    painter.setFont(boxDollarSignFont(scale_));
+    painter.setPen(Qt::black);
+    // Set off from the field by the width of its border.
+    painter.drawText(boxDollarSignRect(field, scale_).adjusted(0, 0, -px(2), 0),
+                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, QStringLiteral("$"));
     painter.restore();
 }
 

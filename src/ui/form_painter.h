@@ -36,6 +36,9 @@ struct LabelLayout {
 LabelLayout labelLayout(const Control& label, double scale);
 // Where a text box writes its text: inside its border, with the small margins of an edit control.
 QRect textArea(const Control& control, double scale);
+// Where the box prints the "$" of an amount whose text carries none: in the room left of the field.
+QRect boxDollarSignRect(const Control& field, double scale);
+QFont boxDollarSignFont(double scale);
 
 // The kinds a form view hosts as real editors instead of painting them.
 bool hasEditor(ControlKind kind);
@@ -61,6 +64,8 @@ public:
     // As paintForm, within one area only: the background there and the controls that reach into it.
     void paintArea(QPainter& painter, const Form& form, const QRect& area, bool skipEditors) const;
     void paintControl(QPainter& painter, const Control& control) const;
+    // The "$" a box prints beside a field; the field itself may be an editor of the view.
+    void paintBoxDollarSign(QPainter& painter, const Control& field) const;
 
 private:
     void paintLabel(QPainter& p, const Control& c, const QRect& r) const;

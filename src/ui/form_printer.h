@@ -16,7 +16,8 @@ namespace lw::ui {
 bool printForm(const Form& form, const std::string& printerName);
 // Writes the printed page to a PDF file instead.
 bool printFormToPdf(const Form& form, const QString& path);
-// Paints the form on a printer that has been set up: at its true size, made smaller only to fit the page.
+// Paints the form on a printer that has been set up: at its true size, made smaller only to fit the page,
+// on a page turned the way that lets it stand largest.
 bool paintOnPrinter(QPrinter& printer, const Form& form);
 // Paints the form at its true size (1440 twips to the inch at the device's resolution) from the top left
 // of the page, made smaller only when it does not fit.

@@ -16,6 +16,7 @@
 
 #include "model/containers.h"
 #include "catalogue/field_names.h"
+#include "fields/box_dollar_sign.h"
 #include "model/program.h"
 #include "ui/form_view_accessible.h"
 #include "ui/command_icons.h"
@@ -181,6 +182,16 @@ void FormView::refresh() {
             QWidget* editor = editors_.value(control, nullptr);
             if (!editor) editor = createEditor(*control);
             if (editor) mirror(*control, editor);
+            // The "$" a box prints beside an amount lies on the face and comes and goes with its field.
+            const QRect sign = takesBoxDollarSign(*control) && isShown(*control)
+                                   ? boxDollarSignRect(*control, kScreenScale)
+                                   : QRect();
+            const QRect before = paintedAt_.value(control);
+            if (sign != before) {
+                damaged += before;
+                damaged += sign;
+                paintedAt_.insert(control, sign);
+            }
             continue;
         }
         const QRect now = paintedExtent(*control, kScreenScale);

@@ -1,6 +1,7 @@
 #include <chrono>
 #include <string>
 
+#include "fields/box_dollar_sign.h"
 #include "fields_fixture.h"
 
 namespace lw::test {
@@ -76,6 +77,15 @@ INSTANTIATE_TEST_SUITE_P(
         EditRow{"AMONEY", "u", "u", true}, EditRow{"AMONEY", "UN", "UN", true},
         EditRow{"AMONEY", "$5", "$5", true}, EditRow{"AMONEY", "1234.5", "$1,234.50", true},
         EditRow{"AMONEY", "(5)", "(5)", true}));
+
+TEST_F(FieldsTest, AnAmountCarriesItsOwnDollarSignUnlessItsBoxPrintsOne) {
+    for (const char* tag : {"MONEY", "SMONEY", "-MONEY", "AMONEY", "money", "smoney"}) {
+        Control& amount = field(tag, "1234.5");
+        ASSERT_TRUE(editFocused(amount)) << tag;
+        EXPECT_EQ(amount.text.find('$') == std::string::npos, takesBoxDollarSign(amount))
+            << tag << " shows \"" << amount.text << "\"";
+    }
+}
 
 TEST_F(FieldsTest, AnUnknownAmountTypedInLowerCaseReachesTheEditInCapitals) {
     Control& amount = field("AMONEY");

@@ -34,6 +34,20 @@ TEST_F(Captions, OrdinaryLabelsTakeTheYearAndBreakAtBars) {
     EXPECT_EQ(caption("Label1", 0), "Tax year 2023\r\nsecond line");
 }
 
+TEST_F(Captions, ABarThatOpensOrClosesACaptionIsDrawnAsItStands) {
+    form.add(ControlKind::Label, "Label5", 0).caption = "|:";
+    form.add(ControlKind::Label, "Label5", 1).caption = ":|";
+    form.add(ControlKind::Label, "Label5", 2).caption = "|a|b|";
+    Form_Init_Captions();
+    EXPECT_EQ(caption("Label5", 0), "|:");
+    EXPECT_EQ(caption("Label5", 1), ":|");
+    EXPECT_EQ(caption("Label5", 2), "|a\r\nb|");
+    // A second pass, as after a change of year, keeps them.
+    Form_Init_Captions();
+    EXPECT_EQ(caption("Label5", 0), "|:");
+    EXPECT_EQ(caption("Label5", 2), "|a\r\nb|");
+}
+
 TEST_F(Captions, LongTextsComeFromTheCatalogueWithTheYearAndABlankAfterEachBreak) {
     Form_Init_Captions();
     EXPECT_EQ(caption("RTL1"), " Form 1099-X\r\n For calendar year 2023");

@@ -1,0 +1,12 @@
+# Runs a script that must pass and checks that its output holds each line of WANT as it stands.
+execute_process(COMMAND ${RUNNER} ${SCRIPT} RESULT_VARIABLE status OUTPUT_VARIABLE output)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "exit status ${status}:\n${output}")
+endif()
+file(STRINGS ${WANT} wanted)
+foreach(line IN LISTS wanted)
+  string(FIND "${output}" "${line}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "the output does not hold\n  ${line}\n${output}")
+  endif()
+endforeach()
