@@ -1,6 +1,7 @@
 #include "forms/w2_form.h"
 
 #include <charconv>
+#include <cstdio>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -44,8 +45,14 @@ double numberOf(const std::string& value) {
 // A double kept as text the classic way, with up to 15 significant digits, and read back.
 double throughText(double value) {
     char buffer[64];
+#if defined(__cpp_lib_to_chars)
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
     return numberOf(std::string(buffer, result.ptr));
+#else
+    // The WebAssembly build's library has no floating to_chars; its C library's %g writes the same text.
+    const int length = std::snprintf(buffer, sizeof buffer, "%.15g", value);
+    return numberOf(std::string(buffer, static_cast<std::size_t>(length)));
+#endif
 }
 
 // A percentage of an amount, in double precision (the rate divided first), held as currency.

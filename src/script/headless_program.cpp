@@ -1,11 +1,6 @@
 #include "script/headless_program.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <QByteArray>
-#include <QFileInfo>
-#include <QString>
+#include <filesystem>
 
 #include "forms/register_forms.h"
 #include "model/app_error.h"
@@ -14,17 +9,12 @@
 
 namespace lw::script {
 
-void prepareHeadlessQt() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        std::string runtime = "/tmp/ledgerwick-runtime-" + std::to_string(getuid());
-        mkdir(runtime.c_str(), 0700);
-        qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
-    }
-}
-
 std::string shippedFilesOf(const char* argv0) {
-    return shippedFilesFolder(QFileInfo(QString::fromLocal8Bit(argv0)).absolutePath().toStdString());
+    // The executable's folder made absolute and clean, so the paths the program shows read plainly.
+    std::error_code ec;
+    std::filesystem::path executable = std::filesystem::absolute(argv0, ec);
+    if (ec) executable = argv0;
+    return shippedFilesFolder(executable.lexically_normal().parent_path().string());
 }
 
 HeadlessProgram::HeadlessProgram(Session& session)

@@ -13,7 +13,7 @@
 namespace lw::script {
 
 // Qt draws off-screen and needs no display; a bare machine gets a private runtime folder of its own.
-// Call before the QApplication is made.
+// Call before the QApplication is made. Built with the Qt pictures only (headless_qt.cpp).
 void prepareHeadlessQt();
 // The folder of the shipped files for the executable named by argv[0].
 std::string shippedFilesOf(const char* argv0);

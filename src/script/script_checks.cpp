@@ -25,7 +25,7 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
 
     if (what == "quit") return expectThat(session_.ended, session_.ended ? "ended" : "still running");
     if (what == "clipboard")
-        return expectThat(session_.clipboardPicture.has_value(),
+        return expectThat(session_.clipboardPicture != nullptr,
                           session_.clipboardPicture ? "a picture" : "no picture");
     if (what == "clipboard-size") {
         need(words, 3, "expect clipboard-size WIDTHxHEIGHT");
@@ -37,14 +37,15 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     }
     if (what == "clipboard-pixel" || what == "printed-pixel") {
         need(words, 5, "expect clipboard-pixel|printed-pixel X Y \"#RRGGBB\"");
-        const std::optional<QImage>& picture =
+        const std::shared_ptr<const FormPicture>& picture =
             what == "clipboard-pixel" ? session_.clipboardPicture : session_.printedPicture;
         const int x = std::atoi(words[2].c_str());
         const int y = std::atoi(words[3].c_str());
         if (!picture) return expectThat(false, "no picture");
-        if (!picture->valid(x, y)) return expectThat(false, "a point outside the picture");
-        const std::string colour = picture->pixelColor(x, y).name().toUpper().toStdString();
-        return expectThat(colour == text::toUpper(words[4]), colour);
+        if (!picture->contains(x, y)) return expectThat(false, "a point outside the picture");
+        const std::optional<std::string> colour = picture->colourAt(x, y);
+        if (!colour) return expectThat(false, "a picture whose pixels this runner does not draw");
+        return expectThat(*colour == text::toUpper(words[4]), *colour);
     }
     if (what == "printed") {
         need(words, 3, "expect printed N");

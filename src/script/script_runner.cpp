@@ -1,7 +1,11 @@
 #include "script/script_runner.h"
 
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "forms/register_forms.h"
@@ -44,6 +48,23 @@ std::optional<DateTime> parseToday(const std::vector<std::string>& words) {
         t.second > 59)
         throw ScriptError("bad date " + words[1]);
     return t;
+}
+
+// A new folder of the user's own beside the others of its stem. The C library's own maker draws its names
+// from the clock, which a WebAssembly build reads to the millisecond only, so that runs started at
+// the same moment of different seconds met the same names; the names here come from the system's
+// random source.
+std::optional<std::string> makeTemporaryFolder(const std::string& stem) {
+    static const char letters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> pick(0, sizeof letters - 2);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        std::string folder = stem;
+        for (int i = 0; i < 6; ++i) folder += letters[pick(random)];
+        if (mkdir(folder.c_str(), 0700) == 0) return folder;
+        if (errno != EEXIST) return std::nullopt;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
@@ -145,9 +166,12 @@ void ScriptRunner::setUp(const std::vector<std::string>& words) {
 
 void ScriptRunner::ensureRoot() {
     if (session_.root.empty()) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "ledgerwick-script-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) throw ScriptError("cannot make a temporary root folder");
-        session_.root = pattern;
+        std::error_code ec;
+        const std::filesystem::path temporary = std::filesystem::temp_directory_path(ec);
+        std::optional<std::string> folder;
+        if (!ec) folder = makeTemporaryFolder((temporary / "ledgerwick-script-").string());
+        if (!folder) throw ScriptError("cannot make a temporary root folder");
+        session_.root = *folder;
     }
     std::error_code ec;
     std::filesystem::create_directories(session_.root, ec);

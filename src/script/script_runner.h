@@ -12,7 +12,7 @@
 
 namespace lw {
 class Program;
-class Control;
+struct Control;
 class Form;
 }  // namespace lw
 

@@ -2,20 +2,20 @@
 // What the script has set up and queued, and what the program has shown: shared by the runner and its ports.
 
 #include <deque>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include <QImage>
-
 #include "model/date_time.h"
+#include "script/form_pictures.h"
 
 namespace lw::script {
 
 struct QueuedAnswer {
     int line = 0;
-    std::string kind;  // "answer", "file", "filesave", "k1", "report"
+    std::string kind;                // "answer", "file", "filesave", "k1", "report"
     std::vector<std::string> words;  // in the code page
 };
 
@@ -64,10 +64,11 @@ struct Session {
     std::size_t reportsSeen = 0;  // reports shown before the last report check
     std::optional<std::string> lastDialog;
     std::optional<ShownK1List> lastK1List;
-    std::optional<QImage> clipboardPicture;
+    std::shared_ptr<const FormPicture> clipboardPicture;
     std::string clipboardText;
     int printedPages = 0;
-    std::optional<QImage> printedPicture;  // the last page printed, drawn as the clipboard picture is
+    std::shared_ptr<const FormPicture>
+        printedPicture;  // the last page printed, drawn as the clipboard picture is
     bool ended = false;
 
     // A fault of the script found while the program was running (an answer naming no button).

@@ -5,11 +5,10 @@
 #include "diagnostics/message_box.h"
 #include "model/app_error.h"
 #include "model/program.h"
+#include "script/form_pictures.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/pieces.h"
-#include "ui/clipboard_picture.h"
-#include "ui/form_printer.h"
 
 namespace lw::script {
 
@@ -162,7 +161,7 @@ void ScriptUi::answerK1List(Form& list) {
 }
 
 void ScriptUi::copyPictureToClipboard(Form& form) {
-    session_.clipboardPicture = ui::renderForm(form);
+    session_.clipboardPicture = drawForm(form);
     *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width()
                   << "x" << session_.clipboardPicture->height() << "\n";
 }
@@ -170,10 +169,13 @@ void ScriptUi::copyPictureToClipboard(Form& form) {
 // The printer is a file: each page is counted, and written as a PDF where the script asked for one.
 bool ScriptUi::printForm(const Form& form, const std::string& printer) {
     ++session_.printedPages;
-    session_.printedPicture = ui::renderForm(form);
+    session_.printedPicture = drawForm(form);
     *session_.out << "printed " << form.name() << " on \"" << forOutput(printer) << "\"\n";
     if (session_.printTo.empty()) return true;
-    return ui::printFormToPdf(form, QString::fromStdString(session_.printTo));
+    if (!picturesDrawn() && !session_.scriptError)
+        session_.scriptError = {0,
+                                "this runner draws no pictures, so it cannot print to " + session_.printTo};
+    return printFormToPdf(form, session_.printTo);
 }
 
 std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request) {
@@ -190,7 +192,8 @@ std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request
         return std::nullopt;
     }
     std::string chosen = answer->words[0];
-    if (chosen == "proposed" && answer->words.size() > 1) chosen = answer->words[1] + "/" + request.proposedName;
+    if (chosen == "proposed" && answer->words.size() > 1)
+        chosen = answer->words[1] + "/" + request.proposedName;
     *session_.out << " -> " << forOutput(chosen) << "\n";
     return chosen;
 }

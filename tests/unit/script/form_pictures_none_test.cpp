@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "model/form.h"
+#include "picture_sizes.h"
+#include "script/form_pictures.h"
+
+namespace lw::script {
+namespace {
+
+// The runner built without a painter: its pictures have the painter's sizes and no pixels.
+TEST(UndrawnFormPictures, HaveThePaintersSizesAtEachZoom) {
+    EXPECT_FALSE(picturesDrawn());
+    for (const auto& size : testing::pictureSizes()) {
+        Form form("TF_Test");
+        form.width = size.widthTwips;
+        form.height = size.heightTwips;
+        const auto picture = drawForm(form, size.zoom);
+        EXPECT_EQ(picture->width(), size.width) << size.widthTwips << " twips at " << size.zoom;
+        EXPECT_EQ(picture->height(), size.height) << size.heightTwips << " twips at " << size.zoom;
+    }
+}
+
+TEST(UndrawnFormPictures, HaveNoPixelsAndWriteNoFile) {
+    Form form("TF_Test");
+    form.width = 1500;
+    form.height = 750;
+    const auto picture = drawForm(form);
+    EXPECT_TRUE(picture->contains(10, 10));
+    EXPECT_FALSE(picture->colourAt(10, 10).has_value());
+    const auto file = std::filesystem::temp_directory_path() / "lw-undrawn-picture-test.png";
+    EXPECT_FALSE(picture->savePng(file.string()));
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_FALSE(printFormToPdf(form, file.string()));
+}
+
+}  // namespace
+}  // namespace lw::script

@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <filesystem>
+
+#include "model/form.h"
+#include "picture_sizes.h"
+#include "qt_offscreen.h"
+#include "script/form_pictures.h"
+
+namespace lw::script {
+namespace {
+
+const auto* const kQt = lw::testing::addQtOffscreen();
+
+TEST(DrawnFormPictures, HaveTheFormsPixelSizeAtEachZoom) {
+    EXPECT_TRUE(picturesDrawn());
+    for (const auto& size : testing::pictureSizes()) {
+        Form form("TF_Test");
+        form.width = size.widthTwips;
+        form.height = size.heightTwips;
+        const auto picture = drawForm(form, size.zoom);
+        EXPECT_EQ(picture->width(), size.width) << size.widthTwips << " twips at " << size.zoom;
+        EXPECT_EQ(picture->height(), size.height) << size.heightTwips << " twips at " << size.zoom;
+    }
+}
+
+TEST(DrawnFormPictures, GiveTheColourOfAPointAndWriteAPng) {
+    Form form("TF_Test");
+    form.width = 1500;
+    form.height = 750;
+    form.backColor = 0x00FF8040;  // blue 0xFF, green 0x80, red 0x40 in the model's order
+    const auto picture = drawForm(form);
+    EXPECT_EQ(picture->colourAt(10, 10), "#4080FF");
+    EXPECT_FALSE(picture->colourAt(100, 10).has_value());
+    EXPECT_FALSE(picture->contains(100, 10));
+    EXPECT_TRUE(picture->contains(99, 49));
+
+    const auto file = std::filesystem::temp_directory_path() / "lw-drawn-picture-test.png";
+    ASSERT_TRUE(picture->savePng(file.string()));
+    QImage read(QString::fromStdString(file.string()));
+    std::filesystem::remove(file);
+    EXPECT_EQ(read.width(), 100);
+    EXPECT_EQ(read.height(), 50);
+    EXPECT_FALSE(picture->savePng("/nonexistent-folder/picture.png"));
+}
+
+}  // namespace
+}  // namespace lw::script
