@@ -1,4 +1,5 @@
 #include "cases/case_documents.h"
+#include "cases/operator_script.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -29,6 +30,14 @@ std::string dateIn(int year, int month, int day) {
     char buffer[16];
     std::snprintf(buffer, sizeof buffer, "%02d/%02d/%04d", month, day, year);
     return buffer;
+}
+
+void startPayerDocument(CaseWriting& w, const char* menuItem, int ordinal, const Organisation& payer,
+                        PayerFields fields) {
+    w.script.openForm(menuItem);
+    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
+    w.script.fill(fields.block, payer.block(fields.telephone));
+    w.script.fill(fields.number, typedDigits(payer.ein));
 }
 
 }  // namespace pieces

@@ -43,6 +43,17 @@ long long percentOf(long long cents, int percent);
 // States that tax no wages leave their state boxes empty.
 bool taxesWages(const std::string& state);
 std::string dateIn(int year, int month, int day);
+
+// Where a payer's name block and number go on its form, and whether the block ends in its telephone.
+struct PayerFields {
+    const char* block;
+    const char* number;
+    bool telephone;
+};
+// Opens the form, lets Load TP fill the part of the person whose document it is, and fills the payer's
+// block and number.
+void startPayerDocument(CaseWriting& w, const char* menuItem, int ordinal, const Organisation& payer,
+                        PayerFields fields);
 }  // namespace pieces
 
 // The writer of each kind, one file per family of documents.

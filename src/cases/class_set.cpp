@@ -17,6 +17,7 @@
 #include "store/atomic_file.h"
 #include "store/file_bytes.h"
 #include "store/inf_store.h"
+#include "store/scratch_folder.h"
 
 namespace lw::cases {
 
@@ -31,26 +32,6 @@ std::string caseName(int number, int count) {
     const std::size_t width = std::max<std::size_t>(2, std::to_string(count).size());
     return "case-" + std::string(width - std::min(width, digits.size()), '0') + digits;
 }
-
-// A folder of its own in the temporary folder, gone with the object.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::error_code ec;
-        const fs::path temporary = fs::temp_directory_path(ec);
-        if (ec) return;
-        std::string pattern = (temporary / "ledgerwick-cases-XXXXXX").string();
-        if (mkdtemp(pattern.data())) path_ = pattern;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty()) fs::remove_all(path_, ec);
-    }
-    const std::string& path() const { return path_; }
-
-private:
-    std::string path_;
-};
 
 bool canWriteInto(const std::string& folder) {
     std::error_code ec;
@@ -160,7 +141,7 @@ ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::stri
         throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
                               " in " + ssmc};
     socialSecurityMax_ = std::atoll(base.c_str());
-    if (ScratchFolder().path().empty())
+    if (store::ScratchFolder("ledgerwick-cases").path().empty())
         throw ClassSetRefused{"no temporary folder can be made (see TMPDIR) for the program to work in"};
     if (options_.out.empty() || !canWriteInto(options_.out))
         throw ClassSetRefused{"the folder \"" + options_.out + "\" cannot be written"};
@@ -222,7 +203,7 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
     const Profile& profile = profileOfCase(number);
     const Household household = makeHousehold(profile, options_.year, lists_, dice);
 
-    ScratchFolder disk;
+    store::ScratchFolder disk("ledgerwick-cases");
     if (disk.path().empty()) return giveUp("no temporary folder");
     const std::string clock = clockOfCase(options_.year, number);
     OperatorScript script(disk.path(), clock, executableName());

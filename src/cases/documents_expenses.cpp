@@ -12,10 +12,7 @@ void writeMortgage(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Household& h = w.household;
     const Organisation lender = makeOrganisation(w.dice.pick(w.lists.lenders), w.lists, w.dice);
     const long long interest = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1098");
-    w.script.loadTaxpayer(whoseDocument(h, ordinal));
-    w.script.fill("Text1(0)", lender.block(true));
-    w.script.fill("Text1(1)", typedDigits(lender.ein));
+    startPayerDocument(w, "mnu1098", ordinal, lender, {"Text1(0)", "Text1(1)", true});
     w.script.fill("Text1(8)", w.dice.digits(10));
     w.script.fill("Text1(3)", typedAmount(interest));
     // At five to seven percent, the principal outstanding is some fifteen to twenty times the interest.
@@ -28,10 +25,7 @@ void writeMortgage(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 
 void writeStudentLoan(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation servicer = makeOrganisation(w.dice.pick(w.lists.servicers), w.lists, w.dice);
-    w.script.openForm("mnu1098E");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", servicer.block(true));
-    w.script.fill("Text1(1)", typedDigits(servicer.ein));
+    startPayerDocument(w, "mnu1098E", ordinal, servicer, {"Text1(0)", "Text1(1)", true});
     w.script.fill("Text1(5)", w.dice.digits(10));
     w.script.fill("Text1(3)", typedAmount(amountIn(w.dice, rule.amount)));
     w.script.saveInto(w.folder);
@@ -40,10 +34,7 @@ void writeStudentLoan(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writeTuition(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation school = makeOrganisation(w.dice.pick(w.lists.schools), w.lists, w.dice);
     const long long paid = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1098T");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", school.block(true));
-    w.script.fill("Text1(3)", typedDigits(school.ein));
+    startPayerDocument(w, "mnu1098T", ordinal, school, {"Text1(0)", "Text1(3)", true});
     w.script.fill("Text1(1)", typedAmount(paid));
     if (w.dice.chance(40)) w.script.fill("Text1(7)", typedAmount(percentOf(paid, static_cast<int>(w.dice.between(10, 60)))));
     w.script.saveInto(w.folder);

@@ -8,10 +8,7 @@ using namespace pieces;
 
 void writeInterest(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation bank = makeOrganisation(w.dice.pick(w.lists.banks), w.lists, w.dice);
-    w.script.openForm("mnu1099Int");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", bank.block(true));
-    w.script.fill("Text1(4)", typedDigits(bank.ein));
+    startPayerDocument(w, "mnu1099Int", ordinal, bank, {"Text1(0)", "Text1(4)", true});
     w.script.fill("Text1(14)", w.dice.digits(10));
     w.script.fill("Text1(2)", typedAmount(amountIn(w.dice, rule.amount)));
     w.script.saveInto(w.folder);
@@ -20,10 +17,7 @@ void writeInterest(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writeDividends(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation fund = makeOrganisation(w.dice.pick(w.lists.funds), w.lists, w.dice);
     const long long ordinary = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1099Div");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", fund.block(true));
-    w.script.fill("Text1(5)", typedDigits(fund.ein));
+    startPayerDocument(w, "mnu1099Div", ordinal, fund, {"Text1(0)", "Text1(5)", true});
     w.script.fill("Text1(17)", w.dice.digits(9));
     w.script.fill("Text1(1)", typedAmount(ordinary));
     w.script.fill("Text1(2)", typedAmount(percentOf(ordinary, static_cast<int>(w.dice.between(55, 95)))));
@@ -36,10 +30,7 @@ void writePartnerK1(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation partnership = makeOrganisation(w.dice.pick(w.lists.partnerships), w.lists, w.dice);
     const long long ordinary = amountIn(w.dice, rule.amount);
     const std::string share = std::to_string(w.dice.between(1, 24)) + "." + w.dice.digits(2);
-    w.script.openForm("mnuK11065");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(2)", typedDigits(partnership.ein));
-    w.script.fill("Text1(3)", partnership.block(false));
+    startPayerDocument(w, "mnuK11065", ordinal, partnership, {"Text1(3)", "Text1(2)", false});
     for (int column : {10, 11, 12, 13, 14, 15}) w.script.fill("Text1(" + std::to_string(column) + ")", share);
     w.script.fill("Text3(0)", typedAmount(ordinary));
     w.script.fill("Text3(6)", typedAmount(percentOf(ordinary, static_cast<int>(w.dice.between(1, 6)))));

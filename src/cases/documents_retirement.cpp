@@ -9,10 +9,7 @@ using namespace pieces;
 void writePension(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation plan = makeOrganisation(w.dice.pick(w.lists.pensions), w.lists, w.dice);
     const long long gross = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1099R");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", plan.block(true));
-    w.script.fill("Text1(3)", typedDigits(plan.ein));
+    startPayerDocument(w, "mnu1099R", ordinal, plan, {"Text1(0)", "Text1(3)", true});
     w.script.fill("Text1(1)", typedAmount(gross));
     w.script.fill("Text1(2)", typedAmount(gross));
     w.script.fill("Text1(6)", typedAmount(percentOf(gross, static_cast<int>(w.dice.between(0, 15)))));

@@ -23,10 +23,7 @@ void writeW2(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const long long wages = gross - deferral;
     const long long base = w.socialSecurityMax * 100;
 
-    w.script.openForm("mnuW2");
-    w.script.loadTaxpayer(whoseDocument(h, ordinal));
-    w.script.fill("Text1(1)", typedDigits(company.ein));
-    w.script.fill("Text1(4)", company.block(false));
+    startPayerDocument(w, "mnuW2", ordinal, company, {"Text1(4)", "Text1(1)", false});
     w.script.fill("Text1(11)", w.dice.digits(6));
     w.script.fill("Text1(2)", typedAmount(wages));
     w.script.fill("Text1(3)", typedAmount(percentOf(wages, static_cast<int>(w.dice.between(6, 14)))));
@@ -49,10 +46,7 @@ void writeW2(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writeW2G(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation casino = makeOrganisation(w.dice.pick(w.lists.casinos), w.lists, w.dice);
     const long long winnings = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnuW2G");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", casino.block(false));
-    w.script.fill("Text1(9)", typedDigits(casino.ein));
+    startPayerDocument(w, "mnuW2G", ordinal, casino, {"Text1(0)", "Text1(9)", false});
     w.script.fill("Text1(10)", casino.telephone);
     w.script.fill("Text1(1)", typedAmount(winnings));
     w.script.fill("Text1(2)", dateIn(w.household.taxYear, static_cast<int>(w.dice.between(1, 12)),
@@ -66,10 +60,7 @@ void writeW2G(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writeNonemployee(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     Organisation client = makeOrganisation(w.dice.pick(w.lists.clients), w.lists, w.dice);
     if (w.dice.chance(70)) client.moveTo(w.household.town);
-    w.script.openForm("mnu1099NEC");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", client.block(true));
-    w.script.fill("Text1(1)", typedDigits(client.ein));
+    startPayerDocument(w, "mnu1099NEC", ordinal, client, {"Text1(0)", "Text1(1)", true});
     w.script.fill("Text1(5)", typedAmount(amountIn(w.dice, rule.amount)));
     w.script.saveInto(w.folder);
 }
@@ -77,10 +68,7 @@ void writeNonemployee(CaseWriting& w, const DocumentRule& rule, int ordinal) {
 void writePaymentCard(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Organisation platform = makeOrganisation(w.dice.pick(w.lists.platforms), w.lists, w.dice);
     const long long gross = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1099K");
-    w.script.loadTaxpayer(whoseDocument(w.household, ordinal));
-    w.script.fill("Text1(0)", platform.block(true));
-    w.script.fill("Text1(4)", typedDigits(platform.ein));
+    startPayerDocument(w, "mnu1099K", ordinal, platform, {"Text1(0)", "Text1(4)", true});
     w.script.fill("Text1(6)", typedAmount(gross));
     w.script.fill("Text1(9)", std::to_string(w.dice.between(120, 2400)));
     // The twelve months add up to box 1a to the cent; December takes what the others leave.
@@ -98,10 +86,7 @@ void writeUnemployment(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     Organisation agency = makeOrganisation("STATE OF " + h.town.state + " UNEMPLOYMENT INSURANCE", w.lists, w.dice);
     agency.moveTo(h.town);
     const long long paid = amountIn(w.dice, rule.amount);
-    w.script.openForm("mnu1099G");
-    w.script.loadTaxpayer(whoseDocument(h, ordinal));
-    w.script.fill("Text1(0)", agency.block(true));
-    w.script.fill("Text1(3)", typedDigits(agency.ein));
+    startPayerDocument(w, "mnu1099G", ordinal, agency, {"Text1(0)", "Text1(3)", true});
     w.script.fill("Text1(1)", typedAmount(paid));
     if (w.dice.chance(50)) w.script.fill("Text1(6)", typedAmount(percentOf(paid, 10)));
     w.script.saveInto(w.folder);

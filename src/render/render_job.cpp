@@ -13,6 +13,7 @@
 #include "model/program.h"
 #include "output/screen_clip.h"
 #include "script/headless_program.h"
+#include "store/scratch_folder.h"
 #include "text/cp1252.h"
 #include "ui/document_pages.h"
 
@@ -21,24 +22,6 @@ namespace lw::render {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The program runs in a folder of its own that stands for the machine's disk, so that rendering leaves
-// the trainer's settings and remembered folders as they were.
-class ScratchRoot {
-public:
-    ScratchRoot() {
-        std::string pattern = (fs::temp_directory_path() / "ledgerwick-render-XXXXXX").string();
-        if (mkdtemp(pattern.data())) path_ = pattern;
-    }
-    ~ScratchRoot() {
-        std::error_code ec;
-        if (!path_.empty()) fs::remove_all(path_, ec);
-    }
-    const std::string& path() const { return path_; }
-
-private:
-    std::string path_;
-};
 
 // Where the pages go: one PDF book, or one picture per page in a folder.
 class PageSink {
@@ -137,7 +120,9 @@ public:
 
 private:
     std::ostringstream log_;
-    ScratchRoot root_;
+    // The program runs on a disk of its own, so that rendering leaves the trainer's settings and
+    // remembered folders as they were.
+    store::ScratchFolder root_{"ledgerwick-render"};
     script::Session session_;
     std::unique_ptr<script::HeadlessProgram> headless_;
 };
