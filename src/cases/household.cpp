@@ -29,7 +29,8 @@ Person makePerson(const std::string& last, bool female, int taxYear, long long a
     person.first = dice.pick(female ? lists.givenFemale : lists.givenMale);
     person.middleInitial = std::string(1, static_cast<char>('A' + dice.between(0, 25)));
     person.last = last;
-    // About one person in twelve files with an ITIN.
+    // About one person in twelve files with an ITIN; a household whose taxpayers work for wages or draw
+    // benefits has their Social Security numbers put in afterwards.
     person.number = dice.chance(8) ? individualTaxpayerNumber(dice) : socialSecurityNumber(dice);
     person.birthDate = birthDate(taxYear, age, dice);
     return person;
@@ -37,6 +38,21 @@ Person makePerson(const std::string& last, bool female, int taxYear, long long a
 
 std::string streetAddress(const CaseLists& lists, Dice& dice) {
     return std::to_string(dice.between(100, 9899)) + " " + dice.pick(lists.streets);
+}
+
+bool needsSocialSecurityNumbers(const Profile& profile) {
+    for (const DocumentRule& rule : profile.documents)
+        switch (rule.kind) {
+            case DocumentKind::W2:
+            case DocumentKind::SocialSecurity:
+            case DocumentKind::Railroad:
+            case DocumentKind::FederalAnnuity:
+                if (rule.count.hi > 0) return true;
+                break;
+            default:
+                break;
+        }
+    return false;
 }
 
 }  // namespace
@@ -77,6 +93,11 @@ Household makeHousehold(const Profile& profile, int taxYear, const CaseLists& li
             makePerson(last, female, taxYear, dice.between(childAges.lo, childAges.hi), lists, dice);
         child.relation = female ? "DAUGHTER" : "SON";
         household.dependents.push_back(child);
+    }
+    // Wages and benefits are paid only to holders of a Social Security number.
+    if (needsSocialSecurityNumbers(profile)) {
+        for (Person* earner : {&household.taxpayer, &household.spouse})
+            if (isUnissuedTaxpayerNumber(earner->number)) earner->number = socialSecurityNumber(dice);
     }
     household.street = streetAddress(lists, dice);
     household.town = dice.pick(lists.towns);

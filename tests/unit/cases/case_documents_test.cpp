@@ -203,5 +203,22 @@ TEST(ClassSet, ABenefitStatementComesOnceAYearToEachPerson) {
     EXPECT_GE(statements, 8);
 }
 
+TEST(ClassSet, WagesAndBenefitsGoToHoldersOfASocialSecurityNumber) {
+    const fs::path out = freshFolder("earners");
+    ASSERT_EQ(make(optionsFor(out, 40, 12, {"retiree", "single-worker", "student"})), 0);
+    int checked = 0;
+    for (const auto& [path, line] : filesUnder(out)) {
+        std::string number;
+        if (line.rfind("W-2\xB7", 0) == 0) number = fieldIn(line, "TXT0");
+        if (line.rfind("SSA\xB7", 0) == 0) number = fieldIn(line, "TXT1");
+        if (line.rfind("RRB\xB7", 0) == 0) number = fieldIn(line, "TXT2");
+        if (line.rfind("CSA\xB7", 0) == 0) number = fieldIn(line, "TXT1");
+        if (number.empty()) continue;
+        EXPECT_NE(number[0], '9') << path << " is paid to " << number;
+        ++checked;
+    }
+    EXPECT_GE(checked, 40);
+}
+
 }  // namespace
 }  // namespace lw::cases
