@@ -117,6 +117,9 @@ std::vector<Profile> readProfiles(const std::string& file) {
             std::string amount = valueOf(section, amountKey, file);
             if (amount.empty()) amount = valueOf(section, wagesKey, file);
             if (!amount.empty()) rule.amount = parseRange(amount, where + " " + amountKey);
+            const std::string shareKey = std::string(entry.key) + ".WorkShare";
+            if (const std::string share = valueOf(section, shareKey, file); !share.empty())
+                rule.workShare = static_cast<int>(std::clamp<long long>(parseRange(share, where + " " + shareKey).lo, 1, 100));
             profile.documents.push_back(rule);
         }
         profiles.push_back(profile);

@@ -21,7 +21,8 @@ enum class DocumentKind { W2, W2G, Interest, Dividends, Nonemployee, PaymentCard
 struct DocumentRule {
     DocumentKind kind;
     Range count;
-    Range amount;  // whole dollars
+    Range amount;   // whole dollars
+    int workShare = 100;  // W2: the percent of full-time pay a job of the profile pays at the least
 };
 
 struct Profile {

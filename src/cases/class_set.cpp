@@ -164,6 +164,11 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
     std::error_code gone;
     fs::remove(out / "answers.csv", gone);
     fs::remove(out / "answers.md", gone);
+    // Cases half made by a set that was stopped are no cases.
+    for (const auto& entry : fs::directory_iterator(out, gone)) {
+        const std::string name = entry.path().filename().string();
+        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial") fs::remove_all(entry.path(), gone);
+    }
     {
         BatchedDisk batched;
         for (int number = 1; number <= options_.count; ++number) {
@@ -189,7 +194,6 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
     const fs::path staging = fs::path(options_.out) / (name + ".partial");
     std::error_code ec;
     fs::remove_all(staging, ec);
-    fs::remove_all(finished, ec);
     fs::create_directories(staging, ec);
     auto giveUp = [&](const std::string& why) {
         log << "ledgerwick-cases: " << name << " was not made: " << why << "\n";
@@ -251,6 +255,8 @@ bool ClassSet::makeCase(int number, std::ostream& log) {
     answers.caseName = name;
     answers.profile = profile.name;
     answers.filingStatus = household.filingStatus();
+    // A case made before under the same name gives way only to a whole new one.
+    fs::remove_all(finished, ec);
     fs::rename(staging, finished, ec);
     if (ec) return giveUp("it could not be moved into place");
     answers_.push_back(answers);

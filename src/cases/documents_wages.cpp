@@ -8,12 +8,14 @@ using namespace pieces;
 
 void writeW2(CaseWriting& w, const DocumentRule& rule, int ordinal) {
     const Household& h = w.household;
-    // The employer is one whose occupation pays within the profile's range, where there is one.
+    // The employer is one whose occupation pays within the profile's range, where there is one; a
+    // profile of part-time work (a student's) counts a job from the share of its full-time pay it asks.
+    const auto lowest = [&](const Employer& e) { return e.lowestPay * rule.workShare / 100; };
     std::vector<Employer> fitting;
     for (const Employer& e : w.lists.employers)
-        if (e.lowestPay <= rule.amount.hi && e.highestPay >= rule.amount.lo) fitting.push_back(e);
+        if (lowest(e) <= rule.amount.hi && e.highestPay >= rule.amount.lo) fitting.push_back(e);
     const Employer& employer = w.dice.pick(fitting.empty() ? w.lists.employers : fitting);
-    const Range pay{std::max(rule.amount.lo, employer.lowestPay), std::min(rule.amount.hi, employer.highestPay)};
+    const Range pay{std::max(rule.amount.lo, lowest(employer)), std::min(rule.amount.hi, employer.highestPay)};
     Organisation company = makeOrganisation(employer.name, w.lists, w.dice);
     // Most people work near home.
     if (w.dice.chance(85)) company.moveTo(h.town);

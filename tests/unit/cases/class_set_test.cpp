@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <set>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -214,6 +215,38 @@ TEST(ClassSet, ACaseTheProgramRefusesIsLeftOutWhole) {
     EXPECT_FALSE(fs::exists(out / "case-01"));
     EXPECT_FALSE(fs::exists(out / "case-01.partial"));
     EXPECT_TRUE(fs::exists(out / "answers.csv"));
+}
+
+TEST(ClassSet, HalfMadeCasesOfAStoppedSetAreClearedAndAGoodCaseGivesWayOnlyToAWholeOne) {
+    const fs::path out = freshFolder("made-again");
+    ASSERT_EQ(make(optionsFor(out, 1, 3)), 0);
+    fs::create_directories(out / "case-07.partial");
+    std::ofstream(out / "case-07.partial" / "half.venturo") << "W-2";
+    const auto before = filesUnder(out / "case-01");
+    // The same folder again, with a profile the program refuses: the case made before stays as it was.
+    const fs::path root = freshFolder("made-again-root");
+    fs::create_directories(root / "LedgerwickInfFiles");
+    std::ofstream(root / "LedgerwickInfFiles" / "CaseProfiles.inf") << "[too-poor]\r\nSSA=1\r\nSSA.Amount=100-100\r\n";
+    ClassSet set(optionsFor(out, 1, 3), kShipped, root.string());
+    std::ostringstream log;
+    EXPECT_EQ(set.make(log), 1);
+    EXPECT_FALSE(fs::exists(out / "case-07.partial"));
+    EXPECT_EQ(filesUnder(out / "case-01"), before);
+}
+
+TEST(ClassSet, StudentsWorkPartTimeInManyKindsOfJob) {
+    const fs::path out = freshFolder("students");
+    ASSERT_EQ(make(optionsFor(out, 24, 5, {"student"})), 0);
+    std::set<std::string> employers;
+    for (const auto& [path, line] : filesUnder(out)) {
+        if (line.rfind("W-2\xB7", 0) != 0) continue;
+        const std::string block = fieldIn(line, "TXT4");
+        employers.insert(block.substr(0, block.find('\xBB')));
+        const long long pay = centsIn(line, "TXT7");
+        EXPECT_GE(pay, 450000) << path;
+        EXPECT_LE(pay, 1900000) << path;
+    }
+    EXPECT_GE(employers.size(), 6u);
 }
 
 }  // namespace
