@@ -14,12 +14,14 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "model/containers.h"
 #include "catalogue/field_names.h"
+#include "model/containers.h"
 #include "model/program.h"
-#include "ui/form_view_accessible.h"
 #include "ui/command_icons.h"
+#include "ui/face_cache.h"
+#include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
+#include "ui/form_view_accessible.h"
 #include "ui/qt_text.h"
 
 namespace lw::ui {
@@ -64,7 +66,13 @@ QString FormView::objectNameOf(const Control& control) {
 
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
 
+void FormView::keepFace() {
+    if (form_ && !face_.isNull()) FaceCache::instance().keep(form_->name(), faceLook_, face_);
+    face_ = QPixmap();
+}
+
 void FormView::detach() {
+    keepFace();
     form_ = nullptr;
     looks_.reset();
     paintedAt_.clear();
@@ -100,6 +108,7 @@ QWidget* FormView::createEditor(Control& control) {
                 editor = box;
             } else {
                 auto* line = new QLineEdit(this);
+                if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
                 line->setAcceptDrops(false);
                 line->setDragEnabled(false);
                 connect(line, &QLineEdit::cursorPositionChanged, this,
@@ -190,16 +199,27 @@ void FormView::refresh() {
     }
     if (!damaged.isEmpty() && !face_.isNull()) {
         repaintFace(damaged);
+        faceLook_ = currentFaceLook();
         update(damaged);
     }
     placeFocus();
     refreshing_ = false;
 }
 
+std::size_t FormView::currentFaceLook() const {
+    const qreal ratio = devicePixelRatioF();
+    return faceLookOf(*form_, size() * ratio, ratio, palette().window().color());
+}
+
 void FormView::ensureFace() {
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
     if (!face_.isNull() && face_.size() == pixels && face_.devicePixelRatio() == ratio) return;
+    if (form_) {
+        faceLook_ = currentFaceLook();
+        face_ = FaceCache::instance().take(form_->name(), faceLook_, pixels, ratio);
+        if (!face_.isNull()) return;
+    }
     face_ = QPixmap(pixels);
     face_.setDevicePixelRatio(ratio);
     face_.fill(palette().window().color());

@@ -31,6 +31,8 @@ public:
     void setExtent(const QSize& pixels) { extent_ = pixels; }
     // The form has been unloaded: the view lets go of it and shows nothing more.
     void detach();
+    // The view goes: its face is kept for the next opening of its form.
+    void keepFace();
 
     QWidget* editorOf(const Control& control) const;
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
@@ -67,12 +69,14 @@ private:
     // The fixed face: every painted control drawn once, then redrawn only where a control changed.
     void ensureFace();
     void repaintFace(const QRegion& area);
+    std::size_t currentFaceLook() const;
 
     Form* form_;
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn
     QPixmap face_;
+    std::size_t faceLook_ = 0;  // what the face shows, as faceLookOf() had it when the face was last true
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
     bool refreshing_ = false;
