@@ -5,13 +5,18 @@
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
+#include <cmath>
 
 namespace lw::ui {
 
 namespace {
 
-// So many kinds of panel only come from colours set field by field: then the copies start again.
+// So many kinds of panel only come from colours set field by field: then the samples start again.
 constexpr int kMostPanels = 256;
+// The width of a sample panel, and of each end whose columns differ from the middle's: a rounded corner
+// and the end of the inner shadow lie within a few pixels of the edge.
+constexpr int kSampleWidth = 21;
+constexpr int kEndWidth = 10;
 
 // Only flat colours and a painter that copies pixels as they are: anything else is drawn directly.
 bool copiable(const QStyleOptionFrame& frame, const QPainter& painter) {
@@ -66,6 +71,23 @@ FieldPanelStyle* FieldPanelStyle::forFields() {
     return style;
 }
 
+QPixmap FieldPanelStyle::sampleOf(const QStyleOptionFrame& frame, qreal ratio, const QWidget* widget) const {
+    QStyleOptionFrame sample = frame;
+    sample.rect = QRect(0, 0, kSampleWidth, frame.rect.height());
+    const PanelKey key = keyOf(sample, ratio);
+    QPixmap panel = panels_.value(key);
+    if (!panel.isNull()) return panel;
+    panel = QPixmap(sample.rect.size() * ratio);
+    panel.setDevicePixelRatio(ratio);
+    panel.fill(Qt::transparent);
+    QPainter onPanel(&panel);
+    QProxyStyle::drawPrimitive(PE_PanelLineEdit, &sample, &onPanel, widget);
+    onPanel.end();
+    if (panels_.size() >= kMostPanels) panels_.clear();
+    panels_.insert(key, panel);
+    return panel;
+}
+
 void FieldPanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                     const QWidget* widget) const {
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -73,21 +95,26 @@ void FieldPanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
-    const PanelKey key = keyOf(*frame, painter->device()->devicePixelRatio());
-    QPixmap panel = panels_.value(key);
-    if (panel.isNull()) {
-        panel = QPixmap(frame->rect.size() * key.ratio);
-        panel.setDevicePixelRatio(key.ratio);
-        panel.fill(Qt::transparent);
-        QStyleOptionFrame atOrigin = *frame;
-        atOrigin.rect.moveTopLeft(QPoint(0, 0));
-        QPainter onPanel(&panel);
-        QProxyStyle::drawPrimitive(element, &atOrigin, &onPanel, widget);
-        onPanel.end();
-        if (panels_.size() >= kMostPanels) panels_.clear();
-        panels_.insert(key, panel);
+    const qreal ratio = painter->device()->devicePixelRatio();
+    const QRect& r = frame->rect;
+    // A panel is its two ends and a middle whose every column is the same: one sample of the panel's
+    // height serves every width. Between device pixels (a ratio of 1.5) the ends fall differently.
+    if (ratio != std::floor(ratio) || r.width() < kSampleWidth) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
     }
-    painter->drawPixmap(frame->rect.topLeft(), panel);
+    const QPixmap sample = sampleOf(*frame, ratio, widget);
+    const int device = static_cast<int>(ratio);
+    const int middle = r.width() - 2 * kEndWidth;
+    painter->save();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter->drawPixmap(QRect(r.left(), r.top(), kEndWidth, r.height()), sample,
+                        QRect(0, 0, kEndWidth * device, sample.height()));
+    painter->drawPixmap(QRect(r.left() + kEndWidth, r.top(), middle, r.height()), sample,
+                        QRect(kEndWidth * device, 0, device, sample.height()));
+    painter->drawPixmap(QRect(r.right() + 1 - kEndWidth, r.top(), kEndWidth, r.height()), sample,
+                        QRect((kSampleWidth - kEndWidth) * device, 0, kEndWidth * device, sample.height()));
+    painter->restore();
 }
 
 }  // namespace lw::ui

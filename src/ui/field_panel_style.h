@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <QStyleOptionFrame>
 #include <array>
 
 namespace lw::ui {
@@ -39,6 +40,9 @@ public:
 
 private:
     explicit FieldPanelStyle(QStyle* base);
+    // The panel at a narrow width, drawn by the application's style once for its height, state, frame and
+    // colours.
+    QPixmap sampleOf(const QStyleOptionFrame& frame, qreal ratio, const QWidget* widget) const;
 
     mutable QHash<PanelKey, QPixmap> panels_;
 };

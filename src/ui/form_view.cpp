@@ -67,16 +67,26 @@ QString FormView::objectNameOf(const Control& control) {
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
 
 void FormView::keepFace() {
-    if (form_ && !face_.isNull()) FaceCache::instance().keep(form_->name(), faceLook_, face_);
-    face_ = QPixmap();
+    if (form_ && hasFace()) {
+        FaceCache::instance().keep(form_->name(), faceLook_,
+                                   keptFace_ ? keptFace_ : std::make_shared<const CompactFace>(ownFace_));
+    }
+    keptFace_.reset();
+    ownFace_ = QImage();
 }
+
+QImage FormView::face() const {
+    if (keptFace_) return keptFace_->toImage();
+    return ownFace_;
+}
+
+bool FormView::hasFace() const { return keptFace_ || !ownFace_.isNull(); }
 
 void FormView::detach() {
     keepFace();
     form_ = nullptr;
     looks_.reset();
     paintedAt_.clear();
-    face_ = QPixmap();
     editors_.clear();
     controlOfWidget_.clear();
     hide();
@@ -181,7 +191,8 @@ void FormView::refresh() {
                                  (std::hash<int>{}(form_->height) << 2);
     if (formLook != formLook_) {
         formLook_ = formLook;
-        face_ = QPixmap();
+        keptFace_.reset();
+        ownFace_ = QImage();
         update();
     }
     QRegion damaged;
@@ -197,11 +208,7 @@ void FormView::refresh() {
         damaged += now;
         paintedAt_.insert(control, now);
     }
-    if (!damaged.isEmpty() && !face_.isNull()) {
-        repaintFace(damaged);
-        faceLook_ = currentFaceLook();
-        update(damaged);
-    }
+    if (!damaged.isEmpty() && hasFace()) showLook(currentFaceLook(), damaged);
     placeFocus();
     refreshing_ = false;
 }
@@ -214,17 +221,48 @@ std::size_t FormView::currentFaceLook() const {
 void FormView::ensureFace() {
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
-    if (!face_.isNull() && face_.size() == pixels && face_.devicePixelRatio() == ratio) return;
-    if (form_) {
-        faceLook_ = currentFaceLook();
-        face_ = FaceCache::instance().take(form_->name(), faceLook_, pixels, ratio);
-        if (!face_.isNull()) return;
+    if (keptFace_ && keptFace_->size() == pixels && keptFace_->devicePixelRatio() == ratio) return;
+    if (!ownFace_.isNull() && ownFace_.size() == pixels && ownFace_.devicePixelRatio() == ratio) return;
+    ownFace_ = QImage();
+    keptFace_.reset();
+    if (!form_) return;
+    faceLook_ = currentFaceLook();
+    keptFace_ = FaceCache::instance().find(form_->name(), faceLook_, pixels, ratio);
+    if (keptFace_) return;
+    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
+    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, [&](QPainter& painter, const QRect& area) {
+        painter.fillRect(area, palette().window());
+        FormPainter(kScreenScale).paintArea(painter, *form_, area.intersected(formArea), true);
+    });
+    FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
+}
+
+// Painted controls changed: the face for their new look is taken from the cache when it holds one (a
+// page of a tab control turned back), else the changed places are painted again on the view's own face.
+void FormView::showLook(std::size_t look, const QRegion& damaged) {
+    if (look == faceLook_) {
+        update(damaged);
+        return;
     }
-    face_ = QPixmap(pixels);
-    face_.setDevicePixelRatio(ratio);
-    face_.fill(palette().window().color());
-    QPainter painter(&face_);
-    if (form_) FormPainter(kScreenScale).paintForm(painter, *form_, true);
+    const qreal ratio = devicePixelRatioF();
+    SharedFace kept = FaceCache::instance().find(form_->name(), look, size() * ratio, ratio);
+    // A face painted on is kept for the way back when it leaves for a kept one, or when most of it
+    // changed, as when a page of a tab control turns; not for every check box ticked.
+    qint64 changed = 0;
+    for (const QRect& rect : damaged) changed += static_cast<qint64>(rect.width()) * rect.height();
+    const bool turned = changed * 4 >= static_cast<qint64>(width()) * height();
+    if (!ownFace_.isNull() && (kept || turned))
+        FaceCache::instance().keep(form_->name(), faceLook_, std::make_shared<const CompactFace>(ownFace_));
+    if (kept) {
+        ownFace_ = QImage();
+        keptFace_ = std::move(kept);
+    } else {
+        if (ownFace_.isNull()) ownFace_ = keptFace_->toImage();
+        keptFace_.reset();
+        repaintFace(damaged);
+    }
+    faceLook_ = look;
+    update(damaged);
 }
 
 namespace {
@@ -232,7 +270,7 @@ constexpr int kMostAreasApart = 8;
 }  // namespace
 
 void FormView::repaintFace(const QRegion& area) {
-    QPainter painter(&face_);
+    QPainter painter(&ownFace_);
     // Many small areas at once (a page of a tab control turned) cost less painted as one.
     if (area.rectCount() > kMostAreasApart) {
         FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
@@ -267,10 +305,13 @@ void FormView::paintEvent(QPaintEvent* event) {
         return;
     }
     ensureFace();
-    for (const QRect& rect : event->region())
-        painter.drawPixmap(
-            rect, face_,
-            QRectF(rect.topLeft() * face_.devicePixelRatio(), rect.size() * face_.devicePixelRatio()));
+    const qreal ratio = devicePixelRatioF();
+    for (const QRect& rect : event->region()) {
+        if (keptFace_)
+            keptFace_->draw(painter, rect);
+        else
+            painter.drawImage(rect, ownFace_, QRectF(rect.topLeft() * ratio, rect.size() * ratio));
+    }
 }
 
 Control* FormView::controlAt(QPoint point) const {

@@ -3,13 +3,14 @@
 // input goes to the model, which alone decides what they then show.
 
 #include <QHash>
-#include <QPixmap>
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 #include <vector>
 
 #include "model/form.h"
 #include "model/look_tracker.h"
+#include "ui/face_cache.h"
 #include "ui/input_bridge.h"
 
 class QKeyEvent;
@@ -36,7 +37,9 @@ public:
 
     QWidget* editorOf(const Control& control) const;
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
-    const QPixmap& face() const { return face_; }
+    QImage face() const;
+    // The face as the cache of faces holds it, while the view has not painted on it.
+    SharedFace keptFace() const { return keptFace_; }
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
     static QString objectNameOf(const Control& control);
     static std::vector<FormView*> viewsOf(const Form& form);
@@ -66,16 +69,20 @@ private:
     bool forwardComboMouse(Control& control, QEvent* event);
     void forwardCommitted(const QString& text);
 
-    // The fixed face: every painted control drawn once, then redrawn only where a control changed.
+    // The fixed face: every painted control drawn once, then redrawn only where a control changed. A face
+    // is shared with the cache of faces until the view paints on it; then the view holds its own.
     void ensureFace();
+    bool hasFace() const;
     void repaintFace(const QRegion& area);
+    void showLook(std::size_t look, const QRegion& damaged);
     std::size_t currentFaceLook() const;
 
     Form* form_;
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn
-    QPixmap face_;
+    SharedFace keptFace_;                     // the face as the cache holds it
+    QImage ownFace_;                          // or the view's own, once painted on
     std::size_t faceLook_ = 0;  // what the face shows, as faceLookOf() had it when the face was last true
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
