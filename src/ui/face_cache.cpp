@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
 
+#include "catalogue/field_names.h"
 #include "model/containers.h"
 #include "model/look_tracker.h"
 #include "ui/form_painter.h"
@@ -114,6 +116,34 @@ std::size_t faceLookOf(const Form& form, const QSize& pixels, qreal ratio, const
         if (!c.picture.empty()) mix(seed, QFileInfo::exists(toFilePath(c.picture)));
     }
     return seed;
+}
+
+std::shared_ptr<const std::vector<QString>> accessibleNamesOf(const Form& form) {
+    // Everything a name is found from: each control's kind, caption, tip, place and page.
+    std::size_t look = std::hash<std::string>{}(form.name());
+    for (const auto& owned : form.controls()) {
+        const Control& c = *owned;
+        mix(look, static_cast<int>(c.kind));
+        mix(look, c.name);
+        mix(look, c.index);
+        mix(look, c.caption);
+        mix(look, c.toolTipText);
+        mix(look, c.visible);
+        for (int number : {formLeft(c), formTop(c), c.width, c.height, pageOf(c)}) mix(look, number);
+    }
+    struct Names {
+        std::size_t look;
+        std::shared_ptr<const std::vector<QString>> names;
+    };
+    static std::map<std::string, Names> found;
+    Names& kept = found[form.name()];
+    if (kept.names && kept.look == look) return kept.names;
+    auto names = std::make_shared<std::vector<QString>>();
+    names->reserve(form.controls().size());
+    for (const auto& owned : form.controls())
+        names->push_back(hasEditor(owned->kind) ? toQString(accessibleNameOf(form, *owned)) : QString());
+    kept = Names{look, names};
+    return names;
 }
 
 CompactFace::CompactFace(const QImage& painted) : size_(painted.size()), ratio_(painted.devicePixelRatio()) {

@@ -24,6 +24,11 @@ namespace lw::ui {
 // file it shows, and the size, device ratio and ground colour the face is painted at.
 std::size_t faceLookOf(const Form& form, const QSize& pixels, qreal ratio, const QColor& ground);
 
+// The names a screen reader says for the fields of a form, by their place among its controls. They are
+// found from the captions around each field, which takes long on a large form: a form opened again
+// whose controls read as they did is given the names found before.
+std::shared_ptr<const std::vector<QString>> accessibleNamesOf(const Form& form);
+
 // A face held in bands of rows, each with a table of its colours when it has no more than 256, else as
 // it was painted: the same pixels in a quarter of the memory.
 class CompactFace {

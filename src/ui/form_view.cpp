@@ -7,6 +7,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -84,6 +85,7 @@ bool FormView::hasFace() const { return keptFace_ || !ownFace_.isNull(); }
 
 void FormView::detach() {
     keepFace();
+    releaseEditors();
     form_ = nullptr;
     looks_.reset();
     paintedAt_.clear();
@@ -94,6 +96,51 @@ void FormView::detach() {
 
 bool FormView::isModelFocus(const Control& control) const {
     return hasProgram() && program().desktop.focus() == &control;
+}
+
+QString FormView::accessibleName(const Control& control) {
+    const auto& controls = form_->controls();
+    if (!names_ || names_->size() != controls.size()) names_ = accessibleNamesOf(*form_);
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        if (controls[i].get() == &control) return names_->at(i);
+    return toQString(accessibleNameOf(*form_, control));
+}
+
+namespace {
+
+// The one-line fields of a view that went, until the next view takes them: a large form holds a hundred,
+// and a field taken over costs a fraction of a new one. Those not taken go with the view that held them.
+std::vector<QPointer<QLineEdit>>& idleFields() {
+    static std::vector<QPointer<QLineEdit>> fields;
+    return fields;
+}
+
+}  // namespace
+
+QLineEdit* FormView::takeIdleField() {
+    auto& idle = idleFields();
+    while (!idle.empty()) {
+        QPointer<QLineEdit> field = idle.back();
+        idle.pop_back();
+        if (!field) continue;
+        // A new parent hides the field; the mirror shows it where its control is shown.
+        field->setParent(this);
+        return field;
+    }
+    return nullptr;
+}
+
+void FormView::releaseEditors() {
+    for (auto it = editors_.cbegin(); it != editors_.cend(); ++it) {
+        auto* line = qobject_cast<QLineEdit*>(it.value());
+        if (!line) continue;
+        disconnect(line, nullptr, this, nullptr);
+        line->removeEventFilter(this);
+        idleFields().push_back(line);
+    }
+    editors_.clear();
+    controlOfWidget_.clear();
+    retired_ = true;
 }
 
 QWidget* FormView::createEditor(Control& control) {
@@ -117,10 +164,13 @@ QWidget* FormView::createEditor(Control& control) {
                         [this, &control] { takeSelection(control); });
                 editor = box;
             } else {
-                auto* line = new QLineEdit(this);
-                if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
-                line->setAcceptDrops(false);
-                line->setDragEnabled(false);
+                QLineEdit* line = takeIdleField();
+                if (!line) {
+                    line = new QLineEdit(this);
+                    if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
+                    line->setAcceptDrops(false);
+                    line->setDragEnabled(false);
+                }
                 connect(line, &QLineEdit::cursorPositionChanged, this,
                         [this, &control] { takeSelection(control); });
                 connect(line, &QLineEdit::selectionChanged, this,
@@ -169,7 +219,7 @@ QWidget* FormView::createEditor(Control& control) {
             return nullptr;
     }
     editor->setObjectName(objectNameOf(control));
-    editor->setAccessibleName(toQString(accessibleNameOf(*form_, control)));
+    editor->setAccessibleName(accessibleName(control));
     // Only the model moves the focus; a click asks the model first.
     editor->setFocusPolicy(Qt::NoFocus);
     editor->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -181,7 +231,7 @@ QWidget* FormView::createEditor(Control& control) {
 }
 
 void FormView::refresh() {
-    if (!form_) return;
+    if (!form_ || retired_) return;
     refreshing_ = true;
     const QSize size = extent_.isValid() ? extent_ : formSize(*form_, kScreenScale);
     if (this->size() != size) setFixedSize(size);
@@ -209,6 +259,7 @@ void FormView::refresh() {
         paintedAt_.insert(control, now);
     }
     if (!damaged.isEmpty() && hasFace()) showLook(currentFaceLook(), damaged);
+    names_.reset();
     placeFocus();
     refreshing_ = false;
 }

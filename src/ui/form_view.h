@@ -14,6 +14,7 @@
 #include "ui/input_bridge.h"
 
 class QKeyEvent;
+class QLineEdit;
 class QMouseEvent;
 
 namespace lw::ui {
@@ -34,6 +35,8 @@ public:
     void detach();
     // The view goes: its face is kept for the next opening of its form.
     void keepFace();
+    // The view goes: the next view takes over its one-line fields, and this one shows nothing more.
+    void releaseEditors();
 
     QWidget* editorOf(const Control& control) const;
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
@@ -56,6 +59,8 @@ protected:
 private:
     QSize extent_;
     QWidget* createEditor(Control& control);
+    QLineEdit* takeIdleField();
+    QString accessibleName(const Control& control);
     void mirror(Control& control, QWidget* editor);
     void mirrorText(Control& control, QWidget* editor);
     void placeFocus();
@@ -87,6 +92,8 @@ private:
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
     bool refreshing_ = false;
+    bool retired_ = false;
+    std::shared_ptr<const std::vector<QString>> names_;  // the fields' names, while a refresh makes editors
 };
 
 }  // namespace lw::ui

@@ -190,8 +190,11 @@ void FrameWindow::showChild(Form* child) {
     if (child && child_ && child_->form() == child) return;
     if (!child && !child_) return;
     if (QWidget* old = childArea_->takeWidget()) {
-        if (auto* view = qobject_cast<FormView*>(old)) view->keepFace();
         old->hide();
+        if (auto* view = qobject_cast<FormView*>(old)) {
+            view->keepFace();
+            view->releaseEditors();
+        }
         old->deleteLater();
     }
     child_ = nullptr;

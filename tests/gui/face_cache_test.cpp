@@ -148,6 +148,43 @@ TEST_F(FaceCacheTest, TheCacheKeepsNoMoreThanItsBudget) {
     cache.setBudget(budget);
 }
 
+// A field under the caption of its box, as on a W-2.
+class CaptionedField : public Form {
+public:
+    CaptionedField() : Form("TF_CAPTIONED") {
+        width = 4500;
+        height = 2000;
+        Control& caption = add(ControlKind::Label, "Label1");
+        caption.caption = "1 Wages, tips, other compensation";
+        caption.place(300, 300, 3000, 255);
+        Control& field = add(ControlKind::TextBox, "Text1", 0);
+        field.place(300, 600, 2400, 285);
+    }
+};
+
+TEST_F(FaceCacheTest, AFieldIsNamedByTheCaptionItHasNowWhenItsFormOpensAgain) {
+    CaptionedField& first = load<CaptionedField>();
+    open(first);
+    QWidget* field = view_->editorOf(first.at("Text1", 0));
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->accessibleName(), QStringLiteral("Box 1, Wages, tips, other compensation"));
+    close();
+    desktop().unload(first);
+
+    CaptionedField& again = load<CaptionedField>();
+    open(again);
+    EXPECT_EQ(view_->editorOf(again.at("Text1", 0))->accessibleName(),
+              QStringLiteral("Box 1, Wages, tips, other compensation"));
+    close();
+    desktop().unload(again);
+
+    CaptionedField& renamed = load<CaptionedField>();
+    renamed.at("Label1").caption = "2 Federal income tax withheld";
+    open(renamed);
+    EXPECT_EQ(view_->editorOf(renamed.at("Text1", 0))->accessibleName(),
+              QStringLiteral("Box 2, Federal income tax withheld"));
+}
+
 QImage manyColours() {
     QImage image(300, 90, QImage::Format_RGB32);
     for (int y = 0; y < image.height(); ++y)
