@@ -5,6 +5,7 @@
 #include <QtMath>
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <functional>
 #include <map>
 
@@ -81,10 +82,24 @@ const QImage& expanded(const QImage& band, const QRect& source) {
         strip = QImage(std::max(strip.width(), source.width()), kBandRows, QImage::Format_RGB32);
     const QList<QRgb> table = band.colorTable();
     const QRgb* colours = table.constData();
+    const int width = source.width();
     for (int y = 0; y < source.height(); ++y) {
         const uchar* from = band.constScanLine(source.top() + y) + source.left();
         auto* to = reinterpret_cast<QRgb*>(strip.scanLine(y));
-        for (int x = 0; x < source.width(); ++x) to[x] = colours[from[x]];
+        int x = 0;
+        while (x < width) {
+            const uchar index = from[x];
+            const QRgb colour = colours[index];
+            to[x++] = colour;
+            // A face is mostly long runs of one colour: they are filled eight pixels at a time.
+            const quint64 eight = 0x0101010101010101ULL * index;
+            quint64 next = 0;
+            while (x + 8 <= width && (std::memcpy(&next, from + x, 8), next == eight)) {
+                std::fill_n(to + x, 8, colour);
+                x += 8;
+            }
+            while (x < width && from[x] == index) to[x++] = colour;
+        }
     }
     return strip;
 }
