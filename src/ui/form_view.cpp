@@ -269,6 +269,11 @@ std::size_t FormView::currentFaceLook() const {
     return faceLookOf(*form_, size() * ratio, ratio, palette().window().color());
 }
 
+namespace {
+// Many small areas at once (a page of a tab control turned) cost less painted as one.
+constexpr int kMostAreasApart = 8;
+}  // namespace
+
 void FormView::ensureFace() {
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
@@ -313,16 +318,12 @@ void FormView::showLook(std::size_t look, const QRegion& damaged) {
         repaintFace(damaged);
     }
     faceLook_ = look;
-    update(damaged);
+    // Many small areas at once reach the screen faster as one.
+    update(damaged.rectCount() > kMostAreasApart ? QRegion(damaged.boundingRect()) : damaged);
 }
-
-namespace {
-constexpr int kMostAreasApart = 8;
-}  // namespace
 
 void FormView::repaintFace(const QRegion& area) {
     QPainter painter(&ownFace_);
-    // Many small areas at once (a page of a tab control turned) cost less painted as one.
     if (area.rectCount() > kMostAreasApart) {
         FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
         return;
