@@ -186,6 +186,39 @@ CompactFace::CompactFace(const QSize& pixels, qreal ratio, const AreaPainter& pa
     gatherBands();
 }
 
+CompactFace::CompactFace(const CompactFace& before, const QRegion& areas, const AreaPainter& paint)
+    : size_(before.size_), ratio_(before.ratio_) {
+    const int device = static_cast<int>(ratio_);
+    if (ratio_ != device || kBandRows % device != 0) {
+        // Bands that do not begin on whole logical rows: the face is painted again whole.
+        QImage whole = before.toImage();
+        QPainter painter(&whole);
+        for (const QRect& area : areas) paint(painter, area);
+        painter.end();
+        addBands(whole);
+        gatherBands();
+        return;
+    }
+    for (std::size_t i = 0; i < before.bands_.size(); ++i) {
+        const QImage& band = before.bands_[i];
+        const int top = static_cast<int>(i) * kBandRows;
+        const QRect rows(0, top / device, qCeil(size_.width() / ratio_), qCeil(band.height() / ratio_));
+        const QRegion touched = areas.intersected(rows);
+        if (touched.isEmpty()) {
+            bands_.push_back(band.copy());
+            continue;
+        }
+        QImage strip = band.convertToFormat(QImage::Format_RGB32);
+        strip.setDevicePixelRatio(ratio_);
+        QPainter painter(&strip);
+        painter.translate(0, -rows.top());
+        for (const QRect& area : touched) paint(painter, area);
+        painter.end();
+        bands_.push_back(compactBand(strip, 0, strip.height()));
+    }
+    gatherBands();
+}
+
 void CompactFace::addBands(const QImage& painted) {
     const QImage rgb =
         painted.format() == QImage::Format_RGB32 ? painted : painted.convertToFormat(QImage::Format_RGB32);

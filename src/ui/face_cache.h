@@ -6,6 +6,7 @@
 // few inks and the shades of their letters do.
 
 #include <QImage>
+#include <QRegion>
 #include <QString>
 #include <cstddef>
 #include <functional>
@@ -39,6 +40,9 @@ public:
     // of the face, given in its logical coordinates.
     using AreaPainter = std::function<void(QPainter&, const QRect&)>;
     CompactFace(const QSize& pixels, qreal ratio, const AreaPainter& paint);
+    // The face `before` with the areas (in logical coordinates) painted again: only the bands they touch
+    // stand at 32 bits a pixel, one at a time.
+    CompactFace(const CompactFace& before, const QRegion& areas, const AreaPainter& paint);
 
     QSize size() const { return size_; }  // in device pixels
     qreal devicePixelRatio() const { return ratio_; }

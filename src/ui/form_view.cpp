@@ -68,20 +68,11 @@ QString FormView::objectNameOf(const Control& control) {
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
 
 void FormView::keepFace() {
-    if (form_ && hasFace()) {
-        FaceCache::instance().keep(form_->name(), faceLook_,
-                                   keptFace_ ? keptFace_ : std::make_shared<const CompactFace>(ownFace_));
-    }
+    if (form_ && keptFace_) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
     keptFace_.reset();
-    ownFace_ = QImage();
 }
 
-QImage FormView::face() const {
-    if (keptFace_) return keptFace_->toImage();
-    return ownFace_;
-}
-
-bool FormView::hasFace() const { return keptFace_ || !ownFace_.isNull(); }
+QImage FormView::face() const { return keptFace_ ? keptFace_->toImage() : QImage(); }
 
 void FormView::detach() {
     keepFace();
@@ -242,7 +233,6 @@ void FormView::refresh() {
     if (formLook != formLook_) {
         formLook_ = formLook;
         keptFace_.reset();
-        ownFace_ = QImage();
         update();
     }
     QRegion damaged;
@@ -258,7 +248,7 @@ void FormView::refresh() {
         damaged += now;
         paintedAt_.insert(control, now);
     }
-    if (!damaged.isEmpty() && hasFace()) showLook(currentFaceLook(), damaged);
+    if (!damaged.isEmpty() && keptFace_) showLook(currentFaceLook(), damaged);
     names_.reset();
     placeFocus();
     refreshing_ = false;
@@ -278,57 +268,49 @@ void FormView::ensureFace() {
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
     if (keptFace_ && keptFace_->size() == pixels && keptFace_->devicePixelRatio() == ratio) return;
-    if (!ownFace_.isNull() && ownFace_.size() == pixels && ownFace_.devicePixelRatio() == ratio) return;
-    ownFace_ = QImage();
     keptFace_.reset();
     if (!form_) return;
     faceLook_ = currentFaceLook();
     keptFace_ = FaceCache::instance().find(form_->name(), faceLook_, pixels, ratio);
     if (keptFace_) return;
-    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
-    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, [&](QPainter& painter, const QRect& area) {
-        painter.fillRect(area, palette().window());
-        FormPainter(kScreenScale).paintArea(painter, *form_, area.intersected(formArea), true);
-    });
+    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, facePainter());
     FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
 }
 
-// Painted controls changed: the face for their new look is taken from the cache when it holds one (a
-// page of a tab control turned back), else the changed places are painted again on the view's own face.
-void FormView::showLook(std::size_t look, const QRegion& damaged) {
-    if (look == faceLook_) {
-        update(damaged);
-        return;
-    }
-    const qreal ratio = devicePixelRatioF();
-    SharedFace kept = FaceCache::instance().find(form_->name(), look, size() * ratio, ratio);
-    // A face painted on is kept for the way back when it leaves for a kept one, or when most of it
-    // changed, as when a page of a tab control turns; not for every check box ticked.
-    qint64 changed = 0;
-    for (const QRect& rect : damaged) changed += static_cast<qint64>(rect.width()) * rect.height();
-    const bool turned = changed * 4 >= static_cast<qint64>(width()) * height();
-    if (!ownFace_.isNull() && (kept || turned))
-        FaceCache::instance().keep(form_->name(), faceLook_, std::make_shared<const CompactFace>(ownFace_));
-    if (kept) {
-        ownFace_ = QImage();
-        keptFace_ = std::move(kept);
-    } else {
-        if (ownFace_.isNull()) ownFace_ = keptFace_->toImage();
-        keptFace_.reset();
-        repaintFace(damaged);
-    }
-    faceLook_ = look;
-    // Many small areas at once reach the screen faster as one.
-    update(damaged.rectCount() > kMostAreasApart ? QRegion(damaged.boundingRect()) : damaged);
+CompactFace::AreaPainter FormView::facePainter() const {
+    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
+    const QColor ground = palette().window().color();
+    const Form* form = form_;
+    return [formArea, ground, form](QPainter& painter, const QRect& area) {
+        painter.fillRect(area, ground);
+        FormPainter(kScreenScale).paintArea(painter, *form, area.intersected(formArea), true);
+    };
 }
 
-void FormView::repaintFace(const QRegion& area) {
-    QPainter painter(&ownFace_);
-    if (area.rectCount() > kMostAreasApart) {
-        FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
-        return;
+// Painted controls changed: the face for their new look is taken from the cache when it holds one (a
+// page of a tab control turned back), else made from the face shown with the changed places painted
+// again.
+void FormView::showLook(std::size_t look, const QRegion& damaged) {
+    // Many small areas at once (a page of a tab control turned) cost less painted as one, and reach the
+    // screen faster as one.
+    const QRegion area = damaged.rectCount() > kMostAreasApart ? QRegion(damaged.boundingRect()) : damaged;
+    if (look != faceLook_) {
+        const qreal ratio = devicePixelRatioF();
+        SharedFace kept = FaceCache::instance().find(form_->name(), look, size() * ratio, ratio);
+        // When most of the face changed, as when a page of a tab control turns, both faces are kept for
+        // the way back and forth; not one for every check box ticked.
+        qint64 changed = 0;
+        for (const QRect& rect : area) changed += static_cast<qint64>(rect.width()) * rect.height();
+        const bool turned = changed * 4 >= static_cast<qint64>(width()) * height();
+        if (turned) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
+        if (!kept) {
+            kept = std::make_shared<const CompactFace>(*keptFace_, area, facePainter());
+            if (turned) FaceCache::instance().keep(form_->name(), look, kept);
+        }
+        keptFace_ = std::move(kept);
+        faceLook_ = look;
     }
-    for (const QRect& rect : area) FormPainter(kScreenScale).paintArea(painter, *form_, rect, true);
+    update(area);
 }
 
 void FormView::placeFocus() {
@@ -357,13 +339,7 @@ void FormView::paintEvent(QPaintEvent* event) {
         return;
     }
     ensureFace();
-    const qreal ratio = devicePixelRatioF();
-    for (const QRect& rect : event->region()) {
-        if (keptFace_)
-            keptFace_->draw(painter, rect);
-        else
-            painter.drawImage(rect, ownFace_, QRectF(rect.topLeft() * ratio, rect.size() * ratio));
-    }
+    for (const QRect& rect : event->region()) keptFace_->draw(painter, rect);
 }
 
 Control* FormView::controlAt(QPoint point) const {

@@ -41,7 +41,7 @@ public:
     QWidget* editorOf(const Control& control) const;
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
     QImage face() const;
-    // The face as the cache of faces holds it, while the view has not painted on it.
+    // The face as the cache of faces holds it.
     SharedFace keptFace() const { return keptFace_; }
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
     static QString objectNameOf(const Control& control);
@@ -74,11 +74,10 @@ private:
     bool forwardComboMouse(Control& control, QEvent* event);
     void forwardCommitted(const QString& text);
 
-    // The fixed face: every painted control drawn once, then redrawn only where a control changed. A face
-    // is shared with the cache of faces until the view paints on it; then the view holds its own.
+    // The fixed face: every painted control drawn once; where controls change, a face is made from it
+    // with those places painted again. Faces are shared with the cache of faces and never painted on.
     void ensureFace();
-    bool hasFace() const;
-    void repaintFace(const QRegion& area);
+    CompactFace::AreaPainter facePainter() const;
     void showLook(std::size_t look, const QRegion& damaged);
     std::size_t currentFaceLook() const;
 
@@ -86,8 +85,7 @@ private:
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn
-    SharedFace keptFace_;                     // the face as the cache holds it
-    QImage ownFace_;                          // or the view's own, once painted on
+    SharedFace keptFace_;                     // shared with the cache of faces
     std::size_t faceLook_ = 0;  // what the face shows, as faceLookOf() had it when the face was last true
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
