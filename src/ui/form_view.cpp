@@ -99,11 +99,19 @@ QString FormView::accessibleName(const Control& control) {
 
 namespace {
 
-// The one-line fields of a view that went, until the next view takes them: a large form holds a hundred,
-// and a field taken over costs a fraction of a new one. Those not taken go with the view that held them.
+// The one-line fields of views that went, until a view takes them: a large form holds a hundred, and a
+// field taken over costs a fraction of a new one. So many are kept, hidden in the window of the view that
+// goes; the rest go with that view.
 std::vector<QPointer<QLineEdit>>& idleFields() {
     static std::vector<QPointer<QLineEdit>> fields;
     return fields;
+}
+constexpr std::size_t kMostIdleFields = 128;
+
+// The window of the view that let its fields go last.
+QPointer<QWidget>& shelter() {
+    static QPointer<QWidget> window;
+    return window;
 }
 
 }  // namespace
@@ -121,6 +129,15 @@ QLineEdit* FormView::takeIdleField() {
     return nullptr;
 }
 
+void FormView::shelterIdleFields() {
+    auto& idle = idleFields();
+    idle.erase(std::remove_if(idle.begin(), idle.end(), [](const QPointer<QLineEdit>& f) { return !f; }),
+               idle.end());
+    if (!shelter()) return;
+    for (std::size_t i = 0; i < idle.size() && i < kMostIdleFields; ++i)
+        if (idle[i]->parentWidget() != shelter()) idle[i]->setParent(shelter());
+}
+
 void FormView::releaseEditors() {
     for (auto it = editors_.cbegin(); it != editors_.cend(); ++it) {
         auto* line = qobject_cast<QLineEdit*>(it.value());
@@ -131,6 +148,7 @@ void FormView::releaseEditors() {
     }
     editors_.clear();
     controlOfWidget_.clear();
+    shelter() = window();
     retired_ = true;
 }
 
@@ -249,6 +267,8 @@ void FormView::refresh() {
         paintedAt_.insert(control, now);
     }
     if (!damaged.isEmpty() && keptFace_) showLook(currentFaceLook(), damaged);
+    // The fields this view did not take leave the view that let them go, before it goes.
+    shelterIdleFields();
     names_.reset();
     placeFocus();
     refreshing_ = false;

@@ -60,6 +60,8 @@ private:
     QSize extent_;
     QWidget* createEditor(Control& control);
     QLineEdit* takeIdleField();
+    // Moves the idle fields to the window of the view that let them go, so that they outlive that view.
+    void shelterIdleFields();
     QString accessibleName(const Control& control);
     void mirror(Control& control, QWidget* editor);
     void mirrorText(Control& control, QWidget* editor);

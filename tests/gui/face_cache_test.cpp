@@ -4,6 +4,7 @@
 #include "ui/face_cache.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTest>
 
@@ -183,6 +184,42 @@ TEST_F(FaceCacheTest, AFieldIsNamedByTheCaptionItHasNowWhenItsFormOpensAgain) {
     open(renamed);
     EXPECT_EQ(view_->editorOf(renamed.at("Text1", 0))->accessibleName(),
               QStringLiteral("Box 2, Federal income tax withheld"));
+}
+
+TEST_F(FaceCacheTest, AFieldTakenOverFromAViewThatWentShowsAndTakesTheNewForm) {
+    TwoFields& first = load<TwoFields>();
+    open(first);
+    first.at("Text1", 0).text = "1234";
+    first.at("Text1", 1).locked = true;
+    refreshAll();
+    auto* before = qobject_cast<QLineEdit*>(view_->editorOf(first.at("Text1", 1)));
+    ASSERT_NE(before, nullptr);
+    ASSERT_TRUE(before->isReadOnly());
+    // The frame lets the view's fields go while the view still stands, and deletes the view later.
+    std::unique_ptr<FormView> going = std::move(view_);
+    going->keepFace();
+    going->releaseEditors();
+    going->hide();
+
+    TwoFields& next = load<TwoFields>();
+    open(next);
+    going.reset();
+    std::vector<QLineEdit*> fields;
+    for (int i = 0; i < 2; ++i) fields.push_back(qobject_cast<QLineEdit*>(view_->editorOf(next.at("Text1", i))));
+    ASSERT_NE(fields[0], nullptr);
+    ASSERT_NE(fields[1], nullptr);
+    EXPECT_TRUE(fields[0] == before || fields[1] == before) << "no field was taken over";
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(fields[i]->parentWidget(), view_.get());
+        EXPECT_EQ(fields[i]->objectName(), QStringLiteral("Text1_%1").arg(i));
+        EXPECT_EQ(fields[i]->text(), QString());
+        EXPECT_FALSE(fields[i]->isReadOnly());
+        EXPECT_TRUE(fields[i]->isVisible());
+    }
+    forwardInput([&] { desktop().setFocus(next.at("Text1", 1)); });
+    type(view_.get(), QStringLiteral("7"));
+    EXPECT_EQ(next.at("Text1", 1).text, "7");
+    EXPECT_EQ(fields[1]->text(), QStringLiteral("7"));
 }
 
 QImage manyColours() {
