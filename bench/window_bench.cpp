@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -32,20 +33,43 @@
 namespace lw::bench {
 namespace {
 
-constexpr int kRuns = 20;
+// Twenty runs each. A profile may ask for fewer (--runs N) and for the figures whose names begin with a
+// prefix alone (--only PREFIX); such a partial run keeps the last full results as they were.
+int kRuns = 20;
+std::string onlyPrefix;
+
+bool wanted(const std::string& name) { return name.rfind(onlyPrefix, 0) == 0; }
 
 struct Figure {
     std::string name;
     double median;
     double p90;
+    double cpuMedian = -1;  // the process's own processor time, which the machine's load hardly changes
+    double cpuP90 = -1;
 };
 
-Figure figureOf(const std::string& name, std::vector<double> samples) {
+// The processor time of every timed input since the last figure was taken.
+std::vector<double> cpuSamples;
+
+double at(std::vector<double>& samples, double q) {
     std::sort(samples.begin(), samples.end());
-    const auto at = [&](double q) {
-        return samples[static_cast<std::size_t>(q * (samples.size() - 1) + 0.5)];
-    };
-    return {name, at(0.5), at(0.9)};
+    return samples[static_cast<std::size_t>(q * (samples.size() - 1) + 0.5)];
+}
+
+Figure figureOf(const std::string& name, std::vector<double> samples) {
+    Figure figure{name, at(samples, 0.5), at(samples, 0.9)};
+    if (!cpuSamples.empty()) {
+        figure.cpuMedian = at(cpuSamples, 0.5);
+        figure.cpuP90 = at(cpuSamples, 0.9);
+    }
+    cpuSamples.clear();
+    return figure;
+}
+
+double processorMs() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return now.tv_sec * 1e3 + now.tv_nsec / 1e6;
 }
 
 // Lets Qt deliver what the input left behind, the repaint and its flush to the screen included.
@@ -58,10 +82,13 @@ void paintNow() {
 
 double timed(const std::function<void()>& input) {
     QElapsedTimer clock;
+    const double processorBefore = processorMs();
     clock.start();
     input();
     paintNow();
-    return clock.nsecsElapsed() / 1e6;
+    const double elapsed = clock.nsecsElapsed() / 1e6;
+    cpuSamples.push_back(processorMs() - processorBefore);
+    return elapsed;
 }
 
 void key(int code, const QString& text = QString(), Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -105,29 +132,37 @@ std::vector<Figure> measureInWindow(ui::FrameWindow& window) {
     paintNow();
 
     std::vector<double> samples;
-    focusField("Text1", 2, "");
-    for (int i = 0; i < kRuns; ++i) {
-        samples.push_back(timed([] { key(Qt::Key_7, QStringLiteral("7")); }));
-        require(fieldText(2) == "7", "the typed digit did not reach box 1 of the W-2");
-        key(Qt::Key_Backspace);
-        paintNow();
+    if (wanted("digit")) {
+        focusField("Text1", 2, "");
+        for (int i = 0; i < kRuns; ++i) {
+            samples.push_back(timed([] { key(Qt::Key_7, QStringLiteral("7")); }));
+            require(fieldText(2) == "7", "the typed digit did not reach box 1 of the W-2");
+            key(Qt::Key_Backspace);
+            paintNow();
+        }
+        figures.push_back(figureOf("digit", samples));
     }
-    figures.push_back(figureOf("digit", samples));
 
-    samples.clear();
-    for (int i = 0; i < kRuns; ++i) {
-        focusField("Text1", 2, "1234.5");
-        samples.push_back(timed([] { key(Qt::Key_Tab); }));
-        require(fieldText(2) == "$1,234.50" &&
-                    program().desktop.focus() != &program().desktop.activeChild()->at("Text1", 2),
-                ("Tab out of box 1 of the W-2 left \"" + fieldText(2) + "\"").c_str());
+    if (wanted("tab")) {
+        samples.clear();
+        for (int i = 0; i < kRuns; ++i) {
+            focusField("Text1", 2, "1234.5");
+            samples.push_back(timed([] { key(Qt::Key_Tab); }));
+            require(fieldText(2) == "$1,234.50" &&
+                        program().desktop.focus() != &program().desktop.activeChild()->at("Text1", 2),
+                    ("Tab out of box 1 of the W-2 left \"" + fieldText(2) + "\"").c_str());
+        }
+        figures.push_back(figureOf("tab", samples));
     }
-    figures.push_back(figureOf("tab", samples));
 
+    // The first opening of each form in the session, before anything of it is kept.
+    std::vector<double> firstWall, firstProcessor;
     for (const CatalogueEntry& entry : catalogue()) {
         const std::string item = entry.menuItem;
         if (!hasDefinition(entry.form) || item.rfind("mnu", 0) != 0 || item == "mnuControlConfigure")
             continue;
+        const std::string name = "menu-" + text::toUpper(std::string(entry.form).substr(3));
+        if (!wanted(name)) continue;
         samples.clear();
         for (int i = 0; i < kRuns; ++i) {
             choose(window, item == "mnu1099Int" ? "mnuW2" : "mnu1099Int");
@@ -136,13 +171,22 @@ std::vector<Figure> measureInWindow(ui::FrameWindow& window) {
             require(program().desktop.activeChild()->name() == entry.form,
                     "a form did not open from its menu");
         }
-        figures.push_back(figureOf("menu-" + text::toUpper(std::string(entry.form).substr(3)), samples));
+        firstWall.push_back(samples.front());
+        firstProcessor.push_back(cpuSamples.front());
+        figures.push_back(figureOf(name, samples));
+    }
+    if (!firstWall.empty()) {
+        cpuSamples = firstProcessor;
+        figures.push_back(figureOf("first-open", firstWall));
     }
 
-    samples.clear();
-    for (int i = 0; i < kRuns; ++i)
-        samples.push_back(timed([&] { choose(window, i % 2 ? "mnuW2" : "mnu1099Int"); }));
-    figures.push_back(figureOf("switch", samples));
+    if (wanted("switch")) {
+        samples.clear();
+        for (int i = 0; i < kRuns; ++i)
+            samples.push_back(timed([&] { choose(window, i % 2 ? "mnuW2" : "mnu1099Int"); }));
+        figures.push_back(figureOf("switch", samples));
+    }
+    if (!wanted("k1-page-turn")) return figures;
 
     // A K-1 turns its page when the focus crosses the limit of a column: Tab from the last row of the
     // Top half, and Shift+Tab back from the first row of the Bottom half, each with the repaint.
@@ -234,11 +278,21 @@ std::map<std::string, double> lastMedians(const std::string& path) {
 int main(int argc, char** argv) {
     using namespace lw::bench;
     if (argc > 1 && std::string(argv[1]) == "--start-child") return startChild(argc, argv);
-    const std::string results = argc > 1 ? argv[1] : "window-bench.txt";
+    std::string results = "window-bench.txt";
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg == "--runs" && i + 1 < argc)
+            kRuns = std::max(1, std::atoi(argv[++i]));
+        else if (arg == "--only" && i + 1 < argc)
+            onlyPrefix = argv[++i];
+        else
+            results = arg;
+    }
     QTemporaryDir root;
     qputenv("LEDGERWICK_ROOT", root.path().toLocal8Bit());
     QApplication app(argc, argv);
-    std::vector<Figure> figures = measureStart(QApplication::applicationFilePath());
+    std::vector<Figure> figures;
+    if (wanted("start")) figures = measureStart(QApplication::applicationFilePath());
     lw::ui::WindowProgramWatch watch;
     watch.started = [&](lw::ui::FrameWindow& window, lw::ui::QtPlatformPort&, lw::ui::QtUiPort&) {
         for (const Figure& figure : measureInWindow(window)) figures.push_back(figure);
@@ -255,12 +309,13 @@ int main(int argc, char** argv) {
                       f.p90);
         table << line << "\n";
         std::printf("%s", line);
+        if (f.cpuMedian >= 0) std::printf("   (processor %.2f, p90 %.2f)", f.cpuMedian, f.cpuP90);
         if (auto it = before.find(f.name); it != before.end())
             std::printf("   (last run %.2f, %+.0f%%)", it->second,
                         100.0 * (f.median - it->second) / it->second);
         std::printf("\n");
     }
     std::printf("window memory peak %.1f MB after every form (budget 50 MB)\n", memory);
-    std::ofstream(results) << table.str();
+    if (onlyPrefix.empty()) std::ofstream(results) << table.str();
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "app/window_program.h"
 
+#include <malloc.h>
+
 #include <QApplication>
 #include <memory>
 
@@ -13,7 +15,14 @@
 
 namespace lw::ui {
 
+namespace {
+constexpr int kLargeBlock = 128 * 1024;
+}  // namespace
+
 int runWindowProgram(int argc, char** argv, const WindowProgramWatch& watch) {
+    // Large blocks (a form's picture, the window's backing store) go back to the system when freed rather
+    // than into a heap that only grows as forms of every size are opened.
+    mallopt(M_MMAP_THRESHOLD, kLargeBlock);
     QtPlatformPort platform(argc, argv);
     QtUiPort ui;
     Program program(ui, platform);

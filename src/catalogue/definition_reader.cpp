@@ -299,6 +299,8 @@ FormDefinition readDefinition(const std::string& text) {
         definition.controls.push_back(std::move(designed));
     }
     if (!haveForm) throw DefinitionError("no form line");
+    // Every drawing read is kept for the session: without the room the vector grew into.
+    definition.controls.shrink_to_fit();
     return definition;
 }
 

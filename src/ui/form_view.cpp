@@ -7,6 +7,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -20,6 +21,8 @@
 #include "model/program.h"
 #include "ui/command_icons.h"
 #include "ui/control_text.h"
+#include "ui/face_cache.h"
+#include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
 #include "ui/lines_editor.h"
@@ -96,14 +99,22 @@ void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
     if (form_ && hasProgram()) forwardInput([&] { program().desktop.choose(control, entry); });
 }
 
+void FormView::keepFace() {
+    if (form_ && keptFace_) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
+    keptFace_.reset();
+}
+
+QImage FormView::face() const { return keptFace_ ? keptFace_->toImage() : QImage(); }
+
 void FormView::detach() {
+    keepFace();
+    releaseEditors();
     form_ = nullptr;
     names_.clear();
     namedCaptions_.clear();
     named_ = false;
     looks_.reset();
     paintedAt_.clear();
-    face_ = QPixmap();
     editors_.clear();
     controlOfWidget_.clear();
     hide();
@@ -111,6 +122,61 @@ void FormView::detach() {
 
 bool FormView::isModelFocus(const Control& control) const {
     return hasProgram() && program().desktop.focus() == &control;
+}
+
+namespace {
+
+// The one-line fields of views that went, until a view takes them: a large form holds a hundred, and a
+// field taken over costs a fraction of a new one. So many are kept, hidden in the window of the view that
+// goes; the rest go with that view.
+std::vector<QPointer<QLineEdit>>& idleFields() {
+    static std::vector<QPointer<QLineEdit>> fields;
+    return fields;
+}
+constexpr std::size_t kMostIdleFields = 128;
+
+// The window of the view that let its fields go last.
+QPointer<QWidget>& shelter() {
+    static QPointer<QWidget> window;
+    return window;
+}
+
+}  // namespace
+
+QLineEdit* FormView::takeIdleField() {
+    auto& idle = idleFields();
+    while (!idle.empty()) {
+        QPointer<QLineEdit> field = idle.back();
+        idle.pop_back();
+        if (!field) continue;
+        // A new parent hides the field; the mirror shows it where its control is shown.
+        field->setParent(this);
+        return field;
+    }
+    return nullptr;
+}
+
+void FormView::shelterIdleFields() {
+    auto& idle = idleFields();
+    idle.erase(std::remove_if(idle.begin(), idle.end(), [](const QPointer<QLineEdit>& f) { return !f; }),
+               idle.end());
+    if (!shelter()) return;
+    for (std::size_t i = 0; i < idle.size() && i < kMostIdleFields; ++i)
+        if (idle[i]->parentWidget() != shelter()) idle[i]->setParent(shelter());
+}
+
+void FormView::releaseEditors() {
+    for (auto it = editors_.cbegin(); it != editors_.cend(); ++it) {
+        auto* line = qobject_cast<QLineEdit*>(it.value());
+        if (!line) continue;
+        disconnect(line, nullptr, this, nullptr);
+        line->removeEventFilter(this);
+        idleFields().push_back(line);
+    }
+    editors_.clear();
+    controlOfWidget_.clear();
+    shelter() = window();
+    retired_ = true;
 }
 
 QWidget* FormView::createEditor(Control& control) {
@@ -133,9 +199,13 @@ QWidget* FormView::createEditor(Control& control) {
                         [this, &control] { takeSelection(control); });
                 editor = box;
             } else {
-                auto* line = new QLineEdit(this);
-                line->setAcceptDrops(false);
-                line->setDragEnabled(false);
+                QLineEdit* line = takeIdleField();
+                if (!line) {
+                    line = new QLineEdit(this);
+                    if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
+                    line->setAcceptDrops(false);
+                    line->setDragEnabled(false);
+                }
                 connect(line, &QLineEdit::cursorPositionChanged, this,
                         [this, &control] { takeSelection(control); });
                 connect(line, &QLineEdit::selectionChanged, this,
@@ -200,7 +270,7 @@ QWidget* FormView::createEditor(Control& control) {
 }
 
 void FormView::refresh() {
-    if (!form_) return;
+    if (!form_ || retired_) return;
     refreshing_ = true;
     const QSize size = extent_.isValid() ? extent_ : formSize(*form_, kScreenScale);
     if (this->size() != size) setFixedSize(size);
@@ -210,7 +280,7 @@ void FormView::refresh() {
                                  (std::hash<int>{}(form_->height) << 2);
     if (formLook != formLook_) {
         formLook_ = formLook;
-        face_ = QPixmap();
+        keptFace_.reset();
         update();
     }
     QRegion damaged;
@@ -241,37 +311,70 @@ void FormView::refresh() {
         paintedAt_.insert(control, now);
     }
     if (boxRenamed) renameFields();
-    if (!damaged.isEmpty() && !face_.isNull()) {
-        repaintFace(damaged);
-        update(damaged);
-    }
+    if (!damaged.isEmpty() && keptFace_) showLook(currentFaceLook(), damaged);
+    // The fields this view did not take leave the view that let them go, before it goes.
+    shelterIdleFields();
     placeFocus();
     refreshing_ = false;
 }
 
-void FormView::ensureFace() {
+std::size_t FormView::currentFaceLook() const {
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels = size() * ratio;
-    if (!face_.isNull() && face_.size() == pixels && face_.devicePixelRatio() == ratio) return;
-    face_ = QPixmap(pixels);
-    face_.setDevicePixelRatio(ratio);
-    face_.fill(palette().window().color());
-    QPainter painter(&face_);
-    if (form_) FormPainter(kScreenScale).paintForm(painter, *form_, true);
+    return faceLookOf(*form_, size() * ratio, ratio, palette().window().color());
 }
 
 namespace {
+// Many small areas at once (a page of a tab control turned) cost less painted as one.
 constexpr int kMostAreasApart = 8;
 }  // namespace
 
-void FormView::repaintFace(const QRegion& area) {
-    QPainter painter(&face_);
-    // Many small areas at once (a page of a tab control turned) cost less painted as one.
-    if (area.rectCount() > kMostAreasApart) {
-        FormPainter(kScreenScale).paintArea(painter, *form_, area.boundingRect(), true);
-        return;
+void FormView::ensureFace() {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = size() * ratio;
+    if (keptFace_ && keptFace_->size() == pixels && keptFace_->devicePixelRatio() == ratio) return;
+    keptFace_.reset();
+    if (!form_) return;
+    faceLook_ = currentFaceLook();
+    keptFace_ = FaceCache::instance().find(form_->name(), faceLook_, pixels, ratio);
+    if (keptFace_) return;
+    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, facePainter());
+    FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
+}
+
+CompactFace::AreaPainter FormView::facePainter() const {
+    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
+    const QColor ground = palette().window().color();
+    const Form* form = form_;
+    return [formArea, ground, form](QPainter& painter, const QRect& area) {
+        painter.fillRect(area, ground);
+        FormPainter(kScreenScale).paintArea(painter, *form, area.intersected(formArea), true);
+    };
+}
+
+// Painted controls changed: the face for their new look is taken from the cache when it holds one (a
+// page of a tab control turned back), else made from the face shown with the changed places painted
+// again.
+void FormView::showLook(std::size_t look, const QRegion& damaged) {
+    // Many small areas at once (a page of a tab control turned) cost less painted as one, and reach the
+    // screen faster as one.
+    const QRegion area = damaged.rectCount() > kMostAreasApart ? QRegion(damaged.boundingRect()) : damaged;
+    if (look != faceLook_) {
+        const qreal ratio = devicePixelRatioF();
+        SharedFace kept = FaceCache::instance().find(form_->name(), look, size() * ratio, ratio);
+        // When most of the face changed, as when a page of a tab control turns, both faces are kept for
+        // the way back and forth; not one for every check box ticked.
+        qint64 changed = 0;
+        for (const QRect& rect : area) changed += static_cast<qint64>(rect.width()) * rect.height();
+        const bool turned = changed * 4 >= static_cast<qint64>(width()) * height();
+        if (turned) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
+        if (!kept) {
+            kept = std::make_shared<const CompactFace>(*keptFace_, area, facePainter());
+            if (turned) FaceCache::instance().keep(form_->name(), look, kept);
+        }
+        keptFace_ = std::move(kept);
+        faceLook_ = look;
     }
-    for (const QRect& rect : area) FormPainter(kScreenScale).paintArea(painter, *form_, rect, true);
+    update(area);
 }
 
 void FormView::placeFocus() {
@@ -300,10 +403,7 @@ void FormView::paintEvent(QPaintEvent* event) {
         return;
     }
     ensureFace();
-    for (const QRect& rect : event->region())
-        painter.drawPixmap(
-            rect, face_,
-            QRectF(rect.topLeft() * face_.devicePixelRatio(), rect.size() * face_.devicePixelRatio()));
+    for (const QRect& rect : event->region()) keptFace_->draw(painter, rect);
 }
 
 Control* FormView::controlAt(QPoint point) const {

@@ -3,7 +3,7 @@
 // input goes to the model, which alone decides what they then show.
 
 #include <QHash>
-#include <QPixmap>
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 #include <map>
@@ -13,9 +13,11 @@
 #include "catalogue/field_names.h"
 #include "model/form.h"
 #include "model/look_tracker.h"
+#include "ui/face_cache.h"
 #include "ui/input_bridge.h"
 
 class QKeyEvent;
+class QLineEdit;
 class QMouseEvent;
 
 namespace lw::ui {
@@ -34,6 +36,10 @@ public:
     void setExtent(const QSize& pixels) { extent_ = pixels; }
     // The form has been unloaded: the view lets go of it and shows nothing more.
     void detach();
+    // The view goes: its face is kept for the next opening of its form.
+    void keepFace();
+    // The view goes: the next view takes over its one-line fields, and this one shows nothing more.
+    void releaseEditors();
 
     QWidget* editorOf(const Control& control) const;
     // What a screen reader says of a field, and the caption that shows its box; named once per form.
@@ -42,7 +48,9 @@ public:
     void clickFromAssistant(Control& control);
     void chooseFromAssistant(Control& control, const std::string& entry);
     // The painted face as it stands: the controls that have no editor, drawn once and kept.
-    const QPixmap& face() const { return face_; }
+    QImage face() const;
+    // The face as the cache of faces holds it.
+    SharedFace keptFace() const { return keptFace_; }
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
     static QString objectNameOf(const Control& control);
     static std::vector<FormView*> viewsOf(const Form& form);
@@ -59,6 +67,9 @@ protected:
 private:
     QSize extent_;
     QWidget* createEditor(Control& control);
+    QLineEdit* takeIdleField();
+    // Moves the idle fields to the window of the view that let them go, so that they outlive that view.
+    void shelterIdleFields();
     void mirror(Control& control, QWidget* editor);
     void mirrorText(Control& control, QWidget* editor);
     void placeFocus();
@@ -72,9 +83,12 @@ private:
     bool forwardComboMouse(Control& control, QEvent* event);
     void forwardCommitted(const QString& text);
 
-    // The fixed face: every painted control drawn once, then redrawn only where a control changed.
+    // The fixed face: every painted control drawn once; where controls change, a face is made from it
+    // with those places painted again. Faces are shared with the cache of faces and never painted on.
     void ensureFace();
-    void repaintFace(const QRegion& area);
+    CompactFace::AreaPainter facePainter() const;
+    void showLook(std::size_t look, const QRegion& damaged);
+    std::size_t currentFaceLook() const;
 
     Form* form_;
     mutable std::map<const Control*, FieldName> names_;
@@ -84,10 +98,12 @@ private:
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn
-    QPixmap face_;
+    SharedFace keptFace_;                     // shared with the cache of faces
+    std::size_t faceLook_ = 0;  // what the face shows, as faceLookOf() had it when the face was last true
     QHash<const Control*, QWidget*> editors_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
     bool refreshing_ = false;
+    bool retired_ = false;
 };
 
 }  // namespace lw::ui

@@ -189,6 +189,11 @@ void FrameWindow::mirrorMenus() {
 void FrameWindow::showChild(Form* child) {
     if (child && child_ && child_->form() == child) return;
     if (!child && !child_) return;
+    // The view that goes lets its face and fields go while it still stands in the window.
+    if (auto* view = qobject_cast<FormView*>(childArea_->widget())) {
+        view->keepFace();
+        view->releaseEditors();
+    }
     if (QWidget* old = childArea_->takeWidget()) {
         old->hide();
         old->deleteLater();

@@ -57,7 +57,7 @@ protected:
         return image;
     }
     QImage facePicture() const {
-        return view_->face().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        return view_->face().convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 };
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+
 #include "model/form.h"
 
 namespace lw {
@@ -66,6 +69,41 @@ TEST(TabIndex, ASetIndexPushesTheOthersBackWithoutAGap) {
     EXPECT_EQ(c.tabIndex, 0);
     EXPECT_EQ(b.tabIndex, 1);
     EXPECT_EQ(a.tabIndex, 2);
+}
+
+// The order a designer's TabIndex makes: the others in their order, the control put in at its place.
+void reorderAsDesigned(Form& form, Control& control, int tabIndex) {
+    std::vector<Control*> order;
+    for (const auto& c : form.controls())
+        if (c.get() != &control) order.push_back(c.get());
+    std::stable_sort(order.begin(), order.end(),
+                     [](const Control* a, const Control* b) { return a->tabIndex < b->tabIndex; });
+    const auto at = static_cast<std::size_t>(std::clamp(tabIndex, 0, static_cast<int>(order.size())));
+    order.insert(order.begin() + static_cast<std::ptrdiff_t>(at), &control);
+    for (std::size_t i = 0; i < order.size(); ++i) order[i]->tabIndex = static_cast<int>(i);
+}
+
+TEST(TabIndex, ManyMovesLeaveTheOrderADesignerWouldMake) {
+    std::mt19937 random(20251125);
+    for (int round = 0; round < 40; ++round) {
+        Form form("F"), designed("F");
+        const int count = 3 + round % 17;
+        for (int i = 0; i < count; ++i) {
+            // Some forms start with gaps and doubles in their indexes, others in order.
+            const int start = round % 2 ? static_cast<int>(random() % 7) : count - 1 - i;
+            form.add(ControlKind::TextBox, "Text1", i).tabIndex = start;
+            designed.add(ControlKind::TextBox, "Text1", i).tabIndex = start;
+        }
+        for (int move = 0; move < 30; ++move) {
+            const int which = static_cast<int>(random() % count);
+            const int place = static_cast<int>(random() % (count + 3)) - 1;
+            form.setTabIndex(*form.controls()[which], place);
+            reorderAsDesigned(designed, *designed.controls()[which], place);
+            for (int i = 0; i < count; ++i)
+                ASSERT_EQ(form.controls()[i]->tabIndex, designed.controls()[i]->tabIndex)
+                    << "round " << round << ", move " << move << ", control " << i;
+        }
+    }
 }
 
 }  // namespace
