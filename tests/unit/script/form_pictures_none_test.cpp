@@ -12,14 +12,7 @@ namespace {
 // The runner built without a painter: its pictures have the painter's sizes and no pixels.
 TEST(UndrawnFormPictures, HaveThePaintersSizesAtEachZoom) {
     EXPECT_FALSE(picturesDrawn());
-    for (const auto& size : testing::pictureSizes()) {
-        Form form("TF_Test");
-        form.width = size.widthTwips;
-        form.height = size.heightTwips;
-        const auto picture = drawForm(form, size.zoom);
-        EXPECT_EQ(picture->width(), size.width) << size.widthTwips << " twips at " << size.zoom;
-        EXPECT_EQ(picture->height(), size.height) << size.heightTwips << " twips at " << size.zoom;
-    }
+    testing::expectPainterSizes();
 }
 
 TEST(UndrawnFormPictures, HaveNoPixelsAndWriteNoFile) {

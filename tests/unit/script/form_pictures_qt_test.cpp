@@ -15,14 +15,7 @@ const auto* const kQt = lw::testing::addQtOffscreen();
 
 TEST(DrawnFormPictures, HaveTheFormsPixelSizeAtEachZoom) {
     EXPECT_TRUE(picturesDrawn());
-    for (const auto& size : testing::pictureSizes()) {
-        Form form("TF_Test");
-        form.width = size.widthTwips;
-        form.height = size.heightTwips;
-        const auto picture = drawForm(form, size.zoom);
-        EXPECT_EQ(picture->width(), size.width) << size.widthTwips << " twips at " << size.zoom;
-        EXPECT_EQ(picture->height(), size.height) << size.heightTwips << " twips at " << size.zoom;
-    }
+    testing::expectPainterSizes();
 }
 
 TEST(DrawnFormPictures, GiveTheColourOfAPointAndWriteAPng) {

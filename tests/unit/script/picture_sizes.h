@@ -2,7 +2,12 @@
 // Forms of various sizes and zooms with the pixel size of their picture, shared by the tests of the
 // drawn pictures and of the undrawn ones, so that both builds of the runner report the same sizes.
 
+#include <gtest/gtest.h>
+
 #include <vector>
+
+#include "model/form.h"
+#include "script/form_pictures.h"
 
 namespace lw::script::testing {
 
@@ -26,6 +31,18 @@ inline const std::vector<PictureSize>& pictureSizes() {
         {9000, 6000, 0.5, 300, 200},
     };
     return sizes;
+}
+
+// Every size of the table, as the runner's pictures give it.
+inline void expectPainterSizes() {
+    for (const auto& size : pictureSizes()) {
+        Form form("TF_Test");
+        form.width = size.widthTwips;
+        form.height = size.heightTwips;
+        const auto picture = drawForm(form, size.zoom);
+        EXPECT_EQ(picture->width(), size.width) << size.widthTwips << " twips at " << size.zoom;
+        EXPECT_EQ(picture->height(), size.height) << size.heightTwips << " twips at " << size.zoom;
+    }
 }
 
 }  // namespace lw::script::testing
