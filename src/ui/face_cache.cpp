@@ -11,6 +11,7 @@
 
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
+#include "ui/hash_mix.h"
 #include "model/look_tracker.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"
@@ -24,11 +25,6 @@ namespace {
 constexpr qint64 kDefaultBudget = 2 * 1024 * 1024;
 constexpr int kBandRows = 32;
 constexpr int kStripRows = 4 * kBandRows;
-
-template <typename T>
-void mix(std::size_t& seed, const T& value) {
-    seed ^= std::hash<T>{}(value) + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
-}
 
 // The rows of a band with a table of their colours, or as they are when they hold more than 256.
 QImage compactBand(const QImage& painted, int top, int rows) {

@@ -25,6 +25,7 @@
 #include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
+#include "ui/kept_field_names.h"
 #include "ui/lines_editor.h"
 #include "ui/qt_text.h"
 
@@ -73,7 +74,7 @@ QWidget* FormView::editorOf(const Control& control) const { return editors_.valu
 const FieldName* FormView::fieldNameOf(const Control& control) const {
     if (!form_) return nullptr;
     if (!named_) {
-        names_ = fieldNamesOf(*form_);
+        names_ = keptFieldNamesOf(*form_);
         namedCaptions_.clear();
         for (const auto& [field, name] : names_)
             if (name.box) namedCaptions_[name.box] = name.box->caption;
