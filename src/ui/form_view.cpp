@@ -25,7 +25,6 @@
 #include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
-#include "ui/kept_field_names.h"
 #include "ui/lines_editor.h"
 #include "ui/qt_text.h"
 
@@ -70,35 +69,6 @@ QString FormView::objectNameOf(const Control& control) {
 }
 
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
-
-const FieldName* FormView::fieldNameOf(const Control& control) const {
-    if (!form_) return nullptr;
-    if (!named_) {
-        names_ = keptFieldNamesOf(*form_);
-        namedCaptions_.clear();
-        for (const auto& [field, name] : names_)
-            if (name.box) namedCaptions_[name.box] = name.box->caption;
-        named_ = true;
-    }
-    const auto found = names_.find(&control);
-    return found == names_.end() ? nullptr : &found->second;
-}
-
-// A caption that names a box changed, as the year in one does: the fields are named anew.
-void FormView::renameFields() {
-    named_ = false;
-    for (auto it = editors_.cbegin(); it != editors_.cend(); ++it)
-        if (const FieldName* named = fieldNameOf(*it.key()); named && !named->text.empty())
-            it.value()->setAccessibleName(toQString(named->text));
-}
-
-void FormView::clickFromAssistant(Control& control) {
-    if (form_ && hasProgram()) forwardInput([&] { program().desktop.click(control); });
-}
-
-void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
-    if (form_ && hasProgram()) forwardInput([&] { program().desktop.choose(control, entry); });
-}
 
 void FormView::keepFace() {
     if (form_ && keptFace_) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
