@@ -3,19 +3,18 @@
 
 Usage: check_k1help_inf_test.py PATH_TO_CHECKER
 """
-import importlib.machinery
-import importlib.util
 import os
 import sys
 import tempfile
+import types
 import unittest
 
 CHECKER = sys.argv.pop(1) if len(sys.argv) > 1 else os.path.join(
     os.path.dirname(__file__), "..", "..", "tools", "check-k1help-inf")
-loader = importlib.machinery.SourceFileLoader("check_k1help_inf", CHECKER)
-spec = importlib.util.spec_from_loader(loader.name, loader)
-checker = importlib.util.module_from_spec(spec)
-loader.exec_module(checker)
+# The checker is a command without a .py ending: its code is read into a module of its own.
+checker = types.ModuleType("check_k1help_inf")
+with open(CHECKER, encoding="utf-8") as source:
+    exec(compile(source.read(), CHECKER, "exec"), checker.__dict__)
 
 HEADING = "; Codes as the 2024 Instructions for Schedule K-1 of Forms 1041, 1065 and 1120-S give them.\n"
 
