@@ -4,8 +4,6 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLineEdit>
-#include <QPaintEvent>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -21,7 +19,6 @@
 #include "model/program.h"
 #include "ui/command_icons.h"
 #include "ui/control_text.h"
-#include "ui/face_cache.h"
 #include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
@@ -69,13 +66,6 @@ QString FormView::objectNameOf(const Control& control) {
 }
 
 QWidget* FormView::editorOf(const Control& control) const { return editors_.value(&control, nullptr); }
-
-void FormView::keepFace() {
-    if (form_ && keptFace_) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
-    keptFace_.reset();
-}
-
-QImage FormView::face() const { return keptFace_ ? keptFace_->toImage() : QImage(); }
 
 void FormView::detach() {
     keepFace();
@@ -289,65 +279,6 @@ void FormView::refresh() {
     refreshing_ = false;
 }
 
-std::size_t FormView::currentFaceLook() const {
-    const qreal ratio = devicePixelRatioF();
-    return faceLookOf(*form_, size() * ratio, ratio, palette().window().color());
-}
-
-namespace {
-// Many small areas at once (a page of a tab control turned) cost less painted as one.
-constexpr int kMostAreasApart = 8;
-}  // namespace
-
-void FormView::ensureFace() {
-    const qreal ratio = devicePixelRatioF();
-    const QSize pixels = size() * ratio;
-    if (keptFace_ && keptFace_->size() == pixels && keptFace_->devicePixelRatio() == ratio) return;
-    keptFace_.reset();
-    if (!form_) return;
-    faceLook_ = currentFaceLook();
-    keptFace_ = FaceCache::instance().find(form_->name(), faceLook_, pixels, ratio);
-    if (keptFace_) return;
-    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, facePainter());
-    FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
-}
-
-CompactFace::AreaPainter FormView::facePainter() const {
-    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
-    const QColor ground = palette().window().color();
-    const Form* form = form_;
-    return [formArea, ground, form](QPainter& painter, const QRect& area) {
-        painter.fillRect(area, ground);
-        FormPainter(kScreenScale).paintArea(painter, *form, area.intersected(formArea), true);
-    };
-}
-
-// Painted controls changed: the face for their new look is taken from the cache when it holds one (a
-// page of a tab control turned back), else made from the face shown with the changed places painted
-// again.
-void FormView::showLook(std::size_t look, const QRegion& damaged) {
-    // Many small areas at once (a page of a tab control turned) cost less painted as one, and reach the
-    // screen faster as one.
-    const QRegion area = damaged.rectCount() > kMostAreasApart ? QRegion(damaged.boundingRect()) : damaged;
-    if (look != faceLook_) {
-        const qreal ratio = devicePixelRatioF();
-        SharedFace kept = FaceCache::instance().find(form_->name(), look, size() * ratio, ratio);
-        // When most of the face changed, as when a page of a tab control turns, both faces are kept for
-        // the way back and forth; not one for every check box ticked.
-        qint64 changed = 0;
-        for (const QRect& rect : area) changed += static_cast<qint64>(rect.width()) * rect.height();
-        const bool turned = changed * 4 >= static_cast<qint64>(width()) * height();
-        if (turned) FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
-        if (!kept) {
-            kept = std::make_shared<const CompactFace>(*keptFace_, area, facePainter());
-            if (turned) FaceCache::instance().keep(form_->name(), look, kept);
-        }
-        keptFace_ = std::move(kept);
-        faceLook_ = look;
-    }
-    update(area);
-}
-
 void FormView::placeFocus() {
     if (!form_ || !hasProgram()) return;
     Desktop& desktop = program().desktop;
@@ -365,16 +296,6 @@ void FormView::placeFocus() {
     QWidget* viewport = parentWidget();
     if (auto* area = qobject_cast<QScrollArea*>(viewport ? viewport->parentWidget() : nullptr))
         if (target != this) area->ensureWidgetVisible(target);
-}
-
-void FormView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    if (!form_) {
-        painter.fillRect(rect(), palette().window());
-        return;
-    }
-    ensureFace();
-    for (const QRect& rect : event->region()) keptFace_->draw(painter, rect);
 }
 
 Control* FormView::controlAt(QPoint point) const {
