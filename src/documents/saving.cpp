@@ -15,7 +15,7 @@
 #include "fields/control_setup.h"
 #include "model/program.h"
 #include "shell/paths.h"
-#include "taxpayer/name_format.h"
+#include "people/name_format.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/number.h"

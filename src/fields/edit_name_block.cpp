@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "fields/edit_ctl.h"
-#include "taxpayer/name_format.h"
+#include "people/name_format.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/pieces.h"

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "taxpayer/tp_record.h"
+#include "people/tp_record.h"
 
 namespace lw {
 

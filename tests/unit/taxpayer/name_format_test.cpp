@@ -1,4 +1,4 @@
-#include "taxpayer/name_format.h"
+#include "people/name_format.h"
 
 #include <gtest/gtest.h>
 

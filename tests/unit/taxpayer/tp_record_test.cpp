@@ -1,5 +1,5 @@
 // A stored block (lines joined by "»") cut into the parts that the forms fill.
-#include "taxpayer/tp_record.h"
+#include "people/tp_record.h"
 
 #include <gtest/gtest.h>
 

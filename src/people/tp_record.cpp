@@ -1,4 +1,4 @@
-#include "taxpayer/tp_record.h"
+#include "people/tp_record.h"
 
 #include <vector>
 
