@@ -1,21 +1,12 @@
 #include "model/look_tracker.h"
 
 #include "model/containers.h"
+#include "model/hash_mix.h"
 
 #include <functional>
 #include <string>
 
 namespace lw {
-
-namespace {
-
-// Mixes one value into the fingerprint, in the manner of boost::hash_combine.
-template <typename T>
-void mix(std::size_t& seed, const T& value) {
-    seed ^= std::hash<T>{}(value) + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
-}
-
-}  // namespace
 
 std::size_t lookOf(const Control& c) {
     std::size_t seed = static_cast<std::size_t>(c.kind);

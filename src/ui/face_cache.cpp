@@ -11,7 +11,7 @@
 
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
-#include "ui/hash_mix.h"
+#include "model/hash_mix.h"
 #include "model/look_tracker.h"
 #include "ui/form_painter.h"
 #include "ui/qt_text.h"

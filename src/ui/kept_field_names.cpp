@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "model/containers.h"
-#include "ui/hash_mix.h"
+#include "model/hash_mix.h"
 
 namespace lw::ui {
 
