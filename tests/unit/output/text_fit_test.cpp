@@ -18,6 +18,7 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "documents/saving.h"
+#include "drawn_forms.h"
 #include "fields/edit_ctl.h"
 #include "forms/register_forms.h"
 #include "longest_values.h"
@@ -76,18 +77,10 @@ DrawnText drawnAt(const Control& box, double scale) {
 
 std::string quoted(const QString& text) { return "\"" + text.toStdString() + "\""; }
 
-class TextFit : public ::testing::TestWithParam<std::string> {
+class TextFit : public testing::EachDrawnForm {
 protected:
     void SetUp() override {
-        test.program.reset();
-        test.program = std::make_unique<Program>(test.ui, test.platform);
-        registerAllForms();
-        test.start();
-        for (const CatalogueEntry& entry : catalogue())
-            if (entry.form == GetParam()) test.program->desktop.chooseMenu(entry.menuItem);
-        form = test.program->desktop.activeChild();
-        ASSERT_NE(form, nullptr);
-        ASSERT_EQ(form->name(), GetParam());
+        ASSERT_NO_FATAL_FAILURE(EachDrawnForm::SetUp());
         ASSERT_NO_FATAL_FAILURE(fill());
         keepDocument();
     }
@@ -155,8 +148,6 @@ protected:
         return boxes;
     }
 
-    testing::TestProgram test;
-    Form* form = nullptr;
 };
 
 TEST_P(TextFit, EveryFieldShowsItsLongestValueWholeAtEveryScale) {
