@@ -19,7 +19,7 @@ namespace lw::bench {
 void BenchUi::copyPictureToClipboard(Form& form) { ui::copyFormPicture(form); }
 
 void BenchUi::runModal(Form& form) {
-    if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+    if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) {
         Control* button = box->defaultButtonControl();
         if (!button) button = &box->cmd1;
         program().desktop.click(*button);
@@ -31,7 +31,7 @@ void BenchUi::runModal(Form& form) {
         if (grid && grid->items.size() > 1) program().desktop.choose(*grid, grid->items[1]);
         return;
     }
-    if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
+    if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
         reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
         report->unload();
     }
@@ -77,7 +77,7 @@ OpenedForm::OpenedForm(benchmark::State& state, const std::string& formName) {
         return;
     }
     setWithholdingRates(bench.program->g);
-    form = Form_Open(formName);
+    form = openCatalogueForm(formName);
     if (!form) state.SkipWithError("the form did not open");
 }
 

@@ -48,7 +48,7 @@ void OpenForm(benchmark::State& state, const std::string& formName) {
     }
     for (auto _ : state) {
         const auto start = Clock::now();
-        Form* form = Form_Open(formName);
+        Form* form = openCatalogueForm(formName);
         state.SetIterationTime(secondsSince(start));
         if (!form) {
             state.SkipWithError("the form did not open");
@@ -116,7 +116,7 @@ void SaveFile(benchmark::State& state) {
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
     for (auto _ : state) {
-        const std::string bytes = Build_Record() + "\r\n";
+        const std::string bytes = buildRecord() + "\r\n";
         if (!store::writeFileAtomically(path, bytes, error)) {
             state.SkipWithError(error.c_str());
             break;
@@ -132,13 +132,13 @@ void ReadFile(benchmark::State& state) {
     fillW2(*opened.form);
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
-    if (!store::writeFileAtomically(path, Build_Record() + "\r\n", error)) {
+    if (!store::writeFileAtomically(path, buildRecord() + "\r\n", error)) {
         state.SkipWithError(error.c_str());
         return;
     }
     opened.bench.program->g.CurrentFileName = path.string();
     for (auto _ : state) {
-        const std::string title = Read_File();
+        const std::string title = readDataFile();
         if (title != "TF_W2") {
             state.SkipWithError(("the file read as " + title).c_str());
             break;

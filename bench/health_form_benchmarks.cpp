@@ -11,8 +11,8 @@
 namespace lw::bench {
 namespace {
 
-TF_1095A* the1095A(OpenedForm& opened, benchmark::State& state) {
-    auto* form = dynamic_cast<TF_1095A*>(opened.form);
+Form1095A* the1095A(OpenedForm& opened, benchmark::State& state) {
+    auto* form = dynamic_cast<Form1095A*>(opened.form);
     if (!form) state.SkipWithError("TF_1095A did not open as itself");
     return form;
 }
@@ -21,15 +21,15 @@ TF_1095A* the1095A(OpenedForm& opened, benchmark::State& state) {
 void CopyDown1095A(benchmark::State& state) {
     OpenedForm opened(state, "TF_1095A");
     if (!opened.form) return;
-    TF_1095A* form = the1095A(opened, state);
+    Form1095A* form = the1095A(opened, state);
     if (!form) return;
-    Control& january = form->at("Text1", TF_1095A::kColumnA.first);
+    Control& january = form->at("Text1", Form1095A::kColumnA.first);
     opened.bench.program->desktop.setFocus(january);
     for (auto _ : state) {
         january.text = "1,234.56";
         int key = keys::kF12;
         form->onKeyDown(january, key, 0);
-        if (form->at("Text1", TF_1095A::kColumnA.total).text != "$14,814.72") {
+        if (form->at("Text1", Form1095A::kColumnA.total).text != "$14,814.72") {
             state.SkipWithError("the total is wrong");
             break;
         }
@@ -41,11 +41,11 @@ BENCHMARK(CopyDown1095A)->Unit(benchmark::kMicrosecond);
 void LeaveMonth1095A(benchmark::State& state) {
     OpenedForm opened(state, "TF_1095A");
     if (!opened.form) return;
-    TF_1095A* form = the1095A(opened, state);
+    Form1095A* form = the1095A(opened, state);
     if (!form) return;
-    for (int i = TF_1095A::kColumnC.first; i <= TF_1095A::kColumnC.last; ++i)
+    for (int i = Form1095A::kColumnC.first; i <= Form1095A::kColumnC.last; ++i)
         form->at("Text1", i).text = "$99.99";
-    Control& december = form->at("Text1", TF_1095A::kColumnC.last);
+    Control& december = form->at("Text1", Form1095A::kColumnC.last);
     for (auto _ : state) {
         december.text = "99.99";
         bool cancel = false;
@@ -54,7 +54,7 @@ void LeaveMonth1095A(benchmark::State& state) {
             state.SkipWithError("the edit refused the amount");
             break;
         }
-        benchmark::DoNotOptimize(form->at("Text1", TF_1095A::kColumnC.total).text);
+        benchmark::DoNotOptimize(form->at("Text1", Form1095A::kColumnC.total).text);
     }
 }
 BENCHMARK(LeaveMonth1095A)->Unit(benchmark::kMicrosecond);

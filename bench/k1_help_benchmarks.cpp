@@ -30,12 +30,12 @@ void OpenK1CodeList(benchmark::State& state, const std::string& section) {
     code.tag = "K1HELP\xB7" + section;
     owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
     Form& form = desktop.load(std::move(owned));
-    K1_SaveInfo(form);
+    keepK1DesignValues(form);
     for (auto _ : state) {
         code.text.clear();
         desktop.setFocus(code);
         const auto start = Clock::now();
-        desktop.dispatch([&] { K1_Help_KeyDown(form, code); });
+        desktop.dispatch([&] { openK1CodeList(form, code); });
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
         if (code.text.empty()) {
             state.SkipWithError("no code was picked from the list");
@@ -55,7 +55,7 @@ void DrawK1CodeList(benchmark::State& state, const std::string& section) {
     for (auto _ : state) {
         const auto start = Clock::now();
         k1HelpMembers().F97_K1Key = section;
-        Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         const QImage picture = ui::renderForm(list);
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
         desktop.unload(list);

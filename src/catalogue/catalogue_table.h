@@ -13,7 +13,7 @@ struct TextArray {
 };
 
 struct CatalogueEntry {
-    const char* form;     // the form's name, e.g. TF_W2
+    const char* form;     // the form's name, e.g. FormW2
     const char* formKey;  // the name from its fourth character on, upper-cased
     const char* section;  // its section of Forms.inf
     const char* menuItem;

@@ -29,7 +29,7 @@ void keepNumber(const std::string& text, int& target) {
 }
 }  // namespace
 
-void FormInfo_Load() {
+void loadFormInfo() {
     Globals& g = program().g;
     const std::string name = g.CurrentForm ? g.CurrentForm->name() : std::string();
     g.FormTitle = GetFormInfo(name, "FormName");

@@ -10,6 +10,6 @@ namespace lw {
 std::string GetFormInfo(const std::string& Section, const std::string& Key);
 // Fills the per-form values of CurrentForm. The two focus values keep those of the form opened before
 // when the file has no number for them.
-void FormInfo_Load();
+void loadFormInfo();
 
 }  // namespace lw

@@ -51,7 +51,7 @@ int chosenOf(const std::array<Control*, 3>& options) {
 }  // namespace
 
 void configureFormCommonInit(Form& form) {
-    SS_MC_Load();
+    loadRates();
     const std::string changePoint = form.at("txtMCChgRateAfter").text;
     Control& upTo = form.at("lblMC", 0);
     Control& over = form.at("lblMC", 2);
@@ -59,18 +59,18 @@ void configureFormCommonInit(Form& form) {
     over.caption = replaceNoCase(over.caption, "<<WAGE>>", changePoint);
 }
 
-bool F1_Configure::isFigureField(const Control& control) const {
+bool ConfigureForm::isFigureField(const Control& control) const {
     for (const Control* field :
          {&txtSSRate, &txtSSMax, &txtMCInitRate, &txtMCChgRateAfter, &txtMCRateAfter, &txtMCPartBPremiums})
         if (&control == field) return true;
     return false;
 }
 
-void F1_Configure::onLoad() {
-    runGuarded("F1_Configure:Form_Load", [this] { Form_Load(); });
+void ConfigureForm::onLoad() {
+    runGuarded("F1_Configure:Form_Load", [this] { loadForm(); });
 }
 
-void F1_Configure::Form_Load() {
+void ConfigureForm::loadForm() {
     switch (chosenOf(optStatus)) {
         case 0:
             g().FilingStatus = "Single";
@@ -104,9 +104,9 @@ void F1_Configure::Form_Load() {
         "All forms created will be for the year shown here. NOTE: If [Change Tax Yr] button is\r\n"
         "pressed on a different form, (e.g. the W2), change will apply to ALL forms, including this form.";
 
-    TaxYear1.caption = lastTwo(TaxYears_Setup());
+    TaxYear1.caption = lastTwo(setUpTaxYears());
 
-    Form_Common_Init(*this);
+    initCatalogueForm(*this);
 
     fillPrinters();
 
@@ -122,7 +122,7 @@ void F1_Configure::Form_Load() {
     chooseFileNameFormat();
 }
 
-void F1_Configure::fillPrinters() {
+void ConfigureForm::fillPrinters() {
     const std::vector<std::string> machine = program().platform.printers();
     cbxPrinters.items.clear();
     for (const std::string& printer : machine)
@@ -134,7 +134,7 @@ void F1_Configure::fillPrinters() {
         cbxPrinters.listIndex = static_cast<int>(entry);
         cbxPrinters.text = cbxPrinters.items[entry];
         cbxPrinters.select(0, static_cast<int>(cbxPrinters.text.size()));
-        if (moved) cbxPrinters_Click();
+        if (moved) onPrinterChosen();
     };
     const std::string remembered = readUserInf("Printer");
     if (remembered.empty()) {
@@ -148,7 +148,7 @@ void F1_Configure::fillPrinters() {
     if (it != cbxPrinters.items.end()) select(static_cast<std::size_t>(it - cbxPrinters.items.begin()));
 }
 
-void F1_Configure::chooseFileNameFormat() {
+void ConfigureForm::chooseFileNameFormat() {
     const std::string remembered = readUserInf("FileNameFmt");
     if (remembered.empty()) {
         switchOn(*optFileName[0]);
@@ -168,36 +168,36 @@ void F1_Configure::chooseFileNameFormat() {
     switchOn(*option);
 }
 
-void F1_Configure::switchOn(Control& option) {
+void ConfigureForm::switchOn(Control& option) {
     if (option.value) return;
     for (Control* other : arrayOf(option.name)) other->value = false;
     option.value = true;
     onClick(option, MouseButton::Left);
 }
 
-void F1_Configure::onClick(Control& control, MouseButton) {
+void ConfigureForm::onClick(Control& control, MouseButton) {
     // Only a chosen entry is a printer; a click that chooses nothing leaves the remembered one.
-    if (&control == &cbxPrinters && cbxPrinters.listIndex >= 0) cbxPrinters_Click();
+    if (&control == &cbxPrinters && cbxPrinters.listIndex >= 0) onPrinterChosen();
     if (control.kind != ControlKind::OptionButton) return;
-    if (text::equalsNoCase(control.name, "optFileName")) optFileName_Click(control.index);
-    if (text::equalsNoCase(control.name, "optStatus")) optStatus_Click(control.index);
+    if (text::equalsNoCase(control.name, "optFileName")) onFileNameOption(control.index);
+    if (text::equalsNoCase(control.name, "optStatus")) onStatusOption(control.index);
 }
 
-void F1_Configure::cbxPrinters_Click() {
+void ConfigureForm::onPrinterChosen() {
     runGuarded("F1_Configure:cbxPrinters_Click", [this] {
         g().PrinterName = cbxPrinters.text;
         writeUserInf("Printer", cbxPrinters.text);
     });
 }
 
-void F1_Configure::optFileName_Click(int Index) {
+void ConfigureForm::onFileNameOption(int Index) {
     runGuarded("F1_Configure:optFileName_Click", [this, Index] {
         writeUserInf("FileNameFmt", std::to_string(Index));
         g().FileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
     });
 }
 
-void F1_Configure::optStatus_Click(int) {
+void ConfigureForm::onStatusOption(int) {
     runGuarded("F1_Configure:optStatus_Click", [this] {
         static const struct {
             const char* status;
@@ -220,19 +220,19 @@ void F1_Configure::optStatus_Click(int) {
     });
 }
 
-void F1_Configure::onGotFocus(Control& control) {
+void ConfigureForm::onGotFocus(Control& control) {
     if (!isFigureField(control)) return;
     control.select(0, kFigureSelectionLength);
 }
 
-void F1_Configure::onChange(Control& control) {
+void ConfigureForm::onChange(Control& control) {
     if (isFigureField(control)) bChanged = true;
 }
 
-void F1_Configure::onValidate(Control& control, bool& cancel) {
+void ConfigureForm::onValidate(Control& control, bool& cancel) {
     if (!isFigureField(control)) return;
     const bool isRate = &control == &txtSSRate || &control == &txtMCInitRate || &control == &txtMCRateAfter;
-    const bool good = isRate ? SS_MC_Edit_Rate(control) : SS_MC_Edit_Money(control);
+    const bool good = isRate ? checkRateField(control) : checkRateAmountField(control);
     if (!good) {
         control.select(0, static_cast<int>(control.text.size()));
         cancel = true;
@@ -248,7 +248,7 @@ void F1_Configure::onValidate(Control& control, bool& cancel) {
     *global = control.text;
 }
 
-void F1_Configure::onUnload(bool&) {
+void ConfigureForm::onUnload(bool&) {
     runGuarded("F1_Configure:Form_Unload", [this] {
         if (!g().FilingStatus.empty()) return;
         const std::string answer =
@@ -260,13 +260,13 @@ void F1_Configure::onUnload(bool&) {
     });
 }
 
-void F1_Configure::commonInitStep() { configureFormCommonInit(*this); }
+void ConfigureForm::commonInitStep() { configureFormCommonInit(*this); }
 
-void F1_Configure::afterYearChange() { SS_MC_Load(); }
+void ConfigureForm::afterYearChange() { loadRates(); }
 
 void registerConfigureForm() {
-    registerForm("F1_Configure", [] { return std::make_unique<F1_Configure>(); });
-    setRatesCheck([](Form& configureForm) { return SS_MC_Validate_All(configureForm); });
+    registerForm("F1_Configure", [] { return std::make_unique<ConfigureForm>(); });
+    setRatesCheck([](Form& configureForm) { return validateAllRates(configureForm); });
 }
 
 }  // namespace lw

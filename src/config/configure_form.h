@@ -1,4 +1,4 @@
-// F1_Configure, the control panel and first screen: printer, file name template, tax year, filing
+// ConfigureForm, the control panel and first screen: printer, file name template, tax year, filing
 // status and the Social Security and Medicare figures of the year.
 #pragma once
 
@@ -9,9 +9,9 @@
 
 namespace lw {
 
-class F1_Configure : public CatalogueForm {
+class ConfigureForm : public CatalogueForm {
 public:
-    F1_Configure();
+    ConfigureForm();
 
     // Set when the operator changes a figure; the frame's Save and Print clear it. Nothing reads it.
     bool bChanged = false;
@@ -53,15 +53,15 @@ public:
     void commonInitStep() override;
     void afterYearChange() override;
 
-    void cbxPrinters_Click();
-    void optFileName_Click(int Index);
-    void optStatus_Click(int Index);
+    void onPrinterChosen();
+    void onFileNameOption(int Index);
+    void onStatusOption(int Index);
 
     // One of the six figure fields.
     bool isFigureField(const Control& control) const;
 
 private:
-    void Form_Load();
+    void loadForm();
     void fillPrinters();
     void chooseFileNameFormat();
     // Turns an option on as code does: its Click runs only when it was off.

@@ -40,7 +40,7 @@ void figureField(Control& c, const char* tip, int top) {
 
 }  // namespace
 
-F1_Configure::F1_Configure()
+ConfigureForm::ConfigureForm()
     : CatalogueForm("F1_Configure"),
       Frame6(add(ControlKind::Frame, "Frame6")),
       Frame1(add(ControlKind::Frame, "Frame1")),

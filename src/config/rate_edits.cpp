@@ -33,7 +33,7 @@ bool edited(Control& ctl, const char* label, void (*edit)(Control&)) {
     return good;
 }
 
-void editRate(Control& ctl) {
+void normaliseRate(Control& ctl) {
     if (ctl.text.empty()) raiseDataError(800, "Social Security/Medicare Rate is Mandatory.", kEditRateLabel);
     const std::string rate = text::replaceAll(ctl.text, "%", "");
     if (!config::isClassicNumeric(rate))
@@ -51,7 +51,7 @@ void editRate(Control& ctl) {
                    kEditRateLabel);
 }
 
-void editMoney(Control& ctl) {
+void normaliseRateAmount(Control& ctl) {
     if (ctl.text.empty()) raiseDataError(801, "Amount is MANDATORY!", kEditMoneyLabel);
     if (!config::isClassicNumeric(ctl.text))
         raiseDataError(802, "Amount IS NOT NUMERIC - commas, decimals are OK", kEditMoneyLabel);
@@ -77,28 +77,28 @@ void editMoney(Control& ctl) {
 
 }  // namespace
 
-bool SS_MC_Edit_Rate(Control& Ctl) { return edited(Ctl, kEditRateLabel, editRate); }
+bool checkRateField(Control& Ctl) { return edited(Ctl, kEditRateLabel, normaliseRate); }
 
-bool SS_MC_Edit_Money(Control& Ctl) { return edited(Ctl, kEditMoneyLabel, editMoney); }
+bool checkRateAmountField(Control& Ctl) { return edited(Ctl, kEditMoneyLabel, normaliseRateAmount); }
 
-bool SS_MC_Validate_All(Form& configureForm) {
+bool validateAllRates(Form& configureForm) {
     struct Field {
         const char* name;
         bool (*edit)(Control&);
     };
     static const Field fields[] = {
-        {"txtSSRate", SS_MC_Edit_Rate},      {"txtSSMax", SS_MC_Edit_Money},
-        {"txtMCInitRate", SS_MC_Edit_Rate},  {"txtMCChgRateAfter", SS_MC_Edit_Money},
-        {"txtMCRateAfter", SS_MC_Edit_Rate}, {"txtMCPartBPremiums", SS_MC_Edit_Money},
+        {"txtSSRate", checkRateField},      {"txtSSMax", checkRateAmountField},
+        {"txtMCInitRate", checkRateField},  {"txtMCChgRateAfter", checkRateAmountField},
+        {"txtMCRateAfter", checkRateField}, {"txtMCPartBPremiums", checkRateAmountField},
     };
     for (const Field& field : fields)
         if (!field.edit(configureForm.at(field.name))) return false;
     return true;
 }
 
-bool SS_MC_Validate_All() { return SS_MC_Validate_All(configureFormInUse()); }
+bool validateAllRates() { return validateAllRates(configureFormInUse()); }
 
-bool SS_MC_Rates_In_Force() {
+bool ratesInForce() {
     const Globals& g = program().g;
     struct Figure {
         const char* field;
@@ -106,11 +106,11 @@ bool SS_MC_Rates_In_Force() {
         bool (*edit)(Control&);
     };
     const Figure figures[] = {
-        {"txtSSRate", g.SSRate, SS_MC_Edit_Rate},
-        {"txtSSMax", g.SSMax, SS_MC_Edit_Money},
-        {"txtMCInitRate", g.MCInitRate, SS_MC_Edit_Rate},
-        {"txtMCChgRateAfter", g.MCChgRateAfter, SS_MC_Edit_Money},
-        {"txtMCRateAfter", g.MCRateAfter, SS_MC_Edit_Rate},
+        {"txtSSRate", g.SSRate, checkRateField},
+        {"txtSSMax", g.SSMax, checkRateAmountField},
+        {"txtMCInitRate", g.MCInitRate, checkRateField},
+        {"txtMCChgRateAfter", g.MCChgRateAfter, checkRateAmountField},
+        {"txtMCRateAfter", g.MCRateAfter, checkRateField},
     };
     for (const Figure& figure : figures) {
         // The figure goes through its field's edit on a stand-in for the field, which no form holds.

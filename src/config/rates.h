@@ -10,34 +10,34 @@ namespace lw {
 
 // Fills the rate fields and captions of CurrentForm (the configuration form) from the section of its
 // year, TaxYear(0) and TaxYear(1); the change point is taken by FilingStatus. Sets the rate globals.
-void SS_MC_Load();
+void loadRates();
 
 // Edits of a rate field and an amount field: true when the text is good, and then rewritten to its
 // normal form. A bad text is reported as a Data Error, the field keeps the focus, and false comes back.
-bool SS_MC_Edit_Rate(Control& Ctl);
-bool SS_MC_Edit_Money(Control& Ctl);
+bool checkRateField(Control& Ctl);
+bool checkRateAmountField(Control& Ctl);
 
 // The six fields by their edits in form order; the first that fails ends it with false.
-bool SS_MC_Validate_All(Form& configureForm);
+bool validateAllRates(Form& configureForm);
 // As above, on the configuration form that is loaded (CurrentForm when none is).
-bool SS_MC_Validate_All();
+bool validateAllRates();
 
 // The figures in force for the W-2's computation (rates, wage base, change point), each through the edit
 // of its field on the configuration form: false, with that edit's Data Error shown, when one cannot be
 // used, as in a year that SSMC.inf has no figures for.
-bool SS_MC_Rates_In_Force();
+bool ratesInForce();
 
 // Writes the six figures to the section of the form's year when all of them pass, and sets their
 // globals. The frame's Save on the configuration form.
-void SS_MC_Save();
+void storeRates();
 
 // When the figures on the form differ from the stored ones, offers to save them; ends the program
 // afterwards when the frame is quitting. Run as the frame closes with the configuration form on it.
-void SS_MC_Check_Changes();
+void offerToSaveChangedRates();
 
 // One line of the table of changes: the item in 22 characters, the two values right-aligned in 9 each,
 // then a line end. Longer texts stand whole.
-std::string SS_MC_Row(const std::string& Item, const std::string& Original, const std::string& Current);
+std::string rateChangeRow(const std::string& Item, const std::string& Original, const std::string& Current);
 
 // The loaded configuration form, or CurrentForm when it is not loaded.
 Form& configureFormInUse();

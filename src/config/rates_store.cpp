@@ -43,7 +43,7 @@ std::string padLeft(const std::string& text, std::size_t width) {
 
 }  // namespace
 
-void SS_MC_Load() {
+void loadRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
         Form& form = *g().CurrentForm;
         const std::string year = formYear(form);
@@ -71,11 +71,11 @@ void SS_MC_Load() {
     });
 }
 
-void SS_MC_Save() {
+void storeRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Save", [] {
         Form& form = configureFormInUse();
         const std::string year = formYear(form);
-        if (!SS_MC_Validate_All(form)) return;
+        if (!validateAllRates(form)) return;
         auto write = [&](const char* key, const std::string& value, std::string& global) {
             store::SaveINF(year, key, value, g().SSMCInfFile);
             global = value;
@@ -90,11 +90,11 @@ void SS_MC_Save() {
     });
 }
 
-std::string SS_MC_Row(const std::string& Item, const std::string& Original, const std::string& Current) {
+std::string rateChangeRow(const std::string& Item, const std::string& Original, const std::string& Current) {
     return padRight(Item, 22) + padLeft(Original, 9) + padLeft(Current, 9) + "\r\n";
 }
 
-void SS_MC_Check_Changes() {
+void offerToSaveChangedRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
         Form& form = configureFormInUse();
         const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
@@ -119,15 +119,15 @@ void SS_MC_Check_Changes() {
             if (stored[i] != items[i].current) changed = true;
         }
         if (changed) {
-            std::string table = SS_MC_Row("Item", "Original", "Current") + SS_MC_Row("", "Value", "Value") +
-                                std::string(40, '-') + "\r\n";
+            std::string table = rateChangeRow("Item", "Original", "Current") +
+                                rateChangeRow("", "Value", "Value") + std::string(40, '-') + "\r\n";
             for (std::size_t i = 0; i < items.size(); ++i)
-                table += SS_MC_Row(items[i].caption, stored[i], items[i].current);
+                table += rateChangeRow(items[i].caption, stored[i], items[i].current);
             const std::string message =
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
             if (MA_MBX("M3_Ledgerwick:SS_MC_Check_Changes", 800, message, "Yes", false, "No", "", "", 1) ==
                 "Yes")
-                SS_MC_Save();
+                storeRates();
         }
         if (g().bQuitting) program().ui.quit();
     });

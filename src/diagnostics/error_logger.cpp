@@ -34,8 +34,9 @@ const Form* currentForm() {
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
 }
 
-std::unique_ptr<F8_ErrLog> reportForm(const std::string& module, int number, const std::string& description) {
-    auto form = std::make_unique<F8_ErrLog>();
+std::unique_ptr<ErrorReportForm> reportForm(const std::string& module, int number,
+                                            const std::string& description) {
+    auto form = std::make_unique<ErrorReportForm>();
     form->F8_App = programVersionText();
     form->F8_Module = module;
     form->F8_ErrNo = std::to_string(number);
@@ -55,7 +56,7 @@ std::string errorFormText() {
     return "Name    = " + name + "\r\n" + "Caption = " + text::trim(frameCaption.substr(equals + 1));
 }
 
-void Error_Logger(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
+void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
     if (nesting >= kMaxNesting) {
         std::cerr << Proc << ": error " << ErrNo << ": " << ErrDesc << " (not shown: reports nested too deep)"
                   << std::endl;
@@ -81,7 +82,7 @@ void Error_Logger(const std::string& Proc, int ErrNo, const std::string& ErrDesc
         ownFault = faultOf(std::current_exception());
     }
 
-    // A fault of the reporting itself is reported as a fault of Error_Logger.
+    // A fault of the reporting itself is reported as a fault of logError.
     try {
         if (program().g.bDebug) stopForProgrammer(kOwnLabel, ownFault);
         auto form = reportForm(kOwnLabel, ownFault.number, ownFault.description);

@@ -36,7 +36,6 @@ ObserverList<ErrorReportRecord>& observers() {
     return instance;
 }
 
-
 }  // namespace
 
 std::string errorReportInstructions() {
@@ -57,7 +56,7 @@ std::string errorReportInstructions() {
     return joined;
 }
 
-F8_ErrLog::F8_ErrLog()
+ErrorReportForm::ErrorReportForm()
     : Form("F8_ErrLog"),
       Frame3(add(ControlKind::Frame, "Frame3")),
       Label1{},
@@ -123,7 +122,7 @@ F8_ErrLog::F8_ErrLog()
     cmdClearAndCopyForDocument.tabIndex = 3;
 }
 
-void F8_ErrLog::onLoad() {
+void ErrorReportForm::onLoad() {
     // The blank report of the user's guide is made from a start with "Error" on the command line.
     cmdClearAndCopyForDocument.visible = text::containsNoCase(program().platform.commandLine(), "Error");
     caption = "Error in " + F8_App;
@@ -136,18 +135,18 @@ void F8_ErrLog::onLoad() {
     Label5.caption = errorReportInstructions();
 }
 
-void F8_ErrLog::onKeyPress(Control& control, int& keyAscii) {
+void ErrorReportForm::onKeyPress(Control& control, int& keyAscii) {
     // The description is written in capitals.
     if (&control == &Text1 && keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 'a' - 'A';
 }
 
-void F8_ErrLog::onClick(Control& control, MouseButton) {
-    if (&control == &cmdClip) cmdClip_Click();
-    if (&control == &cmdExit) cmdExit_Click();
-    if (&control == &cmdClearAndCopyForDocument) cmdClearAndCopyForDocument_Click();
+void ErrorReportForm::onClick(Control& control, MouseButton) {
+    if (&control == &cmdClip) onClip();
+    if (&control == &cmdExit) onExit();
+    if (&control == &cmdClearAndCopyForDocument) onClearAndCopy();
 }
 
-void F8_ErrLog::cmdClip_Click() {
+void ErrorReportForm::onClip() {
     if (Text1.text.empty()) {
         // The platform's standard box with the exclamation icon, shown as our own box with that icon.
         showMessageBox("Provide Description", 800,
@@ -161,11 +160,11 @@ void F8_ErrLog::cmdClip_Click() {
     program().platform.sleep(kCopyPauseMs);
 }
 
-void F8_ErrLog::onUnload(bool&) { closingText() = Text1.text; }
+void ErrorReportForm::onUnload(bool&) { closingText() = Text1.text; }
 
-void F8_ErrLog::cmdExit_Click() { unload(); }
+void ErrorReportForm::onExit() { unload(); }
 
-void F8_ErrLog::cmdClearAndCopyForDocument_Click() {
+void ErrorReportForm::onClearAndCopy() {
     for (Control* label : Label2) label->caption.clear();
     CopyEntirePicture(*this);
     unload();
@@ -181,9 +180,9 @@ void removeErrorReportObserver(int id) { observers().remove(id); }
 
 void resetErrorReports() { lastRecord().reset(); }
 
-void showErrorReport(std::unique_ptr<F8_ErrLog> owned) {
+void showErrorReport(std::unique_ptr<ErrorReportForm> owned) {
     Desktop& desktop = program().desktop;
-    F8_ErrLog& form = static_cast<F8_ErrLog&>(desktop.load(std::move(owned)));
+    ErrorReportForm& form = static_cast<ErrorReportForm&>(desktop.load(std::move(owned)));
     ErrorReportRecord record{
         form.F8_App, form.F8_Module, form.F8_Form, form.F8_ErrNo, form.F8_ErrDesc, form.Label2[5]->caption,
         {}};

@@ -1,5 +1,5 @@
 #pragma once
-// F8_ErrLog, the report form of a Program Error: it shows what failed and where, takes the operator's
+// ErrorReportForm, the report form of a Program Error: it shows what failed and where, takes the operator's
 // description, and copies itself to the clipboard as a picture for an e-mail to the program's keeper.
 
 #include <array>
@@ -18,14 +18,14 @@ constexpr const char* kErrorReportAddress = "support@ledgerwick.example";
 // The seven instruction lines joined by CR LF; "&&" is how a caption shows one "&".
 std::string errorReportInstructions();
 
-class F8_ErrLog : public Form {
+class ErrorReportForm : public Form {
 public:
     static constexpr int kDescriptionMaxLength = 300;
     static constexpr int kCopyPauseMs = 500;
 
-    F8_ErrLog();
+    ErrorReportForm();
 
-    // Filled by Error_Logger before the form is loaded.
+    // Filled by logError before the form is loaded.
     std::string F8_App;
     std::string F8_Module;
     std::string F8_Form;
@@ -48,9 +48,9 @@ public:
     void onUnload(bool& cancel) override;
     void onClick(Control& control, MouseButton button) override;
 
-    void cmdClip_Click();
-    void cmdExit_Click();
-    void cmdClearAndCopyForDocument_Click();
+    void onClip();
+    void onExit();
+    void onClearAndCopy();
 };
 
 // One report as it was shown, for the drivers that report or check it.
@@ -70,7 +70,7 @@ int addErrorReportObserver(std::function<void(const ErrorReportRecord&)> observe
 void removeErrorReportObserver(int id);
 void resetErrorReports();
 
-// Shows a filled report form modally and records it; Error_Logger's way of showing it.
-void showErrorReport(std::unique_ptr<F8_ErrLog> form);
+// Shows a filled report form modally and records it; logError's way of showing it.
+void showErrorReport(std::unique_ptr<ErrorReportForm> form);
 
 }  // namespace lw

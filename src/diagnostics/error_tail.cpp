@@ -59,11 +59,11 @@ void runGuarded(std::string_view label, const std::function<void()>& body) {
     }
     try {
         if (hasProgram() && program().g.bDebug) stopForProgrammer(label, fault);
-        Error_Logger(std::string(label), fault.number, fault.description);
+        logError(std::string(label), fault.number, fault.description);
     } catch (const ProgramEnded&) {
         throw;
     } catch (...) {
-        // Error_Logger reports its own faults; should even that fail, the caller still goes on.
+        // logError reports its own faults; should even that fail, the caller still goes on.
     }
 }
 

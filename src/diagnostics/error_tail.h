@@ -1,6 +1,6 @@
 #pragma once
 // The one error tail of the program: a procedure runs its body through it, and any fault of the body
-// is handed to Error_Logger with the procedure's label. The caller goes on as if the body had ended.
+// is handed to logError with the procedure's label. The caller goes on as if the body had ended.
 
 #include <exception>
 #include <functional>
@@ -22,7 +22,7 @@ struct Fault {
 Fault faultOf(std::exception_ptr fault);
 
 // Runs body; a fault lands in the tail: in debug mode it is written to stderr (and stops in an attached
-// debugger), then always goes to Error_Logger(label, number, description). Nothing escapes but
+// debugger), then always goes to logError(label, number, description). Nothing escapes but
 // ProgramEnded, which must reach the driver that ends the program.
 void runGuarded(std::string_view label, const std::function<void()>& body);
 

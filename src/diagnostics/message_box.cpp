@@ -43,9 +43,12 @@ std::string joinLines(const std::vector<std::string>& lines) {
 
 const char* iconPicture(MessageBoxIcon icon) {
     switch (icon) {
-        case MessageBoxIcon::Exclamation: return "exclamation";
-        case MessageBoxIcon::Question: return "question";
-        default: return "information";
+        case MessageBoxIcon::Exclamation:
+            return "exclamation";
+        case MessageBoxIcon::Question:
+            return "question";
+        default:
+            return "information";
     }
 }
 
@@ -68,17 +71,17 @@ void resetMessageBoxes() {
 
 std::string breakLongMessageLine(const std::string& line) {
     const int length = static_cast<int>(line.size());
-    if (length <= F9_MBX::kLineBreakColumn) return line;
+    if (length <= MessageBoxForm::kLineBreakColumn) return line;
     // Looking back from the end for a blank at a 1-based position within the first 50 characters.
     for (int position = length; position >= 1; --position) {
-        if (position <= F9_MBX::kLineBreakColumn && line[position - 1] == ' ')
+        if (position <= MessageBoxForm::kLineBreakColumn && line[position - 1] == ' ')
             return line.substr(0, position - 1) + "\r" + line.substr(position);
     }
     // The search reads position 0 of the line, which the runtime refuses.
     throw AppError(err::kInvalidProcedureCall, "Invalid procedure call or argument", kActivateLabel);
 }
 
-F9_MBX::F9_MBX()
+MessageBoxForm::MessageBoxForm()
     : Form("F9_MBX"),
       lblMessage(add(ControlKind::Label, "lblMessage")),
       imgVBInformation(add(ControlKind::Image, "imgVBInformation")),
@@ -130,18 +133,18 @@ F9_MBX::F9_MBX()
     cmdDummy.backColor = kButtonFace;
 }
 
-void F9_MBX::onLoad() {
+void MessageBoxForm::onLoad() {
     lblMessageDesignHeight = lblMessage.height;
     // The box keeps its own copy: a box opened while this one is being laid out must not change it.
     request_ = state();
     imgVBInformation.picture = iconPicture(request_.icon);
 }
 
-void F9_MBX::activateOnce() {
+void MessageBoxForm::activateOnce() {
     if (Desktop* d = desktop()) d->dispatch([this] { onActivate(); });
 }
 
-void F9_MBX::onActivate() {
+void MessageBoxForm::onActivate() {
     // Activation lays the box out by growing it; a second activation must not grow it again.
     if (activated_) return;
     activated_ = true;
@@ -183,7 +186,7 @@ void F9_MBX::onActivate() {
     colourButtons();
 }
 
-void F9_MBX::colourButtons() {
+void MessageBoxForm::colourButtons() {
     for (const auto& control : controls()) {
         Control& c = *control;
         if (c.kind != ControlKind::CommandButton || !c.visible || c.name.empty()) continue;
@@ -196,14 +199,14 @@ void F9_MBX::colourButtons() {
     }
 }
 
-void F9_MBX::onClick(Control& control, MouseButton) {
+void MessageBoxForm::onClick(Control& control, MouseButton) {
     if (&control == &cmd1) pressNumbered(1);
     if (&control == &cmd2) pressNumbered(2);
     if (&control == &cmd3) pressNumbered(3);
     if (&control == &cmd4) pressNumbered(4);
 }
 
-void F9_MBX::pressNumbered(int number) {
+void MessageBoxForm::pressNumbered(int number) {
     MessageBoxState& shared = state();
     shared.answer = button(number)->caption;
     // Only the first two buttons confirm an input.
@@ -211,7 +214,7 @@ void F9_MBX::pressNumbered(int number) {
     unload();
 }
 
-Control* F9_MBX::button(int number) const {
+Control* MessageBoxForm::button(int number) const {
     switch (number) {
         case 1:
             return &cmd1;
@@ -226,7 +229,7 @@ Control* F9_MBX::button(int number) const {
     }
 }
 
-Control* F9_MBX::buttonWithCaption(const std::string& caption) const {
+Control* MessageBoxForm::buttonWithCaption(const std::string& caption) const {
     for (int n = 1; n <= 4; ++n) {
         Control* b = button(n);
         if (b->visible && b->caption == caption) return b;
@@ -234,12 +237,12 @@ Control* F9_MBX::buttonWithCaption(const std::string& caption) const {
     return nullptr;
 }
 
-Control* F9_MBX::defaultButtonControl() const {
+Control* MessageBoxForm::defaultButtonControl() const {
     Control* b = button(request_.defaultButton);
     return b && b->visible ? b : nullptr;
 }
 
-MessageBoxRecord F9_MBX::record() const {
+MessageBoxRecord MessageBoxForm::record() const {
     MessageBoxRecord r;
     r.title = caption;
     r.number = request_.number;
@@ -272,9 +275,9 @@ std::string showMessageBox(const std::string& caption, int msgNumber, const std:
         shared.answer.clear();
 
         Desktop& desktop = program().desktop;
-        auto owned = std::make_unique<F9_MBX>();
+        auto owned = std::make_unique<MessageBoxForm>();
         owned->caption = caption;
-        F9_MBX& box = static_cast<F9_MBX&>(desktop.load(std::move(owned)));
+        MessageBoxForm& box = static_cast<MessageBoxForm&>(desktop.load(std::move(owned)));
         box.activateOnce();
         MessageBoxRecord record = box.record();
         // The box is gone once showModal returns: only the shared answer is read after it.

@@ -1,5 +1,5 @@
 #pragma once
-// The program's own message box F9_MBX and its call MA_MBX: up to four buttons with free captions, a
+// The program's own message box MessageBoxForm and its call MA_MBX: up to four buttons with free captions, a
 // coloured default, an optional input line and a message number on show. Callers tell the answer by the
 // caption of the button pressed.
 
@@ -68,7 +68,7 @@ std::string showMessageBox(const std::string& caption, int msgNumber, const std:
 // search running off the front of the line does.
 std::string breakLongMessageLine(const std::string& line);
 
-class F9_MBX : public Form {
+class MessageBoxForm : public Form {
 public:
     // Design sizes in twips.
     static constexpr int kDesignWidth = 6000;
@@ -89,7 +89,7 @@ public:
     static constexpr Color kDefaultButtonColor = 0x0000C000;
     static constexpr Color kOtherButtonColor = 0x00C0FFC0;
 
-    F9_MBX();
+    MessageBoxForm();
 
     Control& lblMessage;
     Control& imgVBInformation;
@@ -100,10 +100,10 @@ public:
     Control& cmd4;
     Control& cmdDummy;  // holds a place in the form and does nothing
 
-    // lblMessage's height as designed, noted at Form_Load.
+    // lblMessage's height as designed, noted at loadForm.
     int lblMessageDesignHeight = 0;
 
-    // The call's values as the box took them at Form_Load.
+    // The call's values as the box took them at loadForm.
     const MessageBoxState& request() const { return request_; }
     // The box as it stands: title, number, texts, buttons; the answer once a button was pressed.
     MessageBoxRecord record() const;
@@ -115,7 +115,7 @@ public:
     // The visible button that bears the default number, or nullptr (a default of 9 names none).
     Control* defaultButtonControl() const;
 
-    // Runs Form_Activate once for this showing; MA_MBX calls it before showing the box.
+    // Runs onActivateForm once for this showing; MA_MBX calls it before showing the box.
     void activateOnce();
 
     void onLoad() override;

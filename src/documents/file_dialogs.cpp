@@ -66,7 +66,7 @@ std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
     });
 }
 
-void Verify_INF_Entry(const std::string& sKind) {
+void verifyRememberedFolder(const std::string& sKind) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
         std::string key;
         if (text::equalsNoCase(sKind, "Open"))

@@ -12,6 +12,6 @@ std::string OpenOrSaveFile(int SaveMode, const std::string& FileName);
 // Runs just before each dialog. sKind "Open" (any case) or "save" (any case): the remembered folder of
 // that dialog is emptied in the user INF file when it no longer exists. Any other kind is a program
 // error, logged.
-void Verify_INF_Entry(const std::string& sKind);
+void verifyRememberedFolder(const std::string& sKind);
 
 }  // namespace lw

@@ -9,9 +9,9 @@
 #include "model/program.h"
 #include "shell/form_lifecycle.h"
 #include "store/record_line.h"
+#include "taxpayer/tpinfo_sheet.h"
 #include "text/case.h"
 #include "text/cp1252.h"
-#include "taxpayer/tpinfo_sheet.h"
 
 namespace lw {
 
@@ -79,13 +79,13 @@ void fillAges() {
 
 }  // namespace
 
-std::string Build_Record() {
+std::string buildRecord() {
     std::string line;
     runGuarded(kBuildLabel, [&] {
         Form* form = g().CurrentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
-        if (Form_HasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
+        if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
         if (g().FormKey == "SS_ITIN") {
             line = kCardsError;
             checkCardPairs(*form);
@@ -100,7 +100,7 @@ std::string Build_Record() {
     return line;
 }
 
-void Open_File() {
+void openDataFile() {
     runGuarded(kOpenLabel, [] {
         try {
             if (Form* current = g().CurrentForm; current && current->isLoaded() && current->isChild)
@@ -111,10 +111,10 @@ void Open_File() {
             // The form on the screen goes whatever its unloading says.
         }
         // A remembered folder that has gone would send the dialog astray.
-        Verify_INF_Entry("OPEN");
+        verifyRememberedFolder("OPEN");
         g().CurrentFileName = OpenOrSaveFile(0, "");
         if (g().CurrentFileName == kCancel) return;
-        Read_File();
+        readDataFile();
         fillAges();
         program().ui.refresh();
     });

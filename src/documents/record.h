@@ -6,14 +6,14 @@
 namespace lw {
 
 // The line for CurrentForm, without its line end; "Error SS_ITIN" when the cards do not pair up.
-std::string Build_Record();
+std::string buildRecord();
 // Reads CurrentFileName into the form its first field names; returns FormTitle.
-std::string Read_File();
+std::string readDataFile();
 // The Open command: unloads the form on the screen, asks for a file, reads it.
-void Open_File();
+void openDataFile();
 // Passes every DATE and DATEX field of CurrentForm through the date edit, in control order; the
 // first that fails ends the pass.
-void Form_Recheck_Dates();
+void recheckDates();
 
 // A form that keeps the numbers of chosen pictures (the driver's license: 1 to 16, 0 for none). The
 // record stores them as PIC1 and PIC2 and gives them back on reading.

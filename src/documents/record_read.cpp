@@ -86,7 +86,7 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
         throw AppError(kNoSuchForm,
                        "The file " + path + " is for \"" + field0 + "\", a form this program does not know.",
                        kReadLabel);
-    Form* form = Form_Open(formName);
+    Form* form = openCatalogueForm(formName);
     if (!form)
         throw AppError(kNoSuchForm, "The form " + formName + " of the file " + path + " cannot be opened.",
                        kReadLabel);
@@ -180,9 +180,9 @@ void showCardPictures(Form& cards) {
 }  // namespace
 
 // An opened file's dates go through the same walk as after a change of year.
-void Form_Recheck_Dates() { Year_Check(); }
+void recheckDates() { recheckYearDates(); }
 
-std::string Read_File() {
+std::string readDataFile() {
     Form* form = nullptr;
     std::vector<std::string> fields;
     // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
@@ -216,7 +216,7 @@ std::string Read_File() {
     if (!form) return "";
     // From the second key field on, a fault reaches the caller's handler.
     for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
-    Form_Recheck_Dates();
+    recheckDates();
     // The recheck's date edits clear the status line as they pass: unless one of them refused its date
     // and said so there, the operator reads the path of the file just opened.
     if (Control* status = form->find("labelMisc"); status && status->caption.empty()) {

@@ -1,5 +1,5 @@
 // Naming a document from its content, and writing it: a new file through the save dialog, an existing
-// one through F7_Save.
+// one through SaveForm.
 #include "documents/saving.h"
 
 #include <algorithm>
@@ -9,13 +9,13 @@
 
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
-#include "documents/f7_save.h"
 #include "documents/file_dialogs.h"
 #include "documents/record.h"
+#include "documents/save_form.h"
 #include "fields/control_setup.h"
 #include "model/program.h"
-#include "shell/paths.h"
 #include "people/name_format.h"
+#include "shell/paths.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/number.h"
@@ -92,7 +92,7 @@ const K1Rule& k1Rule(const std::string& formKey, bool numberMissing) {
 }
 
 // A K-1 needs its number and its name, number first. Returns false, having shown where, when one is blank.
-bool K1_Required_Fields(Form& form, int& FocusIndex) {
+bool k1RequiredFieldsFilled(Form& form, int& FocusIndex) {
     const std::optional<int> number = firstIndex(g().SSNIndex);
     const std::optional<int> name = firstIndex(g().NameAddrIndex);
     for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
@@ -100,7 +100,7 @@ bool K1_Required_Fields(Form& form, int& FocusIndex) {
         const K1Rule& rule = k1Rule(g().FormKey, numberMissing);
         MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
         if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
-        // Save_File's last step focuses FocusIndex: it must land on the same field.
+        // saveDataFile's last step focuses FocusIndex: it must land on the same field.
         FocusIndex = *index;
         form.setFocus(form.at("Text1", *index));
         program().ui.refresh();
@@ -127,7 +127,8 @@ std::string safeFileName(const std::string& name) {
     std::string safe = name;
     for (char& c : safe) {
         const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 || byte == 0x7F || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
+        if (byte < 0x20 || byte == 0x7F || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos)
+            c = '-';
     }
     return safe;
 }
@@ -143,11 +144,11 @@ std::string buildFileName(int& FocusIndex) {
     if (formKey == "SS_ITIN") {
         std::string name = "SS_ITIN_" + fieldText(form, 1);
         if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
-        g().FormRecord = Build_Record();
+        g().FormRecord = buildRecord();
         return safeFileName(name + "_000");
     }
 
-    if (isK1(formKey) && !K1_Required_Fields(form, FocusIndex)) return kK1Error;
+    if (isK1(formKey) && !k1RequiredFieldsFilled(form, FocusIndex)) return kK1Error;
 
     std::string other;
     if (text::isNumeric(g().OtherInfo)) {
@@ -157,7 +158,7 @@ std::string buildFileName(int& FocusIndex) {
 
     FocusIndex = 0;
     validateActiveControl(form);
-    g().FormRecord = Build_Record();
+    g().FormRecord = buildRecord();
 
     std::string name;
     if (formKey == "SSA1099") {
@@ -181,7 +182,7 @@ std::string buildFileName(int& FocusIndex) {
 
     // The first-name-first templates take the whole cleaned line, the others LAST,FIRST.
     const std::vector<std::string> names =
-        text::split(Format_TPName(name), std::string(1, text::kFieldSeparator));
+        text::split(formatTaxpayerName(name), std::string(1, text::kFieldSeparator));
     fileName = replaceNoCase(fileName, "<LAST>_<FIRST>", piece(names, 1));
     fileName = replaceNoCase(fileName, "<FIRST>_<LAST>", piece(names, 0));
 
@@ -189,7 +190,7 @@ std::string buildFileName(int& FocusIndex) {
         fileName = replaceNoCase(fileName, "<OTHER>_", "");
     } else if (formKey == "TPINFO" || formKey == "SS_ITIN" || formKey == "DL") {
         const std::vector<std::string> others =
-            text::split(Format_TPName(other), std::string(1, text::kFieldSeparator));
+            text::split(formatTaxpayerName(other), std::string(1, text::kFieldSeparator));
         fileName = replaceNoCase(fileName, "<OTHER>", piece(others, 1));
     } else {
         fileName = replaceNoCase(fileName, "<OTHER>", other);
@@ -201,19 +202,19 @@ std::string buildFileName(int& FocusIndex) {
     return safeFileName(fileName);
 }
 
-// Shows F7_Save for a path that holds a file; true when Save_File is still to write it.
+// Shows SaveForm for a path that holds a file; true when saveDataFile is still to write it.
 bool askAboutExistingFile(const std::string& path) {
     Desktop& desktop = program().desktop;
-    auto owned = std::make_unique<F7_Save>();
+    auto owned = std::make_unique<SaveForm>();
     owned->F7_Path = path;
     g().SaveResult = kSaveResultDone;
-    F7_Save& form = static_cast<F7_Save&>(desktop.load(std::move(owned)));
+    SaveForm& form = static_cast<SaveForm&>(desktop.load(std::move(owned)));
     if (form.isLoaded()) desktop.showModal(form);
     return g().SaveResult != kSaveResultDone;
 }
 
 void saveFile(int& FocusIndex) {
-    std::string name = Build_FileName(FocusIndex);
+    std::string name = proposeFileName(FocusIndex);
     if (text::equalsNoCase(g().FormRecord, kCardsError) || text::equalsNoCase(name, kK1Error) || name.empty())
         return;
 
@@ -223,7 +224,7 @@ void saveFile(int& FocusIndex) {
     std::string path = g().CurrentFileName;
     if (path.empty()) {
         // A remembered folder that has gone would send the dialog astray.
-        Verify_INF_Entry("SAVE");
+        verifyRememberedFolder("SAVE");
         // The path chosen is not kept: the next Save of a new form asks again.
         path = OpenOrSaveFile(1, name);
         if (path == kCancel) return;
@@ -231,7 +232,7 @@ void saveFile(int& FocusIndex) {
 
     if (fileExists(path) && !askAboutExistingFile(path)) return;
 
-    if (!Record_Write(path, g().FormRecord, kSaveLabel)) return;
+    if (!writeRecord(path, g().FormRecord, kSaveLabel)) return;
 
     if (text::startsWithNoCase(g().FormRecord, "TPINFO") && taxpayerStoreSave()) taxpayerStoreSave()();
 
@@ -245,11 +246,11 @@ void saveFile(int& FocusIndex) {
 
 }  // namespace
 
-std::string Build_FileName(int& FocusIndex) {
+std::string proposeFileName(int& FocusIndex) {
     return runGuardedOr<std::string>(kNameLabel, std::string(), [&] { return buildFileName(FocusIndex); });
 }
 
-void Save_File() {
+void saveDataFile() {
     int FocusIndex = 0;
     runGuarded(kSaveLabel, [&] { saveFile(FocusIndex); });
     // Whatever happened above, the operator goes on in the field the naming chose.
@@ -257,7 +258,7 @@ void Save_File() {
     if (!form) return;
     runGuarded(kSaveLabel, [&] {
         if (Control* field = form->find("Text1", FocusIndex)) {
-            Control_Setup(*field, false);
+            setUpControl(*field, false);
             form->setFocus(*field);
         }
     });

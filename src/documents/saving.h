@@ -6,12 +6,12 @@
 namespace lw {
 
 // The proposed file name, or "Error K1"; fills FormRecord. FocusIndex names the field to return to.
-std::string Build_FileName(int& FocusIndex);
+std::string proposeFileName(int& FocusIndex);
 
 // A file name that stays in its folder on Linux and Windows alike: / \ : * ? " < > | and control
 // characters become "-".
 std::string safeFileName(const std::string& name);
 // The Save command.
-void Save_File();
+void saveDataFile();
 
 }  // namespace lw

@@ -13,8 +13,8 @@ Globals& g() { return program().g; }
 
 struct AlignmentRow {
     std::vector<const char*> tags;
-    int alignment;  // -1: the form's own
-    int maxLength;  // 0: the form's own
+    int alignment;    // -1: the form's own
+    int maxLength;    // 0: the form's own
     const char* tip;  // nullptr: the designer's tip stays
 };
 
@@ -25,13 +25,21 @@ const std::vector<AlignmentRow>& alignmentRows() {
         {{"MONEY", "SMONEY", "-MONEY"}, 1, 0, kMoneyTip},
         {{"AMONEY"}, 1, 0, "U or UNK for UNKNOWN, Dollar sign/comma optional"},
         {{"TIN"}, 2, 0, "SSN/TIN: Enter 3 or more numbers - First Number 9 = ITIN, else Social Security #"},
-        {{"EIN"}, 2, 0,
+        {{"EIN"},
+         2,
+         0,
          "EIN/TIN: Enter 3 or more numbers beginning with 9 (e.g. 914 = 91-4XXXXXX, 91-55 = 91-55XXXXX, "
          "914234567 = 91-4234567)"},
-        {{"DATE"}, 2, 10,
-         "Date: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD - will default to Tax Year"},
-        {{"DATEX"}, 2, 10,
-         "Date in Tax Year: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD will default to TAX "
+        {{"DATE"},
+         2,
+         10,
+         "Date: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD - will default to Tax "
+         "Year"},
+        {{"DATEX"},
+         2,
+         10,
+         "Date in Tax Year: Formats allowed M/D/YYYY, MM/D/YYYY, M/DD/YYYY, MM/DD/YYYY, MM/DD will default "
+         "to TAX "
          "YEAR"},
         {{"YEAR"}, 2, 4, "Year: Enter Year ONLY (YYYY)"},
         {{"TAXYEAR"}, 2, 4, "TaxYear: Enter YYYY - If blank, Defaults to current Tax Year"},
@@ -54,14 +62,15 @@ void setMoneyTip(Control& ctl) {
         return;
     }
     if (ctl.index >= 38 && ctl.index <= 76)
-        ctl.toolTipText = "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+        ctl.toolTipText =
+            "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
 }
 
 }  // namespace
 
 Color legendColor(int index) { return g().LegendColors.at(static_cast<std::size_t>(index)); }
 
-void Control_Setup(Control& ctl, bool bSetUp) {
+void setUpControl(Control& ctl, bool bSetUp) {
     const std::string name = text::toUpper(ctl.name);
     if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
         g().LastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
@@ -70,12 +79,12 @@ void Control_Setup(Control& ctl, bool bSetUp) {
         }
     }
     if (bSetUp)
-        Control_SetupAlignment(ctl);
+        setUpAlignment(ctl);
     else
-        Control_SetupBackColor(ctl);
+        setUpBackColor(ctl);
 }
 
-void Control_SetupAlignment(Control& ctl) {
+void setUpAlignment(Control& ctl) {
     const std::string tag = text::toUpper(ctl.tag);
     const AlignmentRow* match = nullptr;
     for (const AlignmentRow& row : alignmentRows()) {
@@ -103,7 +112,7 @@ void Control_SetupAlignment(Control& ctl) {
     if (text::startsWithNoCase(ctl.tag, "K1")) ctl.alignment = 2;
 }
 
-void Control_SetupBackColor(Control& ctl) {
+void setUpBackColor(Control& ctl) {
     if (ctl.tag.empty()) {
         ctl.backColor = legendColor(9);
         return;
@@ -138,7 +147,7 @@ void Control_SetupBackColor(Control& ctl) {
     ctl.select(0, 99);
 }
 
-void TPInfo_Focus_After() {
+void refocusAfterTaxpayerFill() {
     Globals& globals = g();
     Form* form = globals.CurrentForm;
     if (!form) return;

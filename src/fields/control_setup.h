@@ -6,13 +6,13 @@
 
 namespace lw {
 
-// bSetUp true: the one-time set-up of Form_Init_Reset; false: the field has just taken the focus.
-void Control_Setup(Control& ctl, bool bSetUp);
-void Control_SetupAlignment(Control& ctl);
-void Control_SetupBackColor(Control& ctl);
+// bSetUp true: the one-time set-up of resetFormLook; false: the field has just taken the focus.
+void setUpControl(Control& ctl, bool bSetUp);
+void setUpAlignment(Control& ctl);
+void setUpBackColor(Control& ctl);
 
 // Hands the focus back to the field named by LastFieldKey after the taxpayer fill.
-void TPInfo_Focus_After();
+void refocusAfterTaxpayerFill();
 
 // The colour of a failed field of each type: the legend's colour of that index.
 Color legendColor(int index);

@@ -46,7 +46,7 @@ std::string amountText(const std::string& amount, const char* source) {
 
 }  // namespace
 
-bool EditCtl_Money(Control& ctl) {
+bool editMoney(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_Money";
     return runEdit(ctl, kLabel, {kMoneyColour, false}, [&] {
         const std::string amount = amountText(withoutDollarsAndCommas(ctl.text), kLabel);
@@ -55,7 +55,7 @@ bool EditCtl_Money(Control& ctl) {
 }
 
 // A failure shows the colour of Money, not that of Money (+ or -).
-bool EditCtl_Money_NegativeOK(Control& ctl) {
+bool editMoneyNegativeOk(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_Money_NegativeOK";
     return runEdit(ctl, kLabel, {kMoneyColour, false}, [&] {
         std::string amount = withoutDollarsAndCommas(ctl.text);

@@ -14,7 +14,7 @@ namespace {
 
 // An amount field may also hold that the amount is unknown: U and UNK are spelt out, other text stands.
 bool editUnknownAmount(Control& ctl) {
-    if (text::isNumeric(ctl.text)) return EditCtl_Money(ctl);
+    if (text::isNumeric(ctl.text)) return editMoney(ctl);
     if (ctl.text == "U" || ctl.text == "UNK") ctl.text = "UNKNOWN";
     return true;
 }
@@ -26,22 +26,22 @@ std::string formTaxYear() {
 
 bool editByTag(Control& ctl) {
     const std::string tag = text::toUpper(ctl.tag);
-    if (tag == "%" || tag == "#.#") return EditCtl_NumericDecimalOK(ctl);
-    if (tag == "#") return EditCtl_Numeric(ctl);
-    if (tag == "TIN") return EditCtl_SS_ITIN(ctl);
-    if (tag == "EIN") return EditCtl_EIN(ctl);
-    if (tag == "MONEY" || tag == "SMONEY") return EditCtl_Money(ctl);
+    if (tag == "%" || tag == "#.#") return editNumericDecimalOk(ctl);
+    if (tag == "#") return editNumeric(ctl);
+    if (tag == "TIN") return editSsnOrItin(ctl);
+    if (tag == "EIN") return editEin(ctl);
+    if (tag == "MONEY" || tag == "SMONEY") return editMoney(ctl);
     if (tag == "AMONEY") return editUnknownAmount(ctl);
-    if (tag == "-MONEY") return EditCtl_Money_NegativeOK(ctl);
-    if (tag == "DATE") return EditCtl_Date(ctl, "");
+    if (tag == "-MONEY") return editMoneyNegativeOk(ctl);
+    if (tag == "DATE") return editDate(ctl, "");
     if (tag == "DATEX") {
         if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
-        return EditCtl_Date(ctl, formTaxYear());
+        return editDate(ctl, formTaxYear());
     }
-    if (tag == "YEAR") return EdtiCtl_Year(ctl);
-    if (tag == "VERIFICATION") return EditCtl_VerificationCode(ctl);
-    if (tag == "TPNAME") return EditCtl_NameBlock(ctl);
-    if (tag == "PHONE") return EditCtl_Phone(ctl);
+    if (tag == "YEAR") return editYear(ctl);
+    if (tag == "VERIFICATION") return editVerificationCode(ctl);
+    if (tag == "TPNAME") return editNameBlock(ctl);
+    if (tag == "PHONE") return editPhone(ctl);
     ctl.text = text::toUpper(ctl.text);
     return true;
 }

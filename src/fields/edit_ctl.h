@@ -11,27 +11,27 @@
 
 namespace lw {
 
-// The dispatcher that Text1_Validate calls: Cancel = !EditCtl(ctl). An empty field always stands.
+// The dispatcher that onText1Validate calls: Cancel = !EditCtl(ctl). An empty field always stands.
 bool EditCtl(Control& ctl);
 
 // Amounts: "$1,234.50"; SMONEY has no dollar sign; a negative amount shows in parentheses.
-bool EditCtl_Money(Control& ctl);
-bool EditCtl_Money_NegativeOK(Control& ctl);
+bool editMoney(Control& ctl);
+bool editMoneyNegativeOk(Control& ctl);
 
 // Whole numbers grouped by thousands; numbers whose decimals stay as typed; a year of this century.
-bool EditCtl_Numeric(Control& ctl);
-bool EditCtl_NumericDecimalOK(Control& ctl);
-bool EdtiCtl_Year(Control& ctl);
+bool editNumeric(Control& ctl);
+bool editNumericDecimalOk(Control& ctl);
+bool editYear(Control& ctl);
 
 // Identifiers typed short are filled with X: 914 gives 91-4XXXXXX, 123 gives 123-XX-XXXX.
-bool EditCtl_EIN(Control& ctl);
-bool EditCtl_SS_ITIN(Control& ctl);
+bool editEin(Control& ctl);
+bool editSsnOrItin(Control& ctl);
 // Sixteen characters grouped by four: XXXX-XXXX-XXXX-XXXX.
-bool EditCtl_VerificationCode(Control& ctl);
+bool editVerificationCode(Control& ctl);
 // The name and address block: leading blank lines go, the name line is normalized, all upper case.
-bool EditCtl_NameBlock(Control& ctl);
+bool editNameBlock(Control& ctl);
 // Seven digits get the area code 999; ten digits are shown as (212) 555-1212. Never fails.
-bool EditCtl_Phone(Control& ctl);
+bool editPhone(Control& ctl);
 
 // Looks for the text of Text1(iIndex) of CurrentForm among Text1(0) to Text1(n-1), n being the number of
 // items of the comma list; the items' values are not used. 99 for no duplicate, else the index found; a

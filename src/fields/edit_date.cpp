@@ -38,13 +38,13 @@ std::string formTaxYear() {
 void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
     const std::string old = ctl.text;
     ctl.text = old.substr(0, 6) + year;
-    MA_MBX(kSource, number, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---", "OK",
-           false, "", "", "", 1);
+    MA_MBX(kSource, number, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---",
+           "OK", false, "", "", "", 1);
 }
 
 }  // namespace
 
-bool EditCtl_Date_Format(Control& ctl) {
+bool formatDateText(Control& ctl) {
     if (ctl.text.empty()) return true;
     std::vector<std::string> pieces = text::split(ctl.text, "/");
     if (pieces.size() == 2) pieces.push_back(std::to_string(program().platform.now().year));
@@ -67,12 +67,12 @@ bool EditCtl_Date_Format(Control& ctl) {
     return result;
 }
 
-bool EditCtl_Date(Control& ctl, const std::string& sRequiredYear) {
+bool editDate(Control& ctl, const std::string& sRequiredYear) {
     bool result = true;
     try {
         clearStatusLine();
         const std::string taxYear = formTaxYear();
-        if (!EditCtl_Date_Format(ctl))
+        if (!formatDateText(ctl))
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);
         if (lastFour(ctl.text) == "20XX" && taxYear != "20XX") correctYear(ctl, taxYear, 802, "Date ");
@@ -82,7 +82,7 @@ bool EditCtl_Date(Control& ctl, const std::string& sRequiredYear) {
         throw;
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
-        EditCtl_ShowInvalid(ctl, 6, "");
+        showInvalidField(ctl, 6, "");
         if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }

@@ -8,9 +8,9 @@
 namespace lw {
 
 // Brings the text to MM/DD/YYYY; false when it is no date. The placeholder year 20XX is a year too.
-bool EditCtl_Date_Format(Control& ctl);
+bool formatDateText(Control& ctl);
 // sRequiredYear is empty for any date, or the tax year the date must lie in. The value is corrected,
 // not refused, when its year is wrong; the operator is told.
-bool EditCtl_Date(Control& ctl, const std::string& sRequiredYear);
+bool editDate(Control& ctl, const std::string& sRequiredYear);
 
 }  // namespace lw

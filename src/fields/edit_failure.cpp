@@ -15,7 +15,7 @@ void clearStatusLine() {
     if (Control* status = statusLine()) status->caption.clear();
 }
 
-void EditCtl_ShowInvalid(Control& ctl, int iColour, const std::string& sMessage) {
+void showInvalidField(Control& ctl, int iColour, const std::string& sMessage) {
     if (Control* status = statusLine()) {
         status->caption = sMessage.empty() ? "Value Entered: [" + ctl.text + "] is INVALID" : sMessage;
         status->foreColor = kRed;

@@ -8,7 +8,7 @@
 
 namespace lw {
 
-void EditCtl_ShowInvalid(Control& ctl, int iColour, const std::string& sMessage);
+void showInvalidField(Control& ctl, int iColour, const std::string& sMessage);
 
 // Clears the status line of CurrentForm; a form without one is fine.
 void clearStatusLine();

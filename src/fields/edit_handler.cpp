@@ -17,7 +17,7 @@ bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::fu
         throw;
     } catch (...) {
         const Fault fault = faultOf(std::current_exception());
-        EditCtl_ShowInvalid(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
+        showInvalidField(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
         if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(label, fault);
         if (ctl.form) ctl.form->setFocus(ctl);
         return false;

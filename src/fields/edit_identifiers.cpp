@@ -29,7 +29,7 @@ void requireNumericStart(const std::string& value, const char* source) {
 
 }  // namespace
 
-bool EditCtl_EIN(Control& ctl) {
+bool editEin(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_EIN";
     return runEdit(ctl, kLabel, kIdentifierFailure, [&] {
         std::string ein = text::toUpper(without(ctl.text, "-"));
@@ -42,7 +42,7 @@ bool EditCtl_EIN(Control& ctl) {
     });
 }
 
-bool EditCtl_SS_ITIN(Control& ctl) {
+bool editSsnOrItin(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_SS_ITIN";
     return runEdit(ctl, kLabel, kIdentifierFailure, [&] {
         std::string tin = without(text::toUpper(without(ctl.text, "-")), "X");

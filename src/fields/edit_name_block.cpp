@@ -9,7 +9,7 @@
 
 namespace lw {
 
-bool EditCtl_NameBlock(Control& ctl) {
+bool editNameBlock(Control& ctl) {
     static const std::string kLineBreak = "\r\n";
     std::string block = ctl.text;
     while (block.compare(0, kLineBreak.size(), kLineBreak) == 0) block.erase(0, kLineBreak.size());
@@ -17,7 +17,7 @@ bool EditCtl_NameBlock(Control& ctl) {
     if (block.empty()) return false;
 
     const std::vector<std::string> lines = text::split(block, kLineBreak);
-    const std::string formatted = Format_TPName(lines.front());
+    const std::string formatted = formatTaxpayerName(lines.front());
     std::string result = formatted.substr(0, formatted.find(text::kFieldSeparator));
     for (std::size_t i = 1; i < lines.size(); ++i) result += kLineBreak + lines[i];
     ctl.text = text::toUpper(result);

@@ -18,7 +18,7 @@ constexpr const char* kWholeMask = "###,###,###";
 constexpr const char* kNegativeWholeMask = "(###,###,###)";
 }  // namespace
 
-bool EditCtl_Numeric(Control& ctl) {
+bool editNumeric(Control& ctl) {
     return runEdit(ctl, "M7_Edits:EditCtl_Numeric", {kNumericColour, false}, [&] {
         std::string number = ctl.text;
         if (!number.empty() && number.front() == '(') number.front() = '-';
@@ -31,7 +31,7 @@ bool EditCtl_Numeric(Control& ctl) {
     });
 }
 
-bool EditCtl_NumericDecimalOK(Control& ctl) {
+bool editNumericDecimalOk(Control& ctl) {
     if (ctl.text.empty()) return true;
     return runEdit(ctl, "M7_Edits:EditCtl_NumericDecimalOK", {kNumericColour, false}, [&] {
         std::string number = ctl.text;
@@ -54,7 +54,7 @@ bool EditCtl_NumericDecimalOK(Control& ctl) {
     });
 }
 
-bool EdtiCtl_Year(Control& ctl) {
+bool editYear(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EdtiCtl_Year";
     return runEdit(ctl, kLabel, {kOtherColour, false}, [&] {
         const char* const kInvalid = "Invalid Year - Use yy or yyyy";

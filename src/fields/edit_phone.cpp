@@ -6,7 +6,7 @@
 
 namespace lw {
 
-bool EditCtl_Phone(Control& ctl) {
+bool editPhone(Control& ctl) {
     std::string digits = ctl.text;
     for (const char* mark : {"(", ")", "-", " "}) digits = text::replaceAll(digits, mark, "");
     // A number typed without its area code gets a fixed one.

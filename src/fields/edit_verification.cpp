@@ -9,7 +9,7 @@
 
 namespace lw {
 
-bool EditCtl_VerificationCode(Control& ctl) {
+bool editVerificationCode(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_VerificationCode";
     return runEdit(ctl, kLabel, {9, false}, [&] {
         const std::string& code = ctl.text;

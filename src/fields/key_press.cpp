@@ -25,8 +25,8 @@ bool tagIs(const std::string& tag, std::initializer_list<const char*> names) {
 
 }  // namespace
 
-void Key_Press(Control& ctl, int& KeyAscii) {
-    const int k = KeyAscii;
+void filterFieldKey(Control& ctl, int& keyAscii) {
+    const int k = keyAscii;
     if (k == keys::kBackspace) return;
     const std::string tag = text::toUpper(ctl.tag);
 
@@ -41,7 +41,7 @@ void Key_Press(Control& ctl, int& KeyAscii) {
     } else if (tag == "AMONEY") {
         // The key is held against the number 9, not the digit: digits are refused, control codes 0-9 pass.
         if (isLower(k)) {
-            KeyAscii = k - 32;
+            keyAscii = k - 32;
             return;
         }
         passes = isOneOf(k, "$(),.") || isUpper(k) || (k >= 0 && k <= 9);
@@ -57,12 +57,12 @@ void Key_Press(Control& ctl, int& KeyAscii) {
         passes = isDigit(k) || isOneOf(k, ",.");
     } else {
         if (isLower(k)) {
-            KeyAscii = k - 32;
+            keyAscii = k - 32;
             return;
         }
         passes = k > 31 || k == keys::kTab || k == keys::kEnter;
     }
-    if (!passes) KeyAscii = 0;
+    if (!passes) keyAscii = 0;
 }
 
 void SendTabKey() { program().desktop.sendKey(keys::kTab, 0, 0); }

@@ -8,8 +8,8 @@
 
 namespace lw {
 
-// Lets the key through, changes it, or swallows it (KeyAscii 0) by the field's Tag. Never reports.
-void Key_Press(Control& ctl, int& KeyAscii);
+// Lets the key through, changes it, or swallows it (keyAscii 0) by the field's Tag. Never reports.
+void filterFieldKey(Control& ctl, int& keyAscii);
 
 // Sends a Tab keystroke to the focused field after the running handler, with no waiting.
 void SendTabKey();

@@ -21,10 +21,10 @@ bool isNumberField(const Control& ctl) { return text::equalsNoCase(ctl.tag, "TIN
 
 }  // namespace
 
-F2_SS_ITIN::F2_SS_ITIN() : TaxForm("F2_SS_ITIN") {}
+CardsForm::CardsForm() : TaxForm("F2_SS_ITIN") {}
 
-void F2_SS_ITIN::onLoad() {
-    Form_Common_Init(*this);
+void CardsForm::onLoad() {
+    initCatalogueForm(*this);
     Control& status = at("labelMisc");
     status.foreColor = kRed;
     status.caption =
@@ -32,49 +32,49 @@ void F2_SS_ITIN::onLoad() {
         "form";
 }
 
-void F2_SS_ITIN::refuse(int& KeyAscii, const std::string& message) {
+void CardsForm::refuse(int& keyAscii, const std::string& message) {
     CardMessage = message;
     Control& status = at("labelMisc");
     status.foreColor = kRed;
     status.caption = message;
-    KeyAscii = 0;
+    keyAscii = 0;
 }
 
-void F2_SS_ITIN::showCard(int Index, const char* pictureName) {
+void CardsForm::showCard(int Index, const char* pictureName) {
     at("Image1", Index / 2).picture = fileNamedNoCase(program().g.PicturesFolder, pictureName);
 }
 
-void F2_SS_ITIN::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
+void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
 
-void F2_SS_ITIN::onKeyPress(Control& ctl, int& KeyAscii) {
+void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (KeyAscii == keys::kEnter) SendTabKey();
+    if (keyAscii == keys::kEnter) SendTabKey();
     if (!isNumberField(ctl)) {
-        if (KeyAscii >= 'a' && KeyAscii <= 'z') KeyAscii -= 32;
+        if (keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 32;
         return;
     }
     const int Index = ctl.index;
     const std::size_t length = ctl.text.size();
-    if (KeyAscii == keys::kBackspace) {
+    if (keyAscii == keys::kBackspace) {
         if (length == 1) clearCard(Index);
         setFocus(ctl);
-    } else if (KeyAscii == 'X' || KeyAscii == 'x') {
-        return refuse(KeyAscii, "Appropriate number of 'X's' will appended");
-    } else if (KeyAscii == '-') {
-        if (length != 3 && length != 6) return refuse(KeyAscii, "HYPHEN ONLY allowed in 4th or 7th position");
-    } else if (KeyAscii < '0' || KeyAscii > '9') {
-        return refuse(KeyAscii, "Only 0 through 9 and HYPHEN (-) are allowed");
+    } else if (keyAscii == 'X' || keyAscii == 'x') {
+        return refuse(keyAscii, "Appropriate number of 'X's' will appended");
+    } else if (keyAscii == '-') {
+        if (length != 3 && length != 6) return refuse(keyAscii, "HYPHEN ONLY allowed in 4th or 7th position");
+    } else if (keyAscii < '0' || keyAscii > '9') {
+        return refuse(keyAscii, "Only 0 through 9 and HYPHEN (-) are allowed");
     }
     // The first key of a number decides the card at once.
     if (!ctl.text.empty()) return;
-    if (KeyAscii == '-') return refuse(KeyAscii, "SSN/ITIN can't start with HYPHEN (-)");
-    if (KeyAscii == '0') return refuse(KeyAscii, "SSN/ITIN can't start with ZERO");
-    showCard(Index, KeyAscii == '9' ? "ITIN.JPG" : "SSN.JPG");
+    if (keyAscii == '-') return refuse(keyAscii, "SSN/ITIN can't start with HYPHEN (-)");
+    if (keyAscii == '0') return refuse(keyAscii, "SSN/ITIN can't start with ZERO");
+    showCard(Index, keyAscii == '9' ? "ITIN.JPG" : "SSN.JPG");
     setFocus(ctl);
 }
 
-void F2_SS_ITIN::onValidate(Control& ctl, bool& Cancel) {
+void CardsForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
     const int Index = ctl.index;
@@ -96,7 +96,7 @@ void F2_SS_ITIN::onValidate(Control& ctl, bool& Cancel) {
 }
 
 void registerCardsForm() {
-    registerForm("F2_SS_ITIN", [] { return std::make_unique<F2_SS_ITIN>(); });
+    registerForm("F2_SS_ITIN", [] { return std::make_unique<CardsForm>(); });
 }
 
 }  // namespace lw

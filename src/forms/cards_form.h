@@ -1,4 +1,4 @@
-// F2_SS_ITIN, the identity cards of a case: nine Social Security or ITIN cards. A number field takes
+// CardsForm, the identity cards of a case: nine Social Security or ITIN cards. A number field takes
 // only digits and hyphens in their places and is padded with "X" when left; the first digit decides
 // which card it is. Names are upper-cased as typed and kept as they are.
 #pragma once
@@ -9,19 +9,19 @@
 
 namespace lw {
 
-class F2_SS_ITIN : public TaxForm {
+class CardsForm : public TaxForm {
 public:
-    F2_SS_ITIN();
+    CardsForm();
 
     void onLoad() override;
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     void onValidate(Control& ctl, bool& Cancel) override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;
 
 private:
-    void refuse(int& KeyAscii, const std::string& message);
+    void refuse(int& keyAscii, const std::string& message);
     void showCard(int Index, const char* pictureName);
     void clearCard(int Index);
 };

@@ -10,23 +10,23 @@ constexpr const char* kSampleRouting = "325070760";
 constexpr const char* kSampleAccount = "987123654";
 }  // namespace
 
-F4_CHK::F4_CHK() : TaxForm("F4_CHK") {}
+CheckForm::CheckForm() : TaxForm("F4_CHK") {}
 
-void F4_CHK::onKeyPress(Control& ctl, int& KeyAscii) {
-    if (isFieldArray(ctl)) Key_Press(ctl, KeyAscii);
+void CheckForm::onKeyPress(Control& ctl, int& keyAscii) {
+    if (isFieldArray(ctl)) filterFieldKey(ctl, keyAscii);
 }
 
-void F4_CHK::onLostFocus(Control& ctl) {
+void CheckForm::onLostFocus(Control& ctl) {
     if (isFieldArray(ctl)) ctl.backColor = kWhite;
 }
 
-void F4_CHK::refillAfterClear() {
+void CheckForm::refillAfterClear() {
     at("Text1", 1).text = kSampleRouting;
     at("Text1", 2).text = kSampleAccount;
 }
 
 void registerCheckForm() {
-    registerForm("F4_CHK", [] { return std::make_unique<F4_CHK>(); });
+    registerForm("F4_CHK", [] { return std::make_unique<CheckForm>(); });
 }
 
 }  // namespace lw

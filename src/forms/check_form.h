@@ -1,4 +1,4 @@
-// F4_CHK, a blank check with sample routing and account numbers: nothing on it is edited when left, and
+// CheckForm, a blank check with sample routing and account numbers: nothing on it is edited when left, and
 // Clear brings the two sample numbers back.
 #pragma once
 
@@ -6,12 +6,12 @@
 
 namespace lw {
 
-class F4_CHK : public TaxForm {
+class CheckForm : public TaxForm {
 public:
-    F4_CHK();
+    CheckForm();
 
     // Every key, copy and paste included, goes through the keystroke filter.
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     // No edit on leaving: the check takes whatever the operator wrote.
     void onValidate(Control&, bool&) override {}
     // A left field turns white and keeps its text colour.

@@ -28,50 +28,51 @@ bool isText1(const Control& ctl) { return isFieldArray(ctl) && text::equalsNoCas
 }  // namespace
 
 MonthColumn monthColumnOf(int Index) {
-    for (const MonthColumn& column : {TF_1095A::kColumnA, TF_1095A::kColumnB, TF_1095A::kColumnC})
+    for (const MonthColumn& column : {Form1095A::kColumnA, Form1095A::kColumnB, Form1095A::kColumnC})
         if (Index >= column.first && Index <= column.last) return column;
     return {};
 }
 
-TF_1095A::TF_1095A() : TaxForm("TF_1095A") {}
+Form1095A::Form1095A() : TaxForm("TF_1095A") {}
 
-void TF_1095A::onGotFocus(Control& ctl) {
+void Form1095A::onGotFocus(Control& ctl) {
     TaxForm::onGotFocus(ctl);
     if (isText1(ctl)) iLastIndex = ctl.index;
 }
 
-void TF_1095A::onKeyDown(Control& ctl, int& keyCode, int /*shift*/) {
+void Form1095A::onKeyDown(Control& ctl, int& keyCode, int /*shift*/) {
     if (keyCode != keys::kF12 || !isText1(ctl)) return;
     if (monthColumnOf(ctl.index).total == 0) return;
     // F12 never reaches the key filter: it takes the path of the character with the same code.
     int key = keys::kF12;
-    Text1_KeyPress(iLastIndex, key);
+    onText1KeyPress(iLastIndex, key);
 }
 
-void TF_1095A::onKeyPress(Control& ctl, int& KeyAscii) {
-    if (isText1(ctl)) Text1_KeyPress(ctl.index, KeyAscii);
+void Form1095A::onKeyPress(Control& ctl, int& keyAscii) {
+    if (isText1(ctl)) onText1KeyPress(ctl.index, keyAscii);
 }
 
-void TF_1095A::onValidate(Control& ctl, bool& Cancel) {
-    if (isText1(ctl)) Text1_Validate(ctl.index, Cancel);
+void Form1095A::onValidate(Control& ctl, bool& Cancel) {
+    if (isText1(ctl)) onText1Validate(ctl.index, Cancel);
 }
 
-void TF_1095A::Text1_KeyPress(int Index, int& KeyAscii) {
+void Form1095A::onText1KeyPress(int Index, int& keyAscii) {
     runGuarded("TF_1095A:Text1_KeyPress", [&] {
-        if (KeyAscii == keys::kEnter) {
+        if (keyAscii == keys::kEnter) {
             SendTabKey();
-            KeyAscii = 0;
+            keyAscii = 0;
             return;
         }
         // The test is on the code alone, so a typed "{" copies too, in any field of the form.
-        if (KeyAscii == keys::kF12) copyDown(Index);
-        if (KeyAscii != keys::kCtrlC && KeyAscii != keys::kCtrlV) Key_Press(at("Text1", Index), KeyAscii);
+        if (keyAscii == keys::kF12) copyDown(Index);
+        if (keyAscii != keys::kCtrlC && keyAscii != keys::kCtrlV)
+            filterFieldKey(at("Text1", Index), keyAscii);
     });
 }
 
-void TF_1095A::copyDown(int Index) {
+void Form1095A::copyDown(int Index) {
     bool ignored = false;
-    Text1_Validate(iLastIndex, ignored);
+    onText1Validate(iLastIndex, ignored);
     iLastIndex = Index;
     const std::string amount = at("Text1", Index).text;
     const MonthColumn column = monthColumnOf(Index);
@@ -84,7 +85,7 @@ void TF_1095A::copyDown(int Index) {
     }
 }
 
-void TF_1095A::Text1_Validate(int Index, bool& Cancel) {
+void Form1095A::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_1095A:Text1_Validate", [&] {
         if (!EditCtl(at("Text1", Index))) {
             Cancel = true;
@@ -109,7 +110,7 @@ void TF_1095A::Text1_Validate(int Index, bool& Cancel) {
     });
 }
 
-void TF_1095A::AddEmUp(int First, int Last, int Target) {
+void Form1095A::AddEmUp(int First, int Last, int Target) {
     text::Currency sum;
     for (int i = First; i <= Last; ++i) {
         const std::string& amount = at("Text1", i).text;
@@ -123,15 +124,15 @@ void TF_1095A::AddEmUp(int First, int Last, int Target) {
     at("Text1", Target).text = text::formatCurrency(sum, kTotalMask);
 }
 
-void TF_1095A::showTotalOutOfReach(int Index, int Target) {
+void Form1095A::showTotalOutOfReach(int Index, int Target) {
     Control& field = at("Text1", Index);
     if (Target != Index) at("Text1", Target).text.clear();
-    EditCtl_ShowInvalid(field, kMoneyColour, "");
+    showInvalidField(field, kMoneyColour, "");
     field.foreColor = kRed;
 }
 
 void register1095AForm() {
-    registerForm("TF_1095A", [] { return std::make_unique<TF_1095A>(); });
+    registerForm("TF_1095A", [] { return std::make_unique<Form1095A>(); });
 }
 
 }  // namespace lw

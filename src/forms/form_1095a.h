@@ -1,4 +1,4 @@
-// TF_1095A, the Health Insurance Marketplace Statement: the three money columns of Part III (A premiums,
+// Form1095A, the Health Insurance Marketplace Statement: the three money columns of Part III (A premiums,
 // B second lowest cost silver plan, C advance payments) add their twelve months into a total, F12 copies
 // a month's amount to the months below it, and Enter moves to the next field.
 #pragma once
@@ -14,18 +14,18 @@ struct MonthColumn {
     int total = 0;
 };
 
-class TF_1095A : public TaxForm {
+class Form1095A : public TaxForm {
 public:
-    TF_1095A();
+    Form1095A();
 
     void onGotFocus(Control& ctl) override;
     void onKeyDown(Control& ctl, int& keyCode, int shift) override;
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     void onValidate(Control& ctl, bool& Cancel) override;
 
     // The handlers by field index, as the key and focus events reach them.
-    void Text1_KeyPress(int Index, int& KeyAscii);
-    void Text1_Validate(int Index, bool& Cancel);
+    void onText1KeyPress(int Index, int& keyAscii);
+    void onText1Validate(int Index, bool& Cancel);
     // Text1(Target) becomes the sum of the non-empty Text1(First) to Text1(Last) under "$###,###.00".
     // A text that is no amount is a fault (AppError 13); a sum beyond the currency's reach throws
     // std::overflow_error and leaves Target as it was.

@@ -10,12 +10,12 @@ namespace lw {
 
 EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) {}
 
-void EnterMovesOnForm::onKeyPress(Control& ctl, int& KeyAscii) {
-    if (isFieldArray(ctl) && KeyAscii == keys::kEnter) {
+void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
+    if (isFieldArray(ctl) && keyAscii == keys::kEnter) {
         SendTabKey();
-        KeyAscii = 0;
+        keyAscii = 0;
     }
-    TaxForm::onKeyPress(ctl, KeyAscii);
+    TaxForm::onKeyPress(ctl, keyAscii);
 }
 
 void register1095BCForms() {

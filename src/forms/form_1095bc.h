@@ -12,7 +12,7 @@ class EnterMovesOnForm : public TaxForm {
 public:
     explicit EnterMovesOnForm(const std::string& name);
 
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
 };
 
 // Makes TF_1095B and TF_1095C known by name.

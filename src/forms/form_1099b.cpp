@@ -6,9 +6,9 @@
 
 namespace lw {
 
-TF_1099B::TF_1099B() : TaxForm("TF_1099B") {}
+Form1099B::Form1099B() : TaxForm("TF_1099B") {}
 
-void TF_1099B::onLoad() {
+void Form1099B::onLoad() {
     TaxForm::onLoad();
     // The field set-up has already made these fields unable to take the focus by their Tag.
     for (int i = kFirstOutOfScope; i <= kLastOutOfScope; ++i) {
@@ -20,7 +20,7 @@ void TF_1099B::onLoad() {
 }
 
 void register1099BForm() {
-    registerForm("TF_1099B", [] { return std::make_unique<TF_1099B>(); });
+    registerForm("TF_1099B", [] { return std::make_unique<Form1099B>(); });
 }
 
 }  // namespace lw

@@ -6,9 +6,9 @@
 
 namespace lw {
 
-class TF_1099B : public TaxForm {
+class Form1099B : public TaxForm {
 public:
-    TF_1099B();
+    Form1099B();
 
     void onLoad() override;
 

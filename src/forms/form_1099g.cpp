@@ -7,9 +7,9 @@
 
 namespace lw {
 
-TF_1099G::TF_1099G() : TaxForm("TF_1099G") {}
+Form1099G::Form1099G() : TaxForm("TF_1099G") {}
 
-void TF_1099G::onLostFocus(Control& ctl) {
+void Form1099G::onLostFocus(Control& ctl) {
     if (ctl.index == kTaxYearBox && text::equalsNoCase(ctl.name, "Text1")) {
         // Empty means the current tax year; four characters stand as typed; "24" means 2024.
         const std::size_t length = ctl.text.size();
@@ -22,7 +22,7 @@ void TF_1099G::onLostFocus(Control& ctl) {
 }
 
 void register1099GForm() {
-    registerForm("TF_1099G", [] { return std::make_unique<TF_1099G>(); });
+    registerForm("TF_1099G", [] { return std::make_unique<Form1099G>(); });
 }
 
 }  // namespace lw

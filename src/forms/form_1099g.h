@@ -6,9 +6,9 @@
 
 namespace lw {
 
-class TF_1099G : public TaxForm {
+class Form1099G : public TaxForm {
 public:
-    TF_1099G();
+    Form1099G();
 
     void onLostFocus(Control& ctl) override;
 

@@ -37,9 +37,9 @@ int fieldIndexOf(const std::string& item) {
 
 }  // namespace
 
-TF_RRB1099::TF_RRB1099() : TaxForm("TF_RRB1099") {}
+FormRrb1099::FormRrb1099() : TaxForm("TF_RRB1099") {}
 
-void TF_RRB1099::onLoad() {
+void FormRrb1099::onLoad() {
     TaxForm::onLoad();
     // Filled once: the form computes nothing here, and a later change of year leaves the field alone.
     field(kPremium).text = partBPremiumOfYearInForce();
@@ -49,9 +49,9 @@ void TF_RRB1099::onLoad() {
         "displayed.";
 }
 
-void TF_RRB1099::onGotFocus(Control& ctl) {
+void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
-    Control_Setup(ctl, false);
+    setUpControl(ctl, false);
     if (hasComputedTag(ctl)) {
         if (Control* next = find("Text1", ctl.index + 1))
             setFocus(*next);
@@ -61,25 +61,25 @@ void TF_RRB1099::onGotFocus(Control& ctl) {
     myIndex = ctl.index;
 }
 
-void TF_RRB1099::onLostFocus(Control& ctl) {
+void FormRrb1099::onLostFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     if (!hasComputedTag(ctl)) ctl.backColor = kWhite;
     ctl.foreColor = kBlack;
 }
 
-void TF_RRB1099::onValidate(Control& ctl, bool& Cancel) {
-    if (isText1(ctl)) Text1_Validate(ctl.index, Cancel);
+void FormRrb1099::onValidate(Control& ctl, bool& Cancel) {
+    if (isText1(ctl)) onText1Validate(ctl.index, Cancel);
 }
 
-void TF_RRB1099::Text1_Validate(int Index, bool& Cancel) {
+void FormRrb1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_RRB1099:Text1_Validate", [&] {
         if (!EditCtl(field(Index))) {
             Cancel = true;
             return;
         }
         if (Index >= 4 && Index <= 12) {
-            if (b_RRBError)
-                b_RRBError = false;
+            if (rrbError)
+                rrbError = false;
             else
                 ComputeRRB(Index);
             if (myIndex < 13) {
@@ -99,7 +99,7 @@ void TF_RRB1099::Text1_Validate(int Index, bool& Cancel) {
     });
 }
 
-void TF_RRB1099::totalGrossPaid() {
+void FormRrb1099::totalGrossPaid() {
     grossPaid_ = text::Currency{};
     try {
         for (int i : {18, 19, 20}) grossPaid_ += amountOfText(field(i).text);
@@ -110,7 +110,7 @@ void TF_RRB1099::totalGrossPaid() {
     field(kTotalGrossPaid).text = benefitAmountText(grossPaid_);
 }
 
-void TF_RRB1099::copyIdentity() {
+void FormRrb1099::copyIdentity() {
     const Globals& g = program().g;
     for (const std::string* list : {&g.SSNIndex, &g.NameAddrIndex, &g.MedicareClaimNoIndex, &g.EINIndex}) {
         // A form whose catalogue names no such pair has nothing to copy.
@@ -125,7 +125,7 @@ void TF_RRB1099::copyIdentity() {
     }
 }
 
-void TF_RRB1099::ComputeRRB(int /*Index*/) {
+void FormRrb1099::ComputeRRB(int /*Index*/) {
     runGuarded(kComputeLabel, [&] {
         if (field(kGross).text.empty()) return;
         amount_ = RrbAmounts{};
@@ -150,12 +150,12 @@ void TF_RRB1099::ComputeRRB(int /*Index*/) {
         field(kNet).foreColor = kRed;
         MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "",
                "", 1);
-        b_RRBError = true;
+        rrbError = true;
     });
 }
 
 void registerRRB1099Form() {
-    registerForm("TF_RRB1099", [] { return std::make_unique<TF_RRB1099>(); });
+    registerForm("TF_RRB1099", [] { return std::make_unique<FormRrb1099>(); });
 }
 
 }  // namespace lw

@@ -1,4 +1,4 @@
-// TF_RRB1099, the two railroad retirement statements on one screen: the upper RRB-1099 works its net
+// FormRrb1099, the two railroad retirement statements on one screen: the upper RRB-1099 works its net
 // amount out and reports a shortfall, the lower RRB-1099-R totals its gross payments, and the payer's
 // and recipient's identity typed above is copied below.
 #pragma once
@@ -8,9 +8,9 @@
 
 namespace lw {
 
-class TF_RRB1099 : public TaxForm {
+class FormRrb1099 : public TaxForm {
 public:
-    TF_RRB1099();
+    FormRrb1099();
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;
@@ -30,7 +30,7 @@ public:
 
 private:
     Control& field(int index) const { return at("Text1", index); }
-    void Text1_Validate(int Index, bool& Cancel);
+    void onText1Validate(int Index, bool& Cancel);
     // Sums boxes 4, 5 and 6 of the lower statement into its box 7.
     void totalGrossPaid();
     // The identity fields of the upper statement to their places on the lower one.

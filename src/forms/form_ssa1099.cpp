@@ -31,9 +31,9 @@ bool hasComputedTag(const Control& ctl) { return text::equalsNoCase(ctl.tag, "CO
 
 }  // namespace
 
-TF_SSA1099::TF_SSA1099() : TaxForm("TF_SSA1099") {}
+FormSsa1099::FormSsa1099() : TaxForm("TF_SSA1099") {}
 
-void TF_SSA1099::onLoad() {
+void FormSsa1099::onLoad() {
     TaxForm::onLoad();
     at("Label6").caption =
         "As you move through the fields on the SSA-1099 related to Social Security Payments Received, "
@@ -41,38 +41,38 @@ void TF_SSA1099::onLoad() {
         "displayed.";
 }
 
-void TF_SSA1099::onActivate() { Form_Activate(); }
+void FormSsa1099::onActivate() { onActivateForm(); }
 
-void TF_SSA1099::afterYearChange() { Form_Activate(); }
+void FormSsa1099::afterYearChange() { onActivateForm(); }
 
-void TF_SSA1099::refillAfterClear() { field(kPartBPremium).text = partBPremiumOfYearInForce(); }
+void FormSsa1099::refillAfterClear() { field(kPartBPremium).text = partBPremiumOfYearInForce(); }
 
-void TF_SSA1099::Form_Activate() {
+void FormSsa1099::onActivateForm() {
     runGuarded("TF_SSA1099:Form_Activate", [&] {
         field(kPartBPremium).text = partBPremiumOfYearInForce();
         ComputeSSA(kPartBPremium);
     });
 }
 
-bool TF_SSA1099::isComputed(int index) const {
+bool FormSsa1099::isComputed(int index) const {
     const Control* ctl = find("Text1", index);
     return ctl && hasComputedTag(*ctl);
 }
 
-void TF_SSA1099::ResetBackColor() {
+void FormSsa1099::ResetBackColor() {
     for (const auto& owned : controls()) {
         if (owned->isTextBox() && !hasComputedTag(*owned)) owned->backColor = kWhite;
     }
 }
 
-void TF_SSA1099::onGotFocus(Control& ctl) {
-    if (isText1(ctl)) Text1_GotFocus(ctl.index);
+void FormSsa1099::onGotFocus(Control& ctl) {
+    if (isText1(ctl)) onText1GotFocus(ctl.index);
 }
 
-void TF_SSA1099::Text1_GotFocus(int Index) {
+void FormSsa1099::onText1GotFocus(int Index) {
     ResetBackColor();
     Control& ctl = field(Index);
-    Control_Setup(ctl, false);
+    setUpControl(ctl, false);
     // The address box starts with the name, ready for the address lines.
     if (Index == kAddress && ctl.text.empty()) {
         ctl.text = field(kName).text + "\r\n";
@@ -88,19 +88,19 @@ void TF_SSA1099::Text1_GotFocus(int Index) {
     myIndex = Index;
 }
 
-void TF_SSA1099::onLostFocus(Control& ctl) {
+void FormSsa1099::onLostFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     // After a reported error the field being left stays as it is.
-    if (b_SSAError) return;
+    if (ssaError) return;
     if (!hasComputedTag(ctl)) ctl.backColor = kWhite;
     ctl.foreColor = kBlack;
 }
 
-void TF_SSA1099::onValidate(Control& ctl, bool& Cancel) {
-    if (isText1(ctl)) Text1_Validate(ctl.index, Cancel);
+void FormSsa1099::onValidate(Control& ctl, bool& Cancel) {
+    if (isText1(ctl)) onText1Validate(ctl.index, Cancel);
 }
 
-void TF_SSA1099::Text1_Validate(int Index, bool& Cancel) {
+void FormSsa1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_SSA1099:Text1_Validate", [&] {
         if (!EditCtl(field(Index))) {
             Cancel = true;
@@ -111,14 +111,14 @@ void TF_SSA1099::Text1_Validate(int Index, bool& Cancel) {
         if (!leavingComputes(Index)) return;
         // One pass after a reported error computes nothing, so that the message does not come again
         // on the way to the field to be mended.
-        if (b_SSAError)
-            b_SSAError = false;
+        if (ssaError)
+            ssaError = false;
         else
             ComputeSSA(Index);
     });
 }
 
-void TF_SSA1099::ComputeSSA(int Index) {
+void FormSsa1099::ComputeSSA(int Index) {
     runGuarded(kComputeLabel, [&] {
         if (field(kBox3).text.empty()) return;
         amount_ = SsaAmounts{};
@@ -138,7 +138,7 @@ void TF_SSA1099::ComputeSSA(int Index) {
         const SsaShortfall shortfall = firstSsaShortfall(amount_);
         if (shortfall == SsaShortfall::None) {
             myIndex = isComputed(Index + 1) ? Index + 2 : Index + 1;
-            b_SSAError = false;
+            ssaError = false;
             return;
         }
         int red = kNetBenefits;
@@ -153,12 +153,12 @@ void TF_SSA1099::ComputeSSA(int Index) {
         field(red).foreColor = kRed;
         const std::string reason = ssaShortfallReason(shortfall, at("RTB3").caption);
         MA_MBX(kComputeLabel, number, benefitErrorMessage(reason), "OK", false, "", "", "", 1);
-        b_SSAError = true;
+        ssaError = true;
     });
 }
 
 void registerSSA1099Form() {
-    registerForm("TF_SSA1099", [] { return std::make_unique<TF_SSA1099>(); });
+    registerForm("TF_SSA1099", [] { return std::make_unique<FormSsa1099>(); });
 }
 
 }  // namespace lw

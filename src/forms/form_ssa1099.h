@@ -1,4 +1,4 @@
-// TF_SSA1099, the Social Security Benefit Statement: as the operator moves through it, box 5, the amount
+// FormSsa1099, the Social Security Benefit Statement: as the operator moves through it, box 5, the amount
 // paid by check, the total additions and the benefits of the year are worked out from the amounts typed,
 // and the claim number follows the Social Security number. An amount below zero is reported and keeps
 // the statement from being saved, printed or clipped until it is put right.
@@ -9,9 +9,9 @@
 
 namespace lw {
 
-class TF_SSA1099 : public TaxForm {
+class FormSsa1099 : public TaxForm {
 public:
-    TF_SSA1099();
+    FormSsa1099();
 
     void onLoad() override;
     void onActivate() override;
@@ -22,7 +22,7 @@ public:
     void onValidate(Control& ctl, bool& Cancel) override;
 
     // The Part B premium of the year in force, over whatever the field held, then a computation.
-    void Form_Activate();
+    void onActivateForm();
     // Works the dependent boxes out from the amounts on the form; Index is the field being left.
     void ComputeSSA(int Index);
     // Every typed field back to white; the computed ones keep their own colour.
@@ -38,14 +38,14 @@ public:
     static constexpr int kBenefitsForYear = 8;
     static constexpr int kSocialSecurityNumber = 1;
     static constexpr int kName = 0;
-    static constexpr int kAddress = 14;  // box 7
+    static constexpr int kAddress = 14;      // box 7
     static constexpr int kClaimNumber = 15;  // box 8
 
 private:
     Control& field(int index) const { return at("Text1", index); }
     bool isComputed(int index) const;
-    void Text1_GotFocus(int Index);
-    void Text1_Validate(int Index, bool& Cancel);
+    void onText1GotFocus(int Index);
+    void onText1Validate(int Index, bool& Cancel);
 
     SsaAmounts amount_{};
 };

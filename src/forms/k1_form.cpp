@@ -27,7 +27,7 @@ K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {
 void K1Form::onLoad() {
     SetTabOrder();
     TaxForm::onLoad();
-    K1_SaveInfo(*this);
+    keepK1DesignValues(*this);
     const std::string prefix = std::string("K1HELP") + text::kFieldSeparator + design_.key;
     setUpCodeColumn("Text2", design_.text2Rows, prefix);
     setUpCodeColumn("Text4", design_.text4Rows, prefix);
@@ -76,7 +76,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
         setTab(tabs, 1);
     else if (tabOf(tabs) == 1 && field.index <= limit)
         setTab(tabs, 0);
-    Control_Setup(field, false);
+    setUpControl(field, false);
     if ((isArray(field, '2') || isArray(field, '4')) && text::equalsNoCase(field.tag.substr(0, 6), "K1Help"))
         status.caption = kCodedHint;
 }
@@ -108,16 +108,16 @@ void K1Form::onKeyDown(Control& ctl, int& KeyCode, int) {
     focusRoutine(ctl, limitOf(ctl));
     const K1HelpKeys rule = left ? design_.text2Keys : design_.text4Keys;
     if (k1KeyOpensList(rule, KeyCode) && text::equalsNoCase(ctl.tag.substr(0, 6), "K1HELP"))
-        K1_Help_KeyDown(*this, ctl);
+        openK1CodeList(*this, ctl);
 }
 
-void K1Form::onKeyPress(Control& ctl, int& KeyAscii) {
+void K1Form::onKeyPress(Control& ctl, int& keyAscii) {
     if (isCheckBoxField(ctl)) {
         ctl.text = ctl.text.empty() ? "X" : "";
         // Text set by the program leaves the caret at the start, as the platform's box does.
         ctl.select(0, 0);
     }
-    TaxForm::onKeyPress(ctl, KeyAscii);
+    TaxForm::onKeyPress(ctl, keyAscii);
 }
 
 void K1Form::onClick(Control& ctl, MouseButton button) {

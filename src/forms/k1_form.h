@@ -16,7 +16,7 @@ public:
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
     void onKeyDown(Control& ctl, int& KeyCode, int Shift) override;
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     void onClick(Control& ctl, MouseButton button) override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.

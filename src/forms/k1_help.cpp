@@ -24,7 +24,7 @@ std::vector<std::string> keep(const Form& form, const char* name, bool tags) {
 
 }  // namespace
 
-void K1_SaveInfo(Form& form) {
+void keepK1DesignValues(Form& form) {
     Globals& g = program().g;
     g.K1Text2 = keep(form, "Text2", false);
     g.K1Tag3 = keep(form, "Text3", true);
@@ -32,7 +32,7 @@ void K1_SaveInfo(Form& form) {
     g.K1Tag5 = keep(form, "Text5", true);
 }
 
-void K1_Help_KeyDown(Form& form, Control& field) {
+void openK1CodeList(Form& form, Control& field) {
     runGuarded("M3_Ledgerwick:K1_Help_KeyDown", [&] {
         const std::string name = text::toUpper(field.name);
         const int index = field.index;
@@ -46,7 +46,7 @@ void K1_Help_KeyDown(Form& form, Control& field) {
         members.F97_K1OverRide.clear();
         members.K1Cancel = false;
         Desktop& desktop = program().desktop;
-        Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         if (list.isLoaded()) desktop.showModal(list);
 
         if (!members.F97_K1Box.empty()) {

@@ -9,10 +9,10 @@ namespace lw {
 // Called from a K-1 code field (Text2 or Text4) whose Tag reads "K1HELP·<section>": shows the section's
 // list and, on a choice, writes the code into the field and moves on to the row's amount (Text3 or Text5
 // of the same Index). Cancel leaves the field, the amount and its Tag as they were.
-void K1_Help_KeyDown(Form& form, Control& field);
+void openK1CodeList(Form& form, Control& field);
 
 // Keeps the design Text of Text2 and Text4 and the design Tag of Text3 and Text5 of a K-1 form as it
 // loads; Clear restores them and a new choice of code takes back an earlier override from them.
-void K1_SaveInfo(Form& form);
+void keepK1DesignValues(Form& form);
 
 }  // namespace lw

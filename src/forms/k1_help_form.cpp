@@ -46,7 +46,7 @@ K1HelpMembers& k1HelpMembers() {
     return members;
 }
 
-std::string K1Help_GridRow(const std::string& line) {
+std::string k1HelpGridRow(const std::string& line) {
     const std::vector<std::string> parts = text::split(line, "|");
     const std::string& purposePart = parts.at(1);
     const std::string& rest = parts.at(2);
@@ -66,11 +66,11 @@ std::string K1Help_GridRow(const std::string& line) {
     return row;
 }
 
-std::string K1Help_Caption(const std::string& key) {
+std::string k1HelpCaption(const std::string& key) {
     return "Valid Entries for " + text::replaceAll(replaceNoCase(key, "Box", "Box "), "-", " ");
 }
 
-F6_K1Help::F6_K1Help()
+K1HelpForm::K1HelpForm()
     : Form("F6_K1Help"),
       Label0(add(ControlKind::Label, "Label0")),
       Label1(add(ControlKind::Label, "Label1")),
@@ -91,13 +91,13 @@ F6_K1Help::F6_K1Help()
     layOut();
 }
 
-void F6_K1Help::onLoad() {
+void K1HelpForm::onLoad() {
     K1HelpMembers& members = k1HelpMembers();
     Grid1.colWidths = {660, 9500, 5000, 600};
     Grid1.colAlignments = {kGridAlignRightCenter, kGridAlignLeftCenter, kGridAlignLeftCenter,
                            kGridAlignCenterCenter};
     Grid1.items = {"Box #\tPurpose\tAdditional Information\tO/R"};
-    caption = K1Help_Caption(members.F97_K1Key);
+    caption = k1HelpCaption(members.F97_K1Key);
     Label0.caption =
         std::string(kIrsSentence) + "\r\n" + instructionsFor(members.F97_K1Key) + "\r\n" + kColumnSentence;
     Label1.caption =
@@ -114,14 +114,14 @@ void F6_K1Help::onLoad() {
     layOut();
 }
 
-void F6_K1Help::readSection() {
+void K1HelpForm::readSection() {
     const std::vector<std::string> lines =
         store::ReadINFSection(k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile, kK1HelpSectionBuffer);
-    for (const std::string& line : lines) Grid1.items.push_back(K1Help_GridRow(line));
+    for (const std::string& line : lines) Grid1.items.push_back(k1HelpGridRow(line));
 }
 
 // The grid shows every row: the list grows downwards with its section.
-void F6_K1Help::layOut() {
+void K1HelpForm::layOut() {
     const int rows = std::max<int>(static_cast<int>(Grid1.items.size()), 2);
     placed(Label0, kMargin, kMargin, 7800, 720);
     placed(Label1, kMargin + 8100, kMargin, kGridWidth - 8100, 900);
@@ -134,12 +134,12 @@ void F6_K1Help::layOut() {
     height = cmdCancel.top + cmdCancel.height + kMargin;
 }
 
-void F6_K1Help::onClick(Control& control, MouseButton) {
-    if (&control == &cmdCancel) cmdCancel_Click();
-    if (&control == &Grid1) Grid1_Click();
+void K1HelpForm::onClick(Control& control, MouseButton) {
+    if (&control == &cmdCancel) onCancel();
+    if (&control == &Grid1) onGridClick();
 }
 
-void F6_K1Help::Grid1_Click() {
+void K1HelpForm::onGridClick() {
     const int row = Grid1.listIndex;
     if (row < 1 || row >= static_cast<int>(Grid1.items.size())) return;
     std::vector<std::string> cells = text::split(Grid1.items[static_cast<std::size_t>(row)], "\t");
@@ -150,7 +150,7 @@ void F6_K1Help::Grid1_Click() {
     unload();
 }
 
-void F6_K1Help::cmdCancel_Click() {
+void K1HelpForm::onCancel() {
     k1HelpMembers().K1Cancel = true;
     unload();
 }

@@ -1,5 +1,5 @@
 #pragma once
-// F6_K1Help, the modal list of the K-1 codes valid for one box, read from a section of K1Help.inf.
+// K1HelpForm, the modal list of the K-1 codes valid for one box, read from a section of K1Help.inf.
 
 #include <string>
 
@@ -24,18 +24,18 @@ constexpr std::size_t kK1HelpSectionBuffer = 2048;
 // One line of a section as a row of the list: code, purpose, additional information with the third part
 // appended, and the O/R mark, joined by tabs and always four columns. A line of fewer than three parts
 // raises the run-time fault of an index out of range.
-std::string K1Help_GridRow(const std::string& line);
+std::string k1HelpGridRow(const std::string& line);
 
 // "Valid Entries for K1 1065 Box 11" for "K1-1065-Box11".
-std::string K1Help_Caption(const std::string& key);
+std::string k1HelpCaption(const std::string& key);
 
-class F6_K1Help : public Form {
+class K1HelpForm : public Form {
 public:
     static constexpr int kGridWidth = 660 + 9500 + 5000 + 600;
     static constexpr int kMargin = 120;
     static constexpr int kRowHeight = 240;
 
-    F6_K1Help();
+    K1HelpForm();
 
     Control& Label0;  // where to read more
     Control& Label1;  // what the O/R column does
@@ -47,8 +47,8 @@ public:
     void onLoad() override;
     void onClick(Control& control, MouseButton button) override;
 
-    void cmdCancel_Click();
-    void Grid1_Click();
+    void onCancel();
+    void onGridClick();
 
 private:
     void readSection();

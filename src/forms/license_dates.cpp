@@ -42,7 +42,7 @@ text::CalendarDay dateOrFault(const std::string& mmddyyyy) {
 
 }  // namespace
 
-void DL_BuildHolidays() {
+void buildLicenseHolidays() {
     const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
     addMovingHoliday(year, "01", "Mon", 14);
     addMovingHoliday(year, "09", "Mon", 0);
@@ -50,26 +50,26 @@ void DL_BuildHolidays() {
     g().DL_Holidays = text::split(g().DL_HolidayList, ",");
 }
 
-bool DL_IsHoliday(const std::string& sMonthDay) {
+bool isLicenseHoliday(const std::string& sMonthDay) {
     for (const std::string& holiday : g().DL_Holidays)
         if (holiday == sMonthDay) return true;
     return false;
 }
 
-bool DL_IsWeekend(const text::CalendarDay& dDate) {
+bool isWeekend(const text::CalendarDay& dDate) {
     const std::string name = text::weekdayName(dDate);
     return name == "Sat" || name == "Sun";
 }
 
-text::CalendarDay DL_ShiftDay(const text::CalendarDay& dDate) {
+text::CalendarDay shiftOffMidweek(const text::CalendarDay& dDate) {
     const std::string name = text::weekdayName(dDate);
     if (name == "Mon" || name == "Fri") return dDate;
     if (name == "Sat") return text::plusDays(dDate, -1);
     return text::plusDays(dDate, 1);
 }
 
-void DL_FillDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
-                  Control& ctlExpire) {
+void fillLicenseDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
+                      Control& ctlExpire) {
     if (sBirthDate.empty()) {
         ctlIssue.text.clear();
         ctlExpire.text.clear();
@@ -83,12 +83,12 @@ void DL_FillDates(const std::string& sLicense, const std::string& sBirthDate, Co
     text::CalendarDay d = text::plusDays(birthday, sLicense == "1" ? -12 : -17);
     std::string sMonthDay = monthDayOf(d);
     for (;;) {
-        if (DL_IsHoliday(sMonthDay)) {
-            d = DL_ShiftDay(d);
+        if (isLicenseHoliday(sMonthDay)) {
+            d = shiftOffMidweek(d);
             sMonthDay = monthDayOf(d);
         }
-        if (!DL_IsWeekend(dateOrFault(sMonthDay + "/" + std::to_string(d.year)))) break;
-        d = DL_ShiftDay(d);
+        if (!isWeekend(dateOrFault(sMonthDay + "/" + std::to_string(d.year)))) break;
+        d = shiftOffMidweek(d);
         sMonthDay = monthDayOf(d);
     }
     ctlIssue.text = text::dateText(d);

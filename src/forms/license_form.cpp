@@ -11,24 +11,24 @@
 
 namespace lw {
 
-F3_DL::F3_DL() : TaxForm("F3_DL") {}
+LicenseForm::LicenseForm() : TaxForm("F3_DL") {}
 
-void F3_DL::onLoad() {
+void LicenseForm::onLoad() {
     TaxForm::onLoad();
     for (Control* portrait : arrayOf("picDL"))
         portrait->picture = portraitFile(program().g.PicturesFolder, portrait->index + 1);
     program().g.DL_HolidayList = kFixedHolidays;
-    DL_BuildHolidays();
+    buildLicenseHolidays();
 }
 
-void F3_DL::onClick(Control& ctl, MouseButton button) {
+void LicenseForm::onClick(Control& ctl, MouseButton button) {
     if (!text::equalsNoCase(ctl.name, "picDL") || ctl.index < 0) return TaxForm::onClick(ctl, button);
     const bool first = button == MouseButton::Left;
     at(first ? "Picture2" : "Picture4").picture = ctl.picture;
     chosenPicture(first ? 1 : 2) = ctl.index + 1;
 }
 
-void F3_DL::onValidate(Control& ctl, bool& Cancel) {
+void LicenseForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
     if (!EditCtl(ctl)) {
         ctl.select(0, 99);
@@ -41,7 +41,7 @@ void F3_DL::onValidate(Control& ctl, bool& Cancel) {
     runGuarded("F3_DL:Text1_Validate", [&] { fillAfterLeaving(ctl, Cancel); });
 }
 
-void F3_DL::fillAfterLeaving(Control& ctl, bool& Cancel) {
+void LicenseForm::fillAfterLeaving(Control& ctl, bool& Cancel) {
     if (ctl.name != "Text1") return;
     auto field = [&](int index) -> Control& { return at("Text1", index); };
     switch (ctl.index) {
@@ -53,26 +53,26 @@ void F3_DL::fillAfterLeaving(Control& ctl, bool& Cancel) {
                 field(2).text = program().platform.now().toStampText();
             break;
         case 1:
-            DL_FillDates("1", ctl.text, field(8), field(3));
+            fillLicenseDates("1", ctl.text, field(8), field(3));
             break;
         case 4:
             if (!ctl.text.empty()) field(6).text = program().platform.now().toStampText();
             break;
         case 5:
-            DL_FillDates("2", ctl.text, field(9), field(7));
+            fillLicenseDates("2", ctl.text, field(9), field(7));
             break;
         default:
             break;
     }
 }
 
-void F3_DL::refillAfterClear() {
-    p_iDL1PicIndex = 0;
-    p_iDL2PicIndex = 0;
+void LicenseForm::refillAfterClear() {
+    license1PictureIndex = 0;
+    license2PictureIndex = 0;
 }
 
 void registerLicenseForm() {
-    registerForm("F3_DL", [] { return std::make_unique<F3_DL>(); });
+    registerForm("F3_DL", [] { return std::make_unique<LicenseForm>(); });
 }
 
 }  // namespace lw

@@ -1,4 +1,4 @@
-// F3_DL, two training driver's licenses: a name gives a license its number, a birth date its issue and
+// LicenseForm, two training driver's licenses: a name gives a license its number, a birth date its issue and
 // expiration dates, and a click on one of the sixteen portraits puts it on the first license (left
 // button) or the second (any other button).
 #pragma once
@@ -8,9 +8,9 @@
 
 namespace lw {
 
-class F3_DL : public TaxForm, public ChosenPictures {
+class LicenseForm : public TaxForm, public ChosenPictures {
 public:
-    F3_DL();
+    LicenseForm();
 
     void onLoad() override;
     void onValidate(Control& ctl, bool& Cancel) override;
@@ -18,11 +18,13 @@ public:
     // Clear takes the portraits away, so their numbers go too.
     void refillAfterClear() override;
 
-    int& chosenPicture(int which) override { return which == 1 ? p_iDL1PicIndex : p_iDL2PicIndex; }
+    int& chosenPicture(int which) override {
+        return which == 1 ? license1PictureIndex : license2PictureIndex;
+    }
 
     // The portrait of each license, 1 to 16, or 0 for none.
-    int p_iDL1PicIndex = 0;
-    int p_iDL2PicIndex = 0;
+    int license1PictureIndex = 0;
+    int license2PictureIndex = 0;
 
 private:
     void fillAfterLeaving(Control& ctl, bool& Cancel);

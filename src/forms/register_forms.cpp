@@ -5,12 +5,8 @@
 #include "config/configure_form.h"
 #include "config/rates.h"
 #include "documents/record.h"
-#include "documents/f7_save.h"
+#include "documents/save_form.h"
 #include "documents/saving.h"
-#include "model/program.h"
-#include "output/form_print.h"
-#include "output/screen_clip.h"
-#include "shell/frame_command_hooks.h"
 #include "forms/cards_form.h"
 #include "forms/check_form.h"
 #include "forms/form_1095a.h"
@@ -24,7 +20,11 @@
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
 #include "forms/w2_form.h"
+#include "model/program.h"
+#include "output/form_print.h"
+#include "output/screen_clip.h"
 #include "shell/form_registry.h"
+#include "shell/frame_command_hooks.h"
 #include "taxpayer/load_tp.h"
 #include "taxpayer/tpinfo_sheet.h"
 
@@ -36,20 +36,21 @@ namespace {
 void wireConfigureCommands() {
     FrameCommandHooks& hooks = frameCommandHooks();
     hooks.markRatesKept = [] {
-        if (auto* form = dynamic_cast<F1_Configure*>(program().desktop.findForm("F1_Configure"))) form->bChanged = false;
+        if (auto* form = dynamic_cast<ConfigureForm*>(program().desktop.findForm("F1_Configure")))
+            form->bChanged = false;
     };
     hooks.saveRates = [] {
-        SS_MC_Save();
+        storeRates();
         frameCommandHooks().markRatesKept();
     };
-    hooks.checkRateChanges = [] { SS_MC_Check_Changes(); };
+    hooks.checkRateChanges = [] { offerToSaveChangedRates(); };
 }
 
 void wireOutputCommands() {
     FrameCommandHooks& hooks = frameCommandHooks();
-    hooks.screenClip = [] { Screen_Clip(); };
-    hooks.printForm = [](Form& form) { Form_Print(form); };
-    hooks.mdiClip = [] { MDI_Clip(); };
+    hooks.screenClip = [] { clipScreen(); };
+    hooks.printForm = [](Form& form) { askAndPrint(form); };
+    hooks.mdiClip = [] { clipCurrentForm(); };
 }
 
 }  // namespace
@@ -58,8 +59,8 @@ void registerAllForms() {
     registerConfigureForm();
     wireConfigureCommands();
     wireOutputCommands();
-    frameCommandHooks().openFile = [] { Open_File(); };
-    frameCommandHooks().saveFile = [] { Save_File(); };
+    frameCommandHooks().openFile = [] { openDataFile(); };
+    frameCommandHooks().saveFile = [] { saveDataFile(); };
     // Forms with handlers of their own.
     registerW2Form();
     register1099BForm();
@@ -74,8 +75,8 @@ void registerAllForms() {
     register1095BCForms();
     registerK1Forms();
     // The people of the case: the sheet fills the store, the Load TP buttons read it.
-    frameCommandHooks().loadTaxpayer = [](const std::string& Who) { TPInfo_Read(Who); };
-    taxpayerStoreSave() = [] { TPInfo_Save(); };
+    frameCommandHooks().loadTaxpayer = [](const std::string& Who) { readTaxpayers(Who); };
+    taxpayerStoreSave() = [] { saveTaxpayerSheet(); };
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

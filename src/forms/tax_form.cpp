@@ -20,7 +20,7 @@ bool isFieldArray(const Control& ctl) {
 namespace {
 // These forms keep their border as drawn; every other form fits it to its drawing when it loads.
 bool keepsDrawnBorder(const std::string& name) {
-    static const char* const forms[] = {"TF_1095A", "TF_1095B", "TF_1095C", "TF_SSA1099",
+    static const char* const forms[] = {"TF_1095A",   "TF_1095B",  "TF_1095C",  "TF_SSA1099",
                                         "TF_RRB1099", "TF_K11041", "TF_K11065", "TF_K11120S"};
     for (const char* form : forms)
         if (text::equalsNoCase(name, form)) return true;
@@ -31,18 +31,19 @@ bool keepsDrawnBorder(const std::string& name) {
 TaxForm::TaxForm(const std::string& name) : CatalogueForm(name), sizesBorder_(!keepsDrawnBorder(name)) {}
 
 void TaxForm::onLoad() {
-    Form_Common_Init(*this);
+    initCatalogueForm(*this);
     if (!sizesBorder_) return;
-    if (Control* border = find("myBorder")) Form_Size_Border(*border);
+    if (Control* border = find("myBorder")) sizeBorderToControls(*border);
 }
 
 void TaxForm::onGotFocus(Control& ctl) {
-    if (isFieldArray(ctl)) Control_Setup(ctl, false);
+    if (isFieldArray(ctl)) setUpControl(ctl, false);
 }
 
-void TaxForm::onKeyPress(Control& ctl, int& KeyAscii) {
+void TaxForm::onKeyPress(Control& ctl, int& keyAscii) {
     // Copy and paste pass unfiltered, so pasted text reaches the field as it is.
-    if (isFieldArray(ctl) && KeyAscii != keys::kCtrlC && KeyAscii != keys::kCtrlV) Key_Press(ctl, KeyAscii);
+    if (isFieldArray(ctl) && keyAscii != keys::kCtrlC && keyAscii != keys::kCtrlV)
+        filterFieldKey(ctl, keyAscii);
 }
 
 void TaxForm::onValidate(Control& ctl, bool& Cancel) {
@@ -56,24 +57,24 @@ void TaxForm::onLostFocus(Control& ctl) {
 }
 
 void TaxForm::onClick(Control& ctl, MouseButton) {
-    if (ctl.index != kNoIndex && text::equalsNoCase(ctl.name, "Check")) Check_Click(ctl.index);
+    if (ctl.index != kNoIndex && text::equalsNoCase(ctl.name, "Check")) onCheckClick(ctl.index);
 }
 
-void TaxForm::Check_Click(int Index) {
+void TaxForm::onCheckClick(int Index) {
     Control& clicked = at("Check", Index);
     const CheckRules& rules = checkRulesOf(name());
     for (const auto& [a, b] : rules.pairs) {
-        if (Index == a) return Check_TogglePair(clicked, at("Check", b));
-        if (Index == b) return Check_TogglePair(clicked, at("Check", a));
+        if (Index == a) return toggleCheckPair(clicked, at("Check", b));
+        if (Index == b) return toggleCheckPair(clicked, at("Check", a));
     }
     const auto& group = rules.exclusiveGroup;
     if (std::find(group.begin(), group.end(), Index) != group.end()) {
         const bool wasMarked = !clicked.caption.empty();
         for (int member : group) at("Check", member).caption.clear();
-        if (!wasMarked) Check_Toggle(clicked);
+        if (!wasMarked) toggleCheck(clicked);
         return;
     }
-    Check_Toggle(clicked);
+    toggleCheck(clicked);
 }
 
 }  // namespace lw

@@ -14,13 +14,13 @@ public:
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     void onValidate(Control& ctl, bool& Cancel) override;
     void onLostFocus(Control& ctl) override;
     void onClick(Control& ctl, MouseButton button) override;
 
     // The Check labels of this form answer clicks by the form's own rule.
-    void Check_Click(int Index);
+    void onCheckClick(int Index);
 
 protected:
     // Most forms size their border to their drawing when they load; a few keep it as drawn.

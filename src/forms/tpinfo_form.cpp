@@ -32,7 +32,7 @@ constexpr const char* kInstructions[] = {
 };
 
 // An item of a comma list, compared exactly.
-bool List_Contains(const std::string& list, const std::string& item) {
+bool listContains(const std::string& list, const std::string& item) {
     for (const std::string& entry : text::split(list, ","))
         if (entry == item) return true;
     return false;
@@ -42,9 +42,9 @@ bool isTextOne(const Control& ctl) { return ctl.isTextBox() && ctl.name == "Text
 
 }  // namespace
 
-F5_TPInfo::F5_TPInfo() : TaxForm("F5_TPInfo") {}
+TaxpayerSheetForm::TaxpayerSheetForm() : TaxForm("F5_TPInfo") {}
 
-void F5_TPInfo::onLoad() {
+void TaxpayerSheetForm::onLoad() {
     TaxForm::onLoad();
     showAgeYear();
     std::string instructions;
@@ -55,7 +55,7 @@ void F5_TPInfo::onLoad() {
     at("lblInstr").caption = instructions;
 }
 
-void F5_TPInfo::showAgeYear() {
+void TaxpayerSheetForm::showAgeYear() {
     const std::string& year = program().g.TaxYears[static_cast<std::size_t>(program().g.TaxYearIndex)];
     Control& yearDigits = at("TaxYear", 1);
     yearDigits.caption = year.size() >= 2 ? year.substr(year.size() - 2) : year;
@@ -65,13 +65,13 @@ void F5_TPInfo::showAgeYear() {
     at("LabelOthers", 3).caption = caption;
 }
 
-void F5_TPInfo::onKeyPress(Control& ctl, int& KeyAscii) {
+void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
-    if (KeyAscii == keys::kCtrlC || KeyAscii == keys::kCtrlV || KeyAscii == keys::kCtrlX) return;
-    Key_Press(ctl, KeyAscii);
+    if (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV || keyAscii == keys::kCtrlX) return;
+    filterFieldKey(ctl, keyAscii);
 }
 
-void F5_TPInfo::onValidate(Control& ctl, bool& Cancel) {
+void TaxpayerSheetForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
     if (!EditCtl(ctl)) {
@@ -81,22 +81,22 @@ void F5_TPInfo::onValidate(Control& ctl, bool& Cancel) {
     if (!isTextOne(ctl)) return;
     const std::string index = std::to_string(ctl.index);
     // A repeated number is pointed out; the field may still be left.
-    if (List_Contains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
-    if (!List_Contains(kDateFields, index)) return;
+    if (listContains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
+    if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
         for (const auto& row : program().g.PersonTable)
             if (row[1] == index) UpdateAge(*this, row[1], row[2]);
     });
 }
 
-void F5_TPInfo::afterYearChange() {
+void TaxpayerSheetForm::afterYearChange() {
     if (!isLoaded()) return;
     UpdateAllAges(*this);
     showAgeYear();
 }
 
 void registerTPInfoForm() {
-    registerForm("F5_TPInfo", [] { return std::make_unique<F5_TPInfo>(); });
+    registerForm("F5_TPInfo", [] { return std::make_unique<TaxpayerSheetForm>(); });
 }
 
 }  // namespace lw

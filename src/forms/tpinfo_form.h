@@ -1,18 +1,18 @@
-// F5_TPInfo, the taxpayer sheet: the people of a case, their numbers, birth dates and ages at the end of
-// the tax year. Saving it also fills the store that the Load TP buttons of every other form read.
+// TaxpayerSheetForm, the taxpayer sheet: the people of a case, their numbers, birth dates and ages at the end
+// of the tax year. Saving it also fills the store that the Load TP buttons of every other form read.
 #pragma once
 
 #include "forms/tax_form.h"
 
 namespace lw {
 
-class F5_TPInfo : public TaxForm {
+class TaxpayerSheetForm : public TaxForm {
 public:
-    F5_TPInfo();
+    TaxpayerSheetForm();
 
     void onLoad() override;
     // Copy, paste and cut pass unfiltered; every other key goes through the keystroke filter.
-    void onKeyPress(Control& ctl, int& KeyAscii) override;
+    void onKeyPress(Control& ctl, int& keyAscii) override;
     // The field's edit; then a number is compared with the others, and a birth date gives its age.
     void onValidate(Control& ctl, bool& Cancel) override;
     // Every age is counted again at the end of the new year, and the captions say which year.

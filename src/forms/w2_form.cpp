@@ -66,37 +66,37 @@ std::string shown(text::Currency amount) {
 
 }  // namespace
 
-TF_W2::TF_W2() : TaxForm("TF_W2") {}
+FormW2::FormW2() : TaxForm("TF_W2") {}
 
-void TF_W2::onLoad() {
+void FormW2::onLoad() {
     TaxForm::onLoad();
     // The form is activated as soon as it is loaded, before its placing writes the year into it; the
     // year's digits are given here already, so that box 9 is decided by the year in force.
     at("TaxYear", 1).caption = taxYearDigits();
 }
 
-void TF_W2::onValidate(Control& ctl, bool& Cancel) {
+void FormW2::onValidate(Control& ctl, bool& Cancel) {
     if (!text::equalsNoCase(ctl.name, "Text1") || ctl.index == kNoIndex) return;
     TaxForm::onValidate(ctl, Cancel);
     if (Cancel || ctl.text.empty()) return;
     if (ctl.index != kSocialSecurityWages && ctl.index != kMedicareWages) return;
     // A year without its figures computes nothing: the operator reads why, and the box stands.
-    if (!SS_MC_Rates_In_Force()) return;
+    if (!ratesInForce()) return;
     try {
         if (ctl.index == kSocialSecurityWages)
-            SocialSecurity_Compute();
+            computeSocialSecurityTax();
         else
-            Medicare_Compute();
+            computeMedicareTax();
     } catch (const std::overflow_error&) {
         // An amount beyond what the program can count is the box's own fault: it keeps the focus, and
         // the tax box no longer claims a value.
         at("Text1", ctl.index == kSocialSecurityWages ? kSocialSecurityTax : kMedicareTax).text.clear();
-        EditCtl_ShowInvalid(ctl, kMoneyColour, "");
+        showInvalidField(ctl, kMoneyColour, "");
         Cancel = true;
     }
 }
 
-void TF_W2::SocialSecurity_Compute() {
+void FormW2::computeSocialSecurityTax() {
     const double rate = numberOf(text::replaceAll(g().SSRate, "%", ""));
     const double wages = numberOf(at("Text1", kSocialSecurityWages).text);
     const double wageBase = numberOf(g().SSMax);
@@ -104,7 +104,7 @@ void TF_W2::SocialSecurity_Compute() {
     at("Text1", kSocialSecurityTax).text = shown(share(rate, base));
 }
 
-void TF_W2::Medicare_Compute() {
+void FormW2::computeMedicareTax() {
     const double wages = numberOf(at("Text1", kMedicareWages).text);
     const double changePoint = numberOf(g().MCChgRateAfter);
     const double initialRate = numberOf(g().MCInitRate);
@@ -121,7 +121,7 @@ void TF_W2::Medicare_Compute() {
     at("Text1", kMedicareTax).text = shown(first + second);
 }
 
-void TF_W2::onActivate() {
+void FormW2::onActivate() {
     Control& caption = at("Label1", kBox9Caption);
     Control& code = at("Text1", kVerificationCode);
     if (at("TaxYear", 1).caption == "18") {
@@ -133,10 +133,10 @@ void TF_W2::onActivate() {
     }
 }
 
-void TF_W2::afterYearChange() { onActivate(); }
+void FormW2::afterYearChange() { onActivate(); }
 
 void registerW2Form() {
-    registerForm("TF_W2", [] { return std::make_unique<TF_W2>(); });
+    registerForm("TF_W2", [] { return std::make_unique<FormW2>(); });
 }
 
 }  // namespace lw

@@ -1,4 +1,4 @@
-// TF_W2, the Wage and Tax Statement: box 4 follows box 3 and box 6 follows box 5, worked out with the
+// FormW2, the Wage and Tax Statement: box 4 follows box 3 and box 6 follows box 5, worked out with the
 // Social Security and Medicare figures of the tax year in force; box 9 is there for tax year 2018 only.
 #pragma once
 
@@ -6,9 +6,9 @@
 
 namespace lw {
 
-class TF_W2 : public TaxForm {
+class FormW2 : public TaxForm {
 public:
-    TF_W2();
+    FormW2();
 
     void onLoad() override;
     // EditCtl first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
@@ -19,9 +19,9 @@ public:
     void afterYearChange() override;
 
     // Social security tax withheld (box 4) from Social security wages (box 3).
-    void SocialSecurity_Compute();
+    void computeSocialSecurityTax();
     // Medicare tax withheld (box 6) from Medicare wages and tips (box 5).
-    void Medicare_Compute();
+    void computeMedicareTax();
 };
 
 // Makes TF_W2 known by name, in place of the standard tax form.

@@ -23,7 +23,7 @@ std::string currentPrinter() {
     return printers.empty() ? std::string() : printers.front();
 }
 
-void Form_Print(Form& form) {
+void askAndPrint(Form& form) {
     // The colours of the field in focus must not reach the paper.
     for (const auto& owned : form.controls())
         if (owned->isTextBox()) owned->backColor = kWhite;

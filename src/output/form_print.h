@@ -7,7 +7,7 @@ namespace lw {
 
 class Form;
 
-void Form_Print(Form& form);
+void askAndPrint(Form& form);
 // The printer the next page goes to: the one a print chose, else the machine's default, else empty.
 std::string currentPrinter();
 

@@ -184,7 +184,7 @@ void putBack(Form& form, const std::string& key, const K1Tabs& tabs) {
         // The K-1 gets its tab strip and panels back; its status line and focus stay as the clip left them.
         putBackTabs(form, tabs);
     } else if (key == "CONFIGURE") {
-        if (auto* configure = dynamic_cast<F1_Configure*>(&form)) configure->bChanged = false;
+        if (auto* configure = dynamic_cast<ConfigureForm*>(&form)) configure->bChanged = false;
         form.setFocus(form.at("cbxPrinters"));
     } else if (key == "1099A") {
         for (const auto& owned : form.controls()) {
@@ -198,7 +198,7 @@ void putBack(Form& form, const std::string& key, const K1Tabs& tabs) {
         for (Control* card : form.arrayOf("Frame1")) card->visible = true;
     } else {
         Control& first = form.at("Text1", 0);
-        Control_Setup(first, false);
+        setUpControl(first, false);
         form.setFocus(first);
         form.at("labelMisc").visible = true;
     }
@@ -234,7 +234,7 @@ HalfAsPaper::~HalfAsPaper() {
 }
 
 // Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
-bool Screen_Clip() {
+bool clipScreen() {
     runGuarded("M5_ClipCode:Screen_Clip", [&] {
         Form* form = g().CurrentForm;
         if (!form) return;
@@ -245,7 +245,7 @@ bool Screen_Clip() {
     return true;
 }
 
-void MDI_Clip() {
+void clipCurrentForm() {
     Form* form = program().desktop.activeChild();
     if (!form) return;
     const int height = form->height;
@@ -263,14 +263,14 @@ void MDI_Clip() {
         if (isKOne(key)) tabs = liftShownHalf(*form);
         form->at("labelMisc").visible = false;
         // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
-        if (Screen_Clip()) CopyEntirePicture(*form);
+        if (clipScreen()) CopyEntirePicture(*form);
     });
     if (!restyled) return;
     // The form comes back whatever the clip did.
     runGuarded("F0_MDI:MDI_Clip", [&] {
         form->height = height;
         form->width = width;
-        Form_Init_Reset();
+        resetFormLook();
         putBack(*form, clipKeyOf(*form), tabs);
     });
 }

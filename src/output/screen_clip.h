@@ -31,8 +31,8 @@ private:
 
 // Cuts the current form to its document and paints it as paper: white fields, no selection, no grey.
 // True when the form is ready to be copied.
-bool Screen_Clip();
+bool clipScreen();
 // Clips the active form: its picture goes to the clipboard, and the form is put back afterwards.
-void MDI_Clip();
+void clipCurrentForm();
 
 }  // namespace lw

@@ -33,7 +33,7 @@ std::string removeEveryNoCase(const std::string& s, const std::string& what) {
 
 }  // namespace
 
-TPNameParts TPName_Parts(const std::string& Name) {
+TPNameParts taxpayerNameParts(const std::string& Name) {
     TPNameParts parts;
     if (Name.empty()) return parts;
     std::string line = Name.substr(0, Name.find("\r\n"));
@@ -65,10 +65,10 @@ TPNameParts TPName_Parts(const std::string& Name) {
     return parts;
 }
 
-std::string Format_TPName(const std::string& Name) {
+std::string formatTaxpayerName(const std::string& Name) {
     return runGuardedOr<std::string>("M3_Ledgerwick:Format_TPName", std::string(), [&] {
         if (Name.empty()) return std::string();
-        const TPNameParts parts = TPName_Parts(Name);
+        const TPNameParts parts = taxpayerNameParts(Name);
         const bool firstBeforeLast = program().g.FileNameFormat.find("<FIRST>_<LAST>") != std::string::npos;
         return parts.line + text::kFieldSeparator + (firstBeforeLast ? parts.firstLast : parts.lastFirst);
     });

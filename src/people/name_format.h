@@ -16,10 +16,10 @@ struct TPNameParts {
 
 // Suffixes JR, SR, II, III, IV, V, 2ND, 3RD, 4TH and 5TH are recognised at the end of the line, in
 // capitals only; every other word between the first and the last is dropped.
-TPNameParts TPName_Parts(const std::string& Name);
+TPNameParts taxpayerNameParts(const std::string& Name);
 
 // The line, "·", then the name for the file: first-last when the file name template puts the first name
 // before the last, else last-first. An empty name gives an empty text.
-std::string Format_TPName(const std::string& Name);
+std::string formatTaxpayerName(const std::string& Name);
 
 }  // namespace lw

@@ -22,7 +22,7 @@ std::string joined(const std::vector<std::string>& lines, std::size_t from, std:
 
 }  // namespace
 
-void TPInfo_Parse_NameAddr(TPInfoRec& Rec) {
+void parseNameAddress(TPInfoRec& Rec) {
     runGuarded("M6_TPInfo:TPInfo_Parse_NameAddr", [&] {
         if (Rec.NameAddr.empty()) return;
         const std::vector<std::string> lines =

@@ -7,6 +7,6 @@ namespace lw {
 
 // Cuts the stored block (lines joined by "»") of Rec.NameAddr into its lines, in place: a block gives
 // every part anew, an empty one leaves every other field as it was.
-void TPInfo_Parse_NameAddr(TPInfoRec& Rec);
+void parseNameAddress(TPInfoRec& Rec);
 
 }  // namespace lw

@@ -114,7 +114,7 @@ public:
         // The print look: cut to the document, white fields, no selection, and no status line, which
         // names the file just read.
         if (Control* status = form->find("labelMisc")) status->visible = false;
-        Screen_Clip();
+        clipScreen();
         return form;
     }
 

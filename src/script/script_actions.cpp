@@ -95,7 +95,7 @@ void ScriptRunner::act(const std::vector<std::string>& words) {
     try {
         if (command == "menu") {
             need(words, 2, "menu ITEM");
-            auto* frame = dynamic_cast<F0_MDI*>(desktop.frame());
+            auto* frame = dynamic_cast<FrameForm*>(desktop.frame());
             MenuItem* item = frame ? frame->findMenu(words[1]) : nullptr;
             if (!item) throw ScriptError("no menu item " + words[1]);
             if (!item->enabled || !item->visible) {

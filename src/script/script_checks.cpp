@@ -291,7 +291,7 @@ std::string ScriptRunner::global(const std::string& name) const {
     if (is("FormRecord")) return utf8(g.FormRecord);
     if (is("SaveResult")) return utf8(g.SaveResult);
     if (is("CurrentForm")) return g.CurrentForm ? g.CurrentForm->name() : "";
-    if (auto* frame = dynamic_cast<F0_MDI*>(program_->desktop.frame())) {
+    if (auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame())) {
         if (is("VersionMajor")) return frame->VersionMajor;
         if (is("VersionFull")) return frame->VersionFull;
         if (is("TaxFormsFolder")) return utf8(frame->TaxFormsFolder);

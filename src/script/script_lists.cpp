@@ -29,7 +29,7 @@ void ScriptRunner::list(const std::vector<std::string>& words) {
 }
 
 void ScriptRunner::listMenu() {
-    auto* frame = dynamic_cast<F0_MDI*>(program_->desktop.frame());
+    auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame());
     if (!frame) throw ScriptError("the frame is not open");
     for (const MenuEntry& entry : menuTable()) {
         if (entry.item[0] == '\0' || entry.opensForm[0] == '\0') continue;

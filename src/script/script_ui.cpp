@@ -56,7 +56,7 @@ void ScriptUi::pressButton(Form& form, const std::string& caption, int line) {
 }
 
 void ScriptUi::answerMessageBox(Form& box) {
-    auto* mbx = dynamic_cast<F9_MBX*>(&box);
+    auto* mbx = dynamic_cast<MessageBoxForm*>(&box);
     if (!mbx) return;
     const MessageBoxRecord shown = mbx->record();
     ShownBox record{text::cp1252ToUtf8(shown.title), shown.number, text::cp1252ToUtf8(shown.message), ""};

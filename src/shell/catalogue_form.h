@@ -22,8 +22,8 @@ public:
 
     // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
     // print or clip the form.
-    bool b_SSAError = false;
-    bool b_RRBError = false;
+    bool ssaError = false;
+    bool rrbError = false;
 };
 
 }  // namespace lw

@@ -7,11 +7,11 @@
 namespace lw {
 
 // The configuration form is the first screen; a program without it starts with the frame alone.
-void openFirstChild(F0_MDI&) {
+void openFirstChild(FrameForm&) {
     if (!hasForm("F1_Configure")) return;
     Form& configure = program().desktop.load(createForm("F1_Configure"), false);
     program().platform.sleep(250);
-    if (configure.isLoaded()) Form_Position(configure);
+    if (configure.isLoaded()) placeInFrame(configure);
     program().platform.sleep(250);
 }
 

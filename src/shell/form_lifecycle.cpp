@@ -40,13 +40,16 @@ const TextFont* textFontFor(const std::string& formKey, const Control& c) {
     if (formKey == "1095C") {
         // The gaps at 35 and 48 to 78 are the form's own.
         const int i = c.index;
-        const bool narrow = (i >= 10 && i <= 22) || (i >= 23 && i <= 34) || (i >= 36 && i <= 47) || (i >= 79 && i <= 91);
+        const bool narrow =
+            (i >= 10 && i <= 22) || (i >= 23 && i <= 34) || (i >= 36 && i <= 47) || (i >= 79 && i <= 91);
         return narrow ? &narrow9 : &tahoma11;
     }
     return &tahoma10;
 }
 
-bool isK1(const std::string& formKey) { return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S"; }
+bool isK1(const std::string& formKey) {
+    return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S";
+}
 
 // A K-1's rows as they were designed: the box numbers of the code fields and the amounts' money checks,
 // so that no code or override chosen from the list outlives Clear.
@@ -89,11 +92,13 @@ std::string longText(std::string value, const std::string& year) {
     static const struct {
         const char* marker;
         int offset;
-    } shifts[] = {{"yyyy+1", 1}, {"yyyy+2", 2}, {"yyyy+3", 3}, {"yyyy-1", -1}, {"yyyy-2", -2}, {"yyyy-3", -3}};
+    } shifts[] = {{"yyyy+1", 1},  {"yyyy+2", 2},  {"yyyy+3", 3},
+                  {"yyyy-1", -1}, {"yyyy-2", -2}, {"yyyy-3", -3}};
     for (const auto& shift : shifts) {
         std::string replacement;
         if (year == "20XX") {
-            replacement = std::string("20XX") + (shift.offset > 0 ? "+" : "-") + std::to_string(std::abs(shift.offset));
+            replacement =
+                std::string("20XX") + (shift.offset > 0 ? "+" : "-") + std::to_string(std::abs(shift.offset));
         } else {
             replacement = std::to_string(std::stoi(year) + shift.offset);
         }
@@ -118,15 +123,15 @@ std::string withLineBreaks(const std::string& caption) {
 
 }  // namespace
 
-void Form_Common_Init(Form& frm) {
+void initCatalogueForm(Form& frm) {
     g().CurrentForm = &frm;
-    FormInfo_Load();
+    loadFormInfo();
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
-    Form_Init_Reset();
-    Form_Init_Captions();
+    resetFormLook();
+    writeYearCaptions();
 }
 
-void Form_Init_Reset() {
+void resetFormLook() {
     runGuarded("M3_Ledgerwick:Form_Init_Reset", [] {
         Form& form = *g().CurrentForm;
         const std::string key = formKeyOf(form.name());
@@ -171,21 +176,24 @@ void Form_Init_Reset() {
                         c.text = text::trim(c.text);
                         if (c.name == "Text2" || c.name == "Text4") c.alignment = 2;
                     }
-                    Control_Setup(c, true);
+                    setUpControl(c, true);
                     break;
                 case ControlKind::Frame:
-                case ControlKind::OptionButton: c.backColor = kButtonFace; break;
+                case ControlKind::OptionButton:
+                    c.backColor = kButtonFace;
+                    break;
                 case ControlKind::Picture:
                     c.backColor = kButtonFace;
                     if (key == "DL") c.visible = true;
                     break;
-                default: break;
+                default:
+                    break;
             }
         }
     });
 }
 
-void Form_Init_Captions() {
+void writeYearCaptions() {
     runGuarded("M3_Ledgerwick:Form_Init_Captions", [] {
         const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
         if (year.empty() || !g().CurrentForm) return;
@@ -203,7 +211,7 @@ void Form_Init_Captions() {
     });
 }
 
-void Form_Size_Border(Control& myBorder) {
+void sizeBorderToControls(Control& myBorder) {
     int bottom = 0;
     int right = 0;
     for (const auto& owned : myBorder.form->controls()) {
@@ -224,12 +232,12 @@ void Form_Size_Border(Control& myBorder) {
     myBorder.width = right - 60;
 }
 
-bool Form_HasTaxYear() {
+bool formHasTaxYear() {
     const std::string& key = g().FormKey;
     return key != "DL" && key != "SS_ITIN" && key != "CHK";
 }
 
-void Form_Position(Form& frm) {
+void placeInFrame(Form& frm) {
     runGuarded("M3_Ledgerwick:Form_Position", [&] {
         Desktop& desktop = program().desktop;
         for (Form* open : desktop.forms()) {
@@ -241,7 +249,7 @@ void Form_Position(Form& frm) {
                     desktop.activate(*open);
                     g().CurrentForm = open;
                     g().FormKey = formKeyOf(open->name());
-                    FormInfo_Load();
+                    loadFormInfo();
                 }
                 return;
             }
@@ -249,7 +257,7 @@ void Form_Position(Form& frm) {
         }
         frm.top = 0;
         frm.left = std::max(0, (frameInnerWidth() - frm.width) / 2);
-        if (Form_HasTaxYear()) showYearDigits(frm);
+        if (formHasTaxYear()) showYearDigits(frm);
         // The form shows, and so activates, when it is placed and dated.
         desktop.activate(frm);
         if (!text::containsNoCase(frm.name(), "Configure"))
@@ -259,7 +267,7 @@ void Form_Position(Form& frm) {
     });
 }
 
-Form* Form_Open(const std::string& formName) {
+Form* openCatalogueForm(const std::string& formName) {
     Desktop& desktop = program().desktop;
     Form* form = desktop.findForm(formName);
     if (!form) {
@@ -268,36 +276,37 @@ Form* Form_Open(const std::string& formName) {
         form = &desktop.load(std::move(made), false);
         if (!form->isLoaded()) return nullptr;
     }
-    Form_Position(*form);
+    placeInFrame(*form);
     return form->isLoaded() ? form : nullptr;
 }
 
-void Year_Change(Form& frm) {
+void changeTaxYear(Form& frm) {
     runGuarded("M3_Ledgerwick:Year_Change", [&] {
         g().TaxYearIndex = nextTaxYearIndex(g().TaxYearIndex);
-        Form_Init_Captions();
+        writeYearCaptions();
         writeUserInf("LastTaxYear", g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)]);
-        if (Form_HasTaxYear()) showYearDigits(frm);
+        if (formHasTaxYear()) showYearDigits(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
-        Year_Check();
+        recheckYearDates();
     });
 }
 
-void Year_Check() {
+void recheckYearDates() {
     Form* form = g().CurrentForm;
     if (!form) return;
     for (const auto& owned : form->controls()) {
         Control& c = *owned;
         if (!c.isTextBox()) continue;
         bool stands = true;
-        if (c.tag == "DATE") stands = EditCtl_Date(c, "");
+        if (c.tag == "DATE")
+            stands = editDate(c, "");
         else if (c.tag == "DATEX")
-            stands = EditCtl_Date(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+            stands = editDate(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
         if (!stands) return;
     }
 }
 
-void Form_Clear() {
+void clearForm() {
     runGuarded("M3_Ledgerwick:Form_Clear", [] {
         Form* form = g().CurrentForm;
         if (!form) return;
@@ -319,9 +328,9 @@ void Form_Clear() {
     g().CurrentFileName.clear();
 }
 
-void Check_Toggle(Control& chk) { chk.caption = chk.caption.empty() ? "X" : ""; }
+void toggleCheck(Control& chk) { chk.caption = chk.caption.empty() ? "X" : ""; }
 
-void Check_TogglePair(Control& chk, Control& partner) {
+void toggleCheckPair(Control& chk, Control& partner) {
     if (chk.caption.empty()) {
         chk.caption = "X";
         partner.caption.clear();

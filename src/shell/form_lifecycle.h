@@ -7,27 +7,27 @@
 namespace lw {
 
 // First statement of every catalogue form's Load: CurrentForm, the catalogue values, looks and captions.
-void Form_Common_Init(Form& frm);
+void initCatalogueForm(Form& frm);
 // Fonts, colours and field set-up of CurrentForm; also run after printing to restore its look.
-void Form_Init_Reset();
+void resetFormLook();
 // Writes the tax year in force into the labels of CurrentForm and reads its long texts.
-void Form_Init_Captions();
+void writeYearCaptions();
 // Sizes the border shape to all the controls of its form.
-void Form_Size_Border(Control& myBorder);
+void sizeBorderToControls(Control& myBorder);
 // Places a form in the frame, unloading every other child; the configuration form stays while its rates
 // are bad. Loads the form first when it is not loaded.
-void Form_Position(Form& frm);
+void placeInFrame(Form& frm);
 // Opens a form of the catalogue by name: creates it when needed and places it.
-Form* Form_Open(const std::string& formName);
-bool Form_HasTaxYear();
+Form* openCatalogueForm(const std::string& formName);
+bool formHasTaxYear();
 // The Change Tax Yr button: the next year of the cycle, for every form.
-void Year_Change(Form& frm);
+void changeTaxYear(Form& frm);
 // Re-checks the dates of CurrentForm against the year in force; the first bad one keeps its error.
-void Year_Check();
-void Form_Clear();
+void recheckYearDates();
+void clearForm();
 
 // The check labels of the forms: "X" or empty.
-void Check_Toggle(Control& chk);
-void Check_TogglePair(Control& chk, Control& partner);
+void toggleCheck(Control& chk);
+void toggleCheckPair(Control& chk, Control& partner);
 
 }  // namespace lw

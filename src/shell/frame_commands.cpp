@@ -18,7 +18,8 @@ namespace lw {
 
 namespace {
 
-constexpr const char* kNoFormMessage = "You must open an existing form or create a new form before continuing.";
+constexpr const char* kNoFormMessage =
+    "You must open an existing form or create a new form before continuing.";
 
 Globals& g() { return program().g; }
 FrameCommandHooks& hooks() { return frameCommandHooks(); }
@@ -30,8 +31,8 @@ bool hasChildForms() {
 }
 
 // A task bar to hide exists only on the classic desktop; on ours the flag alone records the wish.
-void ScreenTaskbar_Hide(F0_MDI& frame) { frame.bTaskbarHidden = true; }
-void ScreenTaskbar_Show(F0_MDI& frame) { frame.bTaskbarHidden = false; }
+void hideTaskbar(FrameForm& frame) { frame.bTaskbarHidden = true; }
+void showTaskbar(FrameForm& frame) { frame.bTaskbarHidden = false; }
 
 // With the configuration form on the screen, changed rates are asked about before the program ends.
 void checkRatesBeforeEnding() {
@@ -39,7 +40,7 @@ void checkRatesBeforeEnding() {
     if (active && active->name() == "F1_Configure" && hooks().checkRateChanges) hooks().checkRateChanges();
 }
 
-void MDI_Quit() {
+void quitProgram() {
     if (hasChildForms()) {
         g().bQuitting = true;
         checkRatesBeforeEnding();
@@ -56,9 +57,9 @@ bool outputBlocked(Form& active) {
     auto* form = dynamic_cast<CatalogueForm*>(&active);
     if (!form) return false;
     const char* text = nullptr;
-    if (g().FormKey == "SSA1099" && form->b_SSAError)
+    if (g().FormKey == "SSA1099" && form->ssaError)
         text = "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping";
-    if (g().FormKey == "RRB1099" && form->b_RRBError)
+    if (g().FormKey == "RRB1099" && form->rrbError)
         text = "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping";
     if (!text) return false;
     MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
@@ -86,12 +87,12 @@ void runOutputCommand(const std::string& pressed, Form& active) {
         if (!hooks().printForm) return;
         if (hooks().screenClip) hooks().screenClip();
         hooks().printForm(active);
-        Form_Init_Reset();
+        resetFormLook();
         if (configure) {
             if (hooks().markRatesKept) hooks().markRatesKept();
             active.setFocus(active.at("cbxPrinters"));
         } else if (Control* first = active.find("Text1", 0)) {
-            Control_Setup(*first, false);
+            setUpControl(*first, false);
             active.setFocus(*first);
         }
     } else if (pressed == "CLIP") {
@@ -99,12 +100,12 @@ void runOutputCommand(const std::string& pressed, Form& active) {
     }
 }
 
-void cmdBtn_Click(F0_MDI& frame, Control& button) {
+void onFrameButton(FrameForm& frame, Control& button) {
     const std::string pressed = text::toUpper(button.caption);
     try {
         if (pressed == "QUIT") {
-            ScreenTaskbar_Show(frame);
-            MDI_Quit();
+            showTaskbar(frame);
+            quitProgram();
             return;
         }
         if (pressed == "OPEN") {
@@ -113,7 +114,7 @@ void cmdBtn_Click(F0_MDI& frame, Control& button) {
         }
         if (pressed == "CONFIGURE") {
             g().CurrentFileName.clear();
-            Form_Open("F1_Configure");
+            openCatalogueForm("F1_Configure");
         }
         Form* active = program().desktop.activeChild();
         if (!active) throw AppError(800, kNoFormMessage, "F0_MDI:cmdBtn_Click");
@@ -123,14 +124,14 @@ void cmdBtn_Click(F0_MDI& frame, Control& button) {
             if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
         } else if (pressed == "CLEAR") {
             if (key == "CONFIGURE") return;
-            Form_Clear();
+            clearForm();
             focusFirstField(*active);
         } else if (pressed == "CLOSE") {
             g().CurrentFileName.clear();
             active->unload();
             return;
         } else if (pressed == "CHANGE TAX YR") {
-            Year_Change(*active);
+            changeTaxYear(*active);
         }
         if (outputBlocked(*active)) return;
         runOutputCommand(pressed, *active);
@@ -139,40 +140,41 @@ void cmdBtn_Click(F0_MDI& frame, Control& button) {
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
         if (text::containsNoCase(program().platform.commandLine(), "Error"))
-            Error_Logger("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number, fault.description);
+            logError("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number,
+                     fault.description);
         if (fault.number == 343) return;
         if (g().bDebug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
-        Error_Logger("F0_MDI:cmdBtn_Click", fault.number, fault.description);
+        logError("F0_MDI:cmdBtn_Click", fault.number, fault.description);
     }
 }
 
-void picLegends_Click(F0_MDI& frame) {
+void onLegendClick(FrameForm& frame) {
     if (!text::containsNoCase(g().CommandWords, "taskbar")) return;
     if (frame.bTaskbarHidden)
-        ScreenTaskbar_Show(frame);
+        showTaskbar(frame);
     else
-        ScreenTaskbar_Hide(frame);
+        hideTaskbar(frame);
 }
 
 // The menu's Clear differs from the button's: it works on CurrentForm, and on the configuration form
 // it only moves the focus.
-void mnuControlClear_Click() {
+void onMenuClear() {
     Form* current = g().CurrentForm;
     if (!current || current->name().empty()) return;
     if (current->name() == "F1_Configure") {
         current->setFocus(current->at("txtSSRate"));
         return;
     }
-    Form_Clear();
+    clearForm();
     focusFirstField(*current);
 }
 
 // The menu's Print has no screen clip and no error flags, and gives the first field the pale yellow.
-void mnuControlPrint_Click() {
+void onMenuPrint() {
     Form* active = program().desktop.activeChild();
     if (!active || !hooks().printForm) return;
     hooks().printForm(*active);
-    Form_Init_Reset();
+    resetFormLook();
     if (Control* first = active->find("Text1", 0)) {
         first->backColor = 0x00C0FFFF;
         active->setFocus(*first);
@@ -181,25 +183,25 @@ void mnuControlPrint_Click() {
 
 }  // namespace
 
-void F0_MDI::onLoad() { Frame_Form_Load(*this); }
+void FrameForm::onLoad() { onFrameLoad(*this); }
 
-void F0_MDI::onClick(Control& control, MouseButton) {
-    if (text::equalsNoCase(control.name, "cmdBtn")) cmdBtn_Click(*this, control);
-    if (text::equalsNoCase(control.name, "picLegends")) picLegends_Click(*this);
+void FrameForm::onClick(Control& control, MouseButton) {
+    if (text::equalsNoCase(control.name, "cmdBtn")) onFrameButton(*this, control);
+    if (text::equalsNoCase(control.name, "picLegends")) onLegendClick(*this);
 }
 
-void F0_MDI::onMenu(const std::string& itemName) {
+void FrameForm::onMenu(const std::string& itemName) {
     runGuarded("F0_MDI:mnu_Click", [&] {
         for (const MenuEntry& entry : menuTable()) {
             if (entry.opensForm[0] != '\0' && text::equalsNoCase(entry.item, itemName)) {
                 g().CurrentFileName.clear();
-                Form_Open(entry.opensForm);
+                openCatalogueForm(entry.opensForm);
                 return;
             }
         }
         auto is = [&](const char* name) { return text::equalsNoCase(itemName, name); };
         if (is("mnuControlQuit")) {
-            MDI_Quit();
+            quitProgram();
         } else if (is("mnuControlOpen")) {
             if (hooks().openFile) hooks().openFile();
         } else if (is("mnuControlSave")) {
@@ -207,9 +209,9 @@ void F0_MDI::onMenu(const std::string& itemName) {
         } else if (is("mnuControlClose")) {
             if (Form* active = program().desktop.activeChild()) active->unload();
         } else if (is("mnuControlClear")) {
-            mnuControlClear_Click();
+            onMenuClear();
         } else if (is("mnuControlPrint")) {
-            mnuControlPrint_Click();
+            onMenuPrint();
         } else if (is("mnuControlClip")) {
             if (hooks().mdiClip) hooks().mdiClip();
         } else if (is("mnuControlGuide")) {
@@ -220,11 +222,11 @@ void F0_MDI::onMenu(const std::string& itemName) {
     });
 }
 
-void F0_MDI::onQueryUnload(bool&) {
+void FrameForm::onQueryUnload(bool&) {
     g().bQuitting = true;
     checkRatesBeforeEnding();
 }
 
-void F0_MDI::onUnload(bool&) { ScreenTaskbar_Show(*this); }
+void FrameForm::onUnload(bool&) { showTaskbar(*this); }
 
 }  // namespace lw

@@ -1,5 +1,5 @@
 #pragma once
-// F0_MDI, the frame: menu bar, the panel of command buttons and the colour legend, and the one child form.
+// FrameForm, the frame: menu bar, the panel of command buttons and the colour legend, and the one child form.
 
 #include <string>
 
@@ -7,9 +7,9 @@
 
 namespace lw {
 
-class F0_MDI : public Form {
+class FrameForm : public Form {
 public:
-    F0_MDI();
+    FrameForm();
 
     // Members that other parts of the program read.
     std::string VersionMajor;

@@ -1,7 +1,7 @@
 // The frame's fixed controls: the eleven command buttons and the colour legend on picLegends, and the menus.
-#include "shell/frame_form.h"
 #include "shell/form_registry.h"
 #include "shell/frame_command_hooks.h"
+#include "shell/frame_form.h"
 #include "shell/menu_table.h"
 
 namespace lw {
@@ -14,9 +14,12 @@ struct ButtonSpec {
 };
 
 constexpr ButtonSpec kButtons[kCommandButtonCount] = {
-    {"Open", "open"},       {"Save", "save"},          {"Clear", "clear"},         {"Close", "close"},
-    {"Print", "print"},     {"Clip", "clip"},          {"Load TP 1", "person"},    {"Load TP 2", "people"},
-    {"Configure", "configure"}, {"Change Tax Yr", "calendar"}, {"Quit", "quit"},
+    {"Open", "open"},           {"Save", "save"},
+    {"Clear", "clear"},         {"Close", "close"},
+    {"Print", "print"},         {"Clip", "clip"},
+    {"Load TP 1", "person"},    {"Load TP 2", "people"},
+    {"Configure", "configure"}, {"Change Tax Yr", "calendar"},
+    {"Quit", "quit"},
 };
 
 struct LegendSpec {
@@ -47,7 +50,7 @@ constexpr int kLegendHeight = 270;
 
 }  // namespace
 
-F0_MDI::F0_MDI() : Form("F0_MDI") {
+FrameForm::FrameForm() : Form("F0_MDI") {
     isChild = false;
     caption = "Ledgerwick";
     width = 16500;
@@ -56,7 +59,7 @@ F0_MDI::F0_MDI() : Form("F0_MDI") {
     buildMenus();
 }
 
-void F0_MDI::buildPanel() {
+void FrameForm::buildPanel() {
     Control& panel = add(ControlKind::Picture, "picLegends");
     panel.left = 0;
     panel.top = 0;
@@ -97,7 +100,7 @@ void F0_MDI::buildPanel() {
     panel.height = top + 120;
 }
 
-void F0_MDI::buildMenus() {
+void FrameForm::buildMenus() {
     for (const MenuEntry& entry : menuTable()) {
         if (entry.item[0] == '\0') {
             menus.push_back(MenuItem{entry.menu, entry.caption, true, true, {}});
@@ -118,7 +121,7 @@ static bool commandBuilt(const std::string& itemName) {
     return true;
 }
 
-void F0_MDI::refreshCommands() {
+void FrameForm::refreshCommands() {
     for (const MenuEntry& entry : menuTable()) {
         if (entry.item[0] == '\0' || entry.caption == std::string("-")) continue;
         MenuItem* item = findMenu(entry.item);

@@ -7,10 +7,10 @@
 
 namespace lw {
 
-F0_MDI* loadFrame() {
+FrameForm* loadFrame() {
     Desktop& desktop = program().desktop;
-    auto owned = std::make_unique<F0_MDI>();
-    F0_MDI* frame = owned.get();
+    auto owned = std::make_unique<FrameForm>();
+    FrameForm* frame = owned.get();
     desktop.setFrame(*frame);
     desktop.load(std::move(owned));
     return desktop.frame() == frame ? frame : nullptr;

@@ -3,10 +3,10 @@
 
 namespace lw {
 
-class F0_MDI;
+class FrameForm;
 
 // Creates the frame, makes it the desktop's frame and runs its start-up. Returns null when the program ended.
-F0_MDI* loadFrame();
+FrameForm* loadFrame();
 // The close box of the frame: every form is asked and unloaded, and the program ends.
 void closeFrame();
 

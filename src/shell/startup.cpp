@@ -1,4 +1,7 @@
-// Start-up of the frame: the single-instance test, the edition, every path and folder, the remembered folders.
+// Start-up of the frame: the single-instance test, the edition, every path and folder, the remembered
+// folders.
+#include "shell/startup.h"
+
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
@@ -9,7 +12,6 @@
 #include "model/program.h"
 #include "shell/frame_form.h"
 #include "shell/paths.h"
-#include "shell/startup.h"
 #include "store/inf_store.h"
 #include "text/case.h"
 
@@ -30,15 +32,16 @@ std::string environmentInBuffer(const std::string& name) {
     const std::string untouched(kEnvironmentBuffer, ' ');
     std::optional<std::string> value = platform().environment(name);
     if (!value) return "";
-    std::size_t returned = value->size() < static_cast<std::size_t>(kEnvironmentBuffer) ? value->size()
-                                                                                           : value->size() + 1;
+    std::size_t returned =
+        value->size() < static_cast<std::size_t>(kEnvironmentBuffer) ? value->size() : value->size() + 1;
     std::string buffer = value->size() < static_cast<std::size_t>(kEnvironmentBuffer) ? *value : untouched;
     auto kept = static_cast<std::size_t>(static_cast<std::int16_t>(returned));
     return buffer.substr(0, std::min(kept, buffer.size()));
 }
 
 std::string removeWordNoCase(std::string text, const std::string& word) {
-    for (std::size_t at = text::findNoCase(text, word); at != std::string::npos; at = text::findNoCase(text, word))
+    for (std::size_t at = text::findNoCase(text, word); at != std::string::npos;
+         at = text::findNoCase(text, word))
         text.erase(at, word.size());
     return text;
 }
@@ -60,10 +63,11 @@ void SaveInfFolders(const std::string& InfFile, const std::string& DefaultFolder
     }
 }
 
-void MDI_Setup_TaxFormsFolder(F0_MDI& frame) {
+void setUpTaxFormsFolder(FrameForm& frame) {
     const std::string root = platform().rootFolder();
-    std::string byDefault = text::endsWithNoCase(g().UserInfFile, "UserVenturo.inf") ? joinPath(root, "VenturoForms")
-                                                                                     : joinPath(root, "TaxFormsLW");
+    std::string byDefault = text::endsWithNoCase(g().UserInfFile, "UserVenturo.inf")
+                                ? joinPath(root, "VenturoForms")
+                                : joinPath(root, "TaxFormsLW");
     frame.TaxFormsFolder = readUserInf("TaxFormsFolder");
     if (frame.TaxFormsFolder.empty()) {
         frame.TaxFormsFolder = byDefault;
@@ -71,7 +75,7 @@ void MDI_Setup_TaxFormsFolder(F0_MDI& frame) {
     }
 }
 
-void MDI_Setup_Common() {
+void setUpInfFilePaths() {
     const std::string infFolder = infFilesFolder(platform().rootFolder());
     g().FormsInfFile = joinPath(infFolder, "Forms.inf");
     g().SSMCInfFile = joinPath(infFolder, "SSMC.inf");
@@ -82,7 +86,7 @@ void MDI_Setup_Common() {
 namespace {
 
 // The two editions set themselves up line for line alike, each from its own table of places.
-void setUpEdition(F0_MDI& frame, const Edition& edition) {
+void setUpEdition(FrameForm& frame, const Edition& edition) {
     g().UserInfFile = edition.userInfFile;
     g().UserGuideFile = edition.guideFile;
     frame.IconFile = edition.iconFile;
@@ -91,11 +95,11 @@ void setUpEdition(F0_MDI& frame, const Edition& edition) {
     SaveInfFolders(g().UserInfFile, edition.defaultFormsFolder);
     g().FileExtension = edition.fileExtension;
     g().FileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
-    MDI_Setup_TaxFormsFolder(frame);
+    setUpTaxFormsFolder(frame);
 }
 
 // Taken under any executable name but the two editions': the program runs against the development tree.
-void setUpTestPath(F0_MDI& frame) {
+void setUpTestPath(FrameForm& frame) {
     const std::string root = platform().rootFolder();
     frame.DevFormsFolder = frame.DevAppFolder + "/Forms";
     frame.DevInfFolder = frame.DevAppFolder + "/InfFiles";
@@ -105,8 +109,8 @@ void setUpTestPath(F0_MDI& frame) {
     g().K1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
     installShippedInfFiles(platform().executableFolder(), frame.DevInfFolder);
 
-    std::string answer = MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other",
-                                "", "", 9);
+    std::string answer =
+        MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9);
     bool venturo = answer == "Venturo";
     Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.VersionMajor)
                               : othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor);
@@ -124,7 +128,7 @@ void setUpTestPath(F0_MDI& frame) {
 
 }  // namespace
 
-void MDI_Setup(F0_MDI& frame) {
+void setUpFrame(FrameForm& frame) {
     runGuarded("F0_MDI:MDI_Setup", [&] {
         pause(500);
         frame.VersionMajor = versionMajorText();
@@ -142,10 +146,10 @@ void MDI_Setup(F0_MDI& frame) {
 
         const std::string exe = platform().executableName();
         if (text::equalsNoCase(exe, "Ledgerwick_Venturo")) {
-            MDI_Setup_Common();
+            setUpInfFilePaths();
             setUpEdition(frame, venturoEdition(root, platform().executableFolder(), frame.VersionMajor));
         } else if (text::equalsNoCase(exe, "Ledgerwick_OthAgcy")) {
-            MDI_Setup_Common();
+            setUpInfFilePaths();
             setUpEdition(frame, othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor));
         } else {
             setUpTestPath(frame);
@@ -154,10 +158,12 @@ void MDI_Setup(F0_MDI& frame) {
         if (!frame.TaxFormsFolder.empty() && !folderExists(frame.TaxFormsFolder)) {
             std::error_code ec;
             std::filesystem::create_directories(frame.TaxFormsFolder, ec);
-            if (ec) throw AppError(err::kPathNotFound, "Path not found: " + frame.TaxFormsFolder + " (" +
-                                                           ec.message() + ")");
+            if (ec)
+                throw AppError(err::kPathNotFound,
+                               "Path not found: " + frame.TaxFormsFolder + " (" + ec.message() + ")");
         }
-        if (MenuItem* guide = frame.findMenu("mnuControlGuide")) guide->visible = fileExists(g().UserGuideFile);
+        if (MenuItem* guide = frame.findMenu("mnuControlGuide"))
+            guide->visible = fileExists(g().UserGuideFile);
         std::vector<Control*> legend = frame.arrayOf("txtLegend");
         for (std::size_t i = 1; i < legend.size() && i < g().LegendColors.size(); ++i)
             g().LegendColors[i] = legend[i]->backColor;
@@ -176,7 +182,7 @@ void forgetVanishedFolder(const char* key, std::string& folder) {
 
 void fillPersonTable() {
     static const char* const rows[9][3] = {
-        {"TP1", "2", "0"},   {"TP2", "5", "1"},   {"OP1", "8", "2"},   {"OP2", "12", "3"}, {"OP3", "16", "4"},
+        {"TP1", "2", "0"},  {"TP2", "5", "1"},  {"OP1", "8", "2"},  {"OP2", "12", "3"}, {"OP3", "16", "4"},
         {"OP4", "20", "5"}, {"OP5", "24", "6"}, {"OP6", "28", "7"}, {"OP7", "32", "8"},
     };
     for (int r = 0; r < 9; ++r)
@@ -185,7 +191,7 @@ void fillPersonTable() {
 
 }  // namespace
 
-void Frame_Form_Load(F0_MDI& frame) {
+void onFrameLoad(FrameForm& frame) {
     runGuarded("F0_MDI:FormLoad", [&] {
         g().CurrentForm = &frame;
         if (platform().earlierInstanceRunning()) {
@@ -208,7 +214,7 @@ void Frame_Form_Load(F0_MDI& frame) {
         frame.top = 0;
 
         installShippedInfFiles(platform().executableFolder(), infFilesFolder(platform().rootFolder()));
-        MDI_Setup(frame);
+        setUpFrame(frame);
 
         g().LastOpenFolder = readUserInf("LastOpenFolder");
         pause(250);

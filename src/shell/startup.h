@@ -5,15 +5,15 @@
 
 namespace lw {
 
-class F0_MDI;
+class FrameForm;
 
-void Frame_Form_Load(F0_MDI& frame);
-void MDI_Setup(F0_MDI& frame);
-void MDI_Setup_Common();
-void MDI_Setup_TaxFormsFolder(F0_MDI& frame);
+void onFrameLoad(FrameForm& frame);
+void setUpFrame(FrameForm& frame);
+void setUpInfFilePaths();
+void setUpTaxFormsFolder(FrameForm& frame);
 void SaveInfFolders(const std::string& InfFile, const std::string& DefaultFolder);
 // Opens the configuration form as the first child, where the program has it.
-void openFirstChild(F0_MDI& frame);
+void openFirstChild(FrameForm& frame);
 
 // The user INF file, in the section of the user.
 std::string readUserInf(const std::string& key);

@@ -7,7 +7,7 @@ namespace lw {
 
 int thisTaxYear(const DateTime& today) { return today.month >= 3 ? today.year : today.year - 1; }
 
-std::string TaxYears_Setup() {
+std::string setUpTaxYears() {
     Globals& g = program().g;
     std::string remembered = readUserInf("LastTaxYear");
     const int year = thisTaxYear(program().platform.now());
@@ -35,10 +35,14 @@ std::string taxYearDigits() {
 
 int nextTaxYearIndex(int index) {
     switch (index) {
-        case 0: return 1;
-        case 1: return 2;
-        case 2: return 3;
-        default: return 0;
+        case 0:
+            return 1;
+        case 1:
+            return 2;
+        case 2:
+            return 3;
+        default:
+            return 0;
     }
 }
 

@@ -13,7 +13,7 @@ int thisTaxYear(const DateTime& today);
 // or has fallen out of the window); writes LastTaxYear back with the year in force. Returns the
 // remembered text, or This Year when none was remembered: the configuration form shows its last two
 // characters.
-std::string TaxYears_Setup();
+std::string setUpTaxYears();
 // The year in force as the forms show it: the last two characters of its entry ("25", "XX").
 std::string taxYearDigits();
 // The next index of the cycle This Year, Next Year, 20XX, Last Year.

@@ -28,7 +28,7 @@ constexpr Person kB = Person::B;
 }  // namespace
 
 // Both persons twice: as recipient and spouse, then again among the covered individuals.
-void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
+void fillTaxpayers1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
             {{3, kA, &TPInfoRec::Name},
              {4, kA, &TPInfoRec::SSN},
@@ -46,7 +46,7 @@ void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
              {20, kB, &TPInfoRec::DOB}});
 }
 
-void TPInfo_Process_1095B(Form& form, const TPInfoRec& A) {
+void fillTaxpayers1095B(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
             {{0, kA, &TPInfoRec::Name},
              {1, kA, &TPInfoRec::SSN},
@@ -55,7 +55,7 @@ void TPInfo_Process_1095B(Form& form, const TPInfoRec& A) {
              {4, kA, &TPInfoRec::CityStateZip}});
 }
 
-void TPInfo_Process_1095C(Form& form, const TPInfoRec& A) {
+void fillTaxpayers1095C(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
             {{0, kA, &TPInfoRec::Name},
              {1, kA, &TPInfoRec::SSN},
@@ -63,7 +63,7 @@ void TPInfo_Process_1095C(Form& form, const TPInfoRec& A) {
              {7, kA, &TPInfoRec::CityStateZip}});
 }
 
-void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
+void fillTaxpayersLicense(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
             {{0, kA, &TPInfoRec::NameAddr},
              {1, kA, &TPInfoRec::DOB},
@@ -72,7 +72,7 @@ void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoR
 }
 
 // The claim number of the lower statement is the number with the beneficiary's letter A.
-void TPInfo_Process_SSA1099(Form& form, const TPInfoRec& A) {
+void fillTaxpayersSsa1099(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
             {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {14, kA, &TPInfoRec::NameAddr}});
     form.at("Text1", 15).text = A.SSN + "A";

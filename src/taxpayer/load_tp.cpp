@@ -27,7 +27,7 @@ void readPerson(const char* slot, TPInfoRec& rec) {
     rec.NameAddr = readUserInf(prefix + "NameAddr");
     rec.DOB = readUserInf(prefix + "DOB");
     rec.SSN = readUserInf(prefix + "SSN");
-    TPInfo_Parse_NameAddr(rec);
+    parseNameAddress(rec);
 }
 
 // The first index of a comma list of the catalogue, or none when the list is empty.
@@ -64,17 +64,17 @@ void stampLicenses(Form& form) {
 
 void fillByPrefix(Form& form, const std::string& prefix, const std::string& Who, const TPInfoRec& A,
                   const TPInfoRec& B) {
-    if (prefix == "ss_itin") return TPInfo_Process_TIN_Cards(form, Who == "TP 2" ? 2 : 1);
+    if (prefix == "ss_itin") return fillTaxpayersCard(form, Who == "TP 2" ? 2 : 1);
     if (prefix == "dl" || prefix == "drvlic") {
-        TPInfo_Process_DriverLicenses(form, A, B);
+        fillTaxpayersLicense(form, A, B);
         return stampLicenses(form);
     }
     if (prefix == "chk" || prefix == "check") return fillCheck(form, A, B);
-    if (prefix == "1095-a") return TPInfo_Process_1095A(form, A, B);
+    if (prefix == "1095-a") return fillTaxpayers1095A(form, A, B);
     if (prefix == "tpinfo") return;
-    if (prefix == "1095b") return TPInfo_Process_1095B(form, A);
-    if (prefix == "1095c") return TPInfo_Process_1095C(form, A);
-    if (prefix == "ssa") return TPInfo_Process_SSA1099(form, A);
+    if (prefix == "1095b") return fillTaxpayers1095B(form, A);
+    if (prefix == "1095c") return fillTaxpayers1095C(form, A);
+    if (prefix == "ssa") return fillTaxpayersSsa1099(form, A);
     fillGeneral(form, A);
 }
 
@@ -97,7 +97,7 @@ void showOtherHalfAWhile(Form& form, const std::string& prefix) {
 
 }  // namespace
 
-void TPInfo_Read(const std::string& Who) {
+void readTaxpayers(const std::string& Who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
         Form* form = g().CurrentForm;
         if (!form) return;
@@ -116,7 +116,7 @@ void TPInfo_Read(const std::string& Who) {
         } else {
             if (prefix == "K11041" || prefix == "K11120S" || prefix == "K11065")
                 showOtherHalfAWhile(*form, prefix);
-            TPInfo_Focus_After();
+            refocusAfterTaxpayerFill();
         }
         program().ui.refresh();
     });

@@ -11,13 +11,13 @@ class Form;
 
 // Who is "TP 1" or "TP 2", the end of the pressed button's caption. Every fill reads the store afresh
 // into the two taxpayers' records, which keep the parts of a block the store has lost.
-void TPInfo_Read(const std::string& Who);
+void readTaxpayers(const std::string& Who);
 
 // The fills of the forms that do not take the general one; A is the person of the button, B the other.
-void TPInfo_Process_1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B);
-void TPInfo_Process_1095B(Form& form, const TPInfoRec& A);
-void TPInfo_Process_1095C(Form& form, const TPInfoRec& A);
-void TPInfo_Process_DriverLicenses(Form& form, const TPInfoRec& A, const TPInfoRec& B);
-void TPInfo_Process_SSA1099(Form& form, const TPInfoRec& A);
+void fillTaxpayers1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B);
+void fillTaxpayers1095B(Form& form, const TPInfoRec& A);
+void fillTaxpayers1095C(Form& form, const TPInfoRec& A);
+void fillTaxpayersLicense(Form& form, const TPInfoRec& A, const TPInfoRec& B);
+void fillTaxpayersSsa1099(Form& form, const TPInfoRec& A);
 
 }  // namespace lw

@@ -55,7 +55,7 @@ StoredCase readStoredCase() {
     return found;
 }
 
-void TPCard_Fill(Form& form, int n, const StoredPerson& person) {
+void fillCardFromTaxpayer(Form& form, int n, const StoredPerson& person) {
     form.at("Text1", n).text = person.number;
     form.at("Text1", n + 1).text = person.name;
 }
@@ -65,13 +65,13 @@ void fillTaxpayerCards(Form& form, const StoredCase& found, int Who) {
     const StoredPerson& first = found.tp[0];
     const StoredPerson& second = found.tp[1];
     if (Who == 1 && !first.name.empty()) {
-        TPCard_Fill(form, 0, first);
-        if (!second.name.empty()) TPCard_Fill(form, 2, second);
+        fillCardFromTaxpayer(form, 0, first);
+        if (!second.name.empty()) fillCardFromTaxpayer(form, 2, second);
     } else if (Who == 2 && !second.name.empty()) {
-        TPCard_Fill(form, 0, second);
-        if (!first.name.empty()) TPCard_Fill(form, 2, first);
+        fillCardFromTaxpayer(form, 0, second);
+        if (!first.name.empty()) fillCardFromTaxpayer(form, 2, first);
     } else if (Who == 2) {
-        TPCard_Fill(form, 0, first);
+        fillCardFromTaxpayer(form, 0, first);
     }
 }
 
@@ -90,7 +90,7 @@ void fillDependentCards(Form& form, const StoredCase& found) {
 
 }  // namespace
 
-void TPInfo_Process_TIN_Cards(Form& form, int Who) {
+void fillTaxpayersCard(Form& form, int Who) {
     runGuarded("M6_TPInfo:TPInfo_Process_TIN_Cards", [&] {
         const StoredCase found = readStoredCase();
         for (Control* field : form.arrayOf("Text1")) field->text.clear();

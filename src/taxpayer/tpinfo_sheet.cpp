@@ -27,7 +27,7 @@ bool endsIn20XX(const std::string& s) {
 
 }  // namespace
 
-std::string Age_At_YearEnd(Form& form, const std::string& DOB) {
+std::string ageAtYearEnd(Form& form, const std::string& DOB) {
     const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
     if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
     const std::vector<std::string> parts = text::split(DOB, "/");
@@ -51,7 +51,7 @@ void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeI
     const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
     Control& age = sheet.at("Text2", std::stoi(AgeIndex));
     if (dob.text.empty()) return;
-    age.text = endsIn20XX(dob.text) ? "N/A" : Age_At_YearEnd(sheet, dob.text);
+    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text);
 }
 
 void UpdateAllAges(Form& sheet) {
@@ -60,7 +60,7 @@ void UpdateAllAges(Form& sheet) {
         runGuarded("F5_TPInfo:UpdateAge", [&] { UpdateAge(sheet, row[1], row[2]); });
 }
 
-void TPInfo_Save() {
+void saveTaxpayerSheet() {
     runGuarded("M6_TPInfo:TPInfo_Save", [] {
         std::string fields[6];
         const std::vector<std::string> pieces =

@@ -55,7 +55,7 @@ void SessionUi::runModal(Form& form) {
 }
 
 void SessionUi::judgeReport(Form& form) {
-    const auto& report = dynamic_cast<const F8_ErrLog&>(form);
+    const auto& report = dynamic_cast<const ErrorReportForm&>(form);
     const ShownReport seen{report.F8_Module, std::atoi(report.F8_ErrNo.c_str()), report.F8_ErrDesc};
     const AllowedReport* entry = allowingEntry(seen, facts_);
     trace_.add("error report: " + printable(seen.module) + " error " + report.F8_ErrNo + ": " +

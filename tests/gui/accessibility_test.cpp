@@ -103,7 +103,7 @@ TEST_F(AccessibilityTest, APaintedCheckBoxIsLabelledByItsBoxAndTogglesByItsActio
 }
 
 TEST_F(AccessibilityTest, TheColourLegendIsReadAsTextWithItsTip) {
-    F0_MDI frame;
+    FrameForm frame;
     FormView panel(frame);
     QWidget* money = panel.editorOf(frame.at("txtLegend", 3));
     ASSERT_NE(money, nullptr);

@@ -10,7 +10,7 @@
 namespace lw::ui::test {
 namespace {
 
-class RrbWindowTest : public FormViewTest<TF_RRB1099> {
+class RrbWindowTest : public FormViewTest<FormRrb1099> {
 protected:
     void SetUp() override {
         FormViewTest::SetUp();

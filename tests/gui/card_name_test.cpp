@@ -13,7 +13,7 @@
 namespace lw::ui::test {
 namespace {
 
-class CardNameWindowTest : public FormViewTest<F2_SS_ITIN> {
+class CardNameWindowTest : public FormViewTest<CardsForm> {
 protected:
     void SetUp() override {
         FormViewTest::SetUp();

@@ -46,12 +46,12 @@ protected:
         owned->add(ControlKind::TextBox, "Text2", 0).tag = "K1HELP" + kDot + "K1-1065-Box13";
         owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
         form_ = &desktop().load(std::move(owned));
-        K1_SaveInfo(*form_);
+        keepK1DesignValues(*form_);
     }
     void callList() {
         Control& code = form_->at("Text2", 0);
         desktop().setFocus(code);
-        desktop().dispatch([&] { K1_Help_KeyDown(*form_, code); });
+        desktop().dispatch([&] { openK1CodeList(*form_, code); });
     }
     // The middle of a row of the grid, the header being row 0.
     static QPoint rowPoint(const Form& list, int row) {
@@ -126,7 +126,7 @@ TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
     program_->g.K1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
     for (const char* key : {"K1-1041-Box13", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box17"}) {
         k1HelpMembers().F97_K1Key = key;
-        Form& list = desktop().load(std::make_unique<F6_K1Help>(), false);
+        Form& list = desktop().load(std::make_unique<K1HelpForm>(), false);
         const QImage picture = renderForm(list);
         const Control& grid = list.at("Grid1");
         EXPECT_GT(grid.items.size(), 8u) << key;

@@ -53,7 +53,7 @@ TEST_F(FormInfoTest, MissingValuesAreEmpty) {
 }
 
 TEST_F(FormInfoTest, LoadFillsTheValuesOfTheCurrentForm) {
-    FormInfo_Load();
+    loadFormInfo();
     const Globals& g = test.program->g;
     EXPECT_EQ(g.FormTitle, "TF_1099MISC");
     EXPECT_EQ(g.RecordPrefix, "1099-MISC");
@@ -65,10 +65,10 @@ TEST_F(FormInfoTest, LoadFillsTheValuesOfTheCurrentForm) {
 }
 
 TEST_F(FormInfoTest, AFocusValueThatIsNoNumberKeepsThatOfTheFormBefore) {
-    FormInfo_Load();
+    loadFormInfo();
     Form plain("X_Plain");
     test.program->g.CurrentForm = &plain;
-    FormInfo_Load();
+    loadFormInfo();
     EXPECT_EQ(test.program->g.FormTitle, "Plain");
     EXPECT_EQ(test.program->g.FocusOnStartup, 4);
     EXPECT_EQ(test.program->g.FocusAfterTPButton, 7);

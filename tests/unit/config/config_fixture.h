@@ -30,7 +30,7 @@ public:
     void queueAnswer(const std::string& caption) { answers_.push_back(caption); }
 
     void runModal(Form& form) override {
-        if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+        if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) {
             Control* button = box->defaultButtonControl();
             if (!answers_.empty()) {
                 button = box->buttonWithCaption(answers_.front());
@@ -39,7 +39,7 @@ public:
             if (button) program().desktop.click(*button);
             return;
         }
-        if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) program().desktop.click(report->cmdExit);
+        if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) program().desktop.click(report->cmdExit);
     }
     void copyPictureToClipboard(Form&) override {}
     std::string clipboardText() override { return {}; }

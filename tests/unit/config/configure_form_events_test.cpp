@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Table, StatusClick,
 TEST_F(ConfigureFormTest, AClickedStatusTakesTheJointChangePointAtTheNextYear) {
     open();
     desktop().click(*form->optStatus[0]);
-    Year_Change(*form);
+    changeTaxYear(*form);
     EXPECT_EQ(form->TaxYear1.caption, "26");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "250,000.00");
     EXPECT_EQ(form->txtSSMax.text, "184,500.00");
@@ -139,8 +139,8 @@ TEST_F(ConfigureFormTest, RegisteringMakesTheFormAndItsRatesCheckKnown) {
     registerConfigureForm();
     ASSERT_TRUE(hasForm("F1_Configure"));
     std::unique_ptr<Form> made = createForm("f1_configure");
-    ASSERT_NE(dynamic_cast<F1_Configure*>(made.get()), nullptr);
-    F1_Configure& loaded = open();
+    ASSERT_NE(dynamic_cast<ConfigureForm*>(made.get()), nullptr);
+    ConfigureForm& loaded = open();
     EXPECT_TRUE(ratesOfConfigureFormPass(loaded));
     loaded.txtMCRateAfter.text = "100";
     EXPECT_FALSE(ratesOfConfigureFormPass(loaded));

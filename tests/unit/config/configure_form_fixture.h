@@ -12,8 +12,8 @@ namespace lw::test {
 
 class ConfigureFormTest : public ConfigTest {
 protected:
-    F1_Configure& open() {
-        form = static_cast<F1_Configure*>(&desktop().load(std::make_unique<F1_Configure>()));
+    ConfigureForm& open() {
+        form = static_cast<ConfigureForm*>(&desktop().load(std::make_unique<ConfigureForm>()));
         return *form;
     }
 
@@ -23,7 +23,7 @@ protected:
     }
     void tab() { desktop().pressKey(keys::kTab, 0, keys::kTab); }
 
-    F1_Configure* form = nullptr;
+    ConfigureForm* form = nullptr;
 };
 
 }  // namespace lw::test

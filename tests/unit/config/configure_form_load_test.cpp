@@ -70,7 +70,7 @@ TEST_F(ConfigureFormTest, LoadStartsFromSingleAndWritesTheChangePointIntoTheCapt
 }
 
 TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
-    auto owned = std::make_unique<F1_Configure>();
+    auto owned = std::make_unique<ConfigureForm>();
     owned->lblMC[0]->caption = "up to <<InitRate>> and <<initrate>>";
     owned->lblMC[2]->caption = "over <<wage>>:";
     owned->TaxYear1.caption = "25";

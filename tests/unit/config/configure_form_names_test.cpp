@@ -10,7 +10,7 @@ namespace lw::test {
 namespace {
 
 TEST_F(ConfigureFormTest, EveryFieldOfTheLoadedFormHasANameOfItsOwn) {
-    F1_Configure& f = open();
+    ConfigureForm& f = open();
     const auto names = fieldNamesOf(f);
     std::set<std::string> seen;
     for (const auto& [field, name] : names) {

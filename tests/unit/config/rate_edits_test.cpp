@@ -67,7 +67,7 @@ protected:
 
 class RateEdit : public EditRowTest {};
 
-TEST_P(RateEdit, KeepsOnlyTheRateFormats) { check(SS_MC_Edit_Rate, kRateProc); }
+TEST_P(RateEdit, KeepsOnlyTheRateFormats) { check(checkRateField, kRateProc); }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, RateEdit,
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class MoneyEdit : public EditRowTest {};
 
-TEST_P(MoneyEdit, RoundsAndLimitsTheAmounts) { check(SS_MC_Edit_Money, kMoneyProc); }
+TEST_P(MoneyEdit, RoundsAndLimitsTheAmounts) { check(checkRateAmountField, kMoneyProc); }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, MoneyEdit,
@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(RateEditTest, AMoneyEditOnAnotherFieldIsAProgramError) {
     Control& other = field("txtOther");
     other.text = "5";
-    EXPECT_FALSE(SS_MC_Edit_Money(other));
+    EXPECT_FALSE(checkRateAmountField(other));
     EXPECT_TRUE(boxes.empty());
     ASSERT_EQ(reports.size(), 1u);
     EXPECT_EQ(reports[0].module, kMoneyProc);
@@ -159,7 +159,7 @@ protected:
 
 TEST_F(ValidateAllTest, SixGoodFiguresPassAndTakeTheirNormalForm) {
     fill("6.2%", "176100", "1.45", "200000", "2.35%", "2220");
-    EXPECT_TRUE(SS_MC_Validate_All());
+    EXPECT_TRUE(validateAllRates());
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(field("txtSSRate").text, "6.2");
     EXPECT_EQ(field("txtSSMax").text, "176,100.00");
@@ -170,7 +170,7 @@ TEST_F(ValidateAllTest, SixGoodFiguresPassAndTakeTheirNormalForm) {
 
 TEST_F(ValidateAllTest, TheFirstBadFigureInFormOrderEndsIt) {
     fill("6.2", "176100", "100", "2000000", "2.35", "2220");
-    EXPECT_FALSE(SS_MC_Validate_All());
+    EXPECT_FALSE(validateAllRates());
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].message, dataErrorText(kRateProc, 802, kMCRateFormat));
     EXPECT_EQ(desktop().focus(), &field("txtMCInitRate"));
@@ -180,7 +180,7 @@ TEST_F(ValidateAllTest, TheFirstBadFigureInFormOrderEndsIt) {
 
 TEST_F(ValidateAllTest, ALastBadPremiumFailsAfterTheOthersPassed) {
     fill("6.2", "176100", "1.45", "200000", "2.35", "3000.01");
-    EXPECT_FALSE(SS_MC_Validate_All(*form));
+    EXPECT_FALSE(validateAllRates(*form));
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].message, dataErrorText(kMoneyProc, 804, "Amount CANNOT be Greater Than 3,000.00"));
     EXPECT_EQ(field("txtMCChgRateAfter").text, "200,000.00");

@@ -14,7 +14,7 @@ class RatesStoreTest : public ConfigTest {
 protected:
     void SetUp() override {
         ConfigTest::SetUp();
-        form = std::make_unique<F1_Configure>();
+        form = std::make_unique<ConfigureForm>();
         g().CurrentForm = form.get();
         g().TaxYears = {"2024", "2025", "2026", "20XX"};
         g().TaxYearIndex = 1;
@@ -25,10 +25,10 @@ protected:
     void loadYear(const char* digits, const char* status) {
         showYear(digits);
         g().FilingStatus = status;
-        SS_MC_Load();
+        loadRates();
     }
 
-    std::unique_ptr<F1_Configure> form;
+    std::unique_ptr<ConfigureForm> form;
 };
 
 TEST_F(RatesStoreTest, LoadFillsTheFieldsAndGlobalsOfTheYear) {
@@ -106,7 +106,7 @@ TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
     form->txtSSMax.text = "180,000.40";
     form->txtMCChgRateAfter.text = "168600.5";
     form->txtMCPartBPremiums.text = "2300";
-    SS_MC_Save();
+    storeRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ssmc("2025", "SSRate"), "6.5");
     EXPECT_EQ(ssmc("2025", "SSMax"), "180000");
@@ -127,7 +127,7 @@ TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
 TEST_F(RatesStoreTest, SaveGoesToTheSectionShownOnTheForm) {
     loadYear("XX", "Single");
     form->txtSSRate.text = "8";
-    SS_MC_Save();
+    storeRates();
     EXPECT_EQ(ssmc("20XX", "SSRate"), "8");
     EXPECT_EQ(ssmc("20XX", "SSMax"), "190000");
     EXPECT_EQ(ssmc("2025", "SSRate"), "6.2");
@@ -138,7 +138,7 @@ TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
     const std::string before = readFile(g().SSMCInfFile);
     form->txtSSRate.text = "6.5";
     form->txtMCRateAfter.text = "12.5";
-    SS_MC_Save();
+    storeRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].message,
               dataErrorText("M3_Ledgerwick:SS_MC_Edit_Rate", 802,
@@ -148,12 +148,12 @@ TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
 }
 
 TEST(SSMCRow, LaysOutTheItemIn22AndEachValueIn9) {
-    EXPECT_EQ(SS_MC_Row("SS Rate", "6.2", "6.5"), "SS Rate                     6.2      6.5\r\n");
-    EXPECT_EQ(SS_MC_Row("Item", "Original", "Current"), "Item                   Original  Current\r\n");
-    EXPECT_EQ(SS_MC_Row("", "Value", "Value"), "                          Value    Value\r\n");
-    EXPECT_EQ(SS_MC_Row("SS Rate", "6.2", "6.5").size(), 22u + 9u + 9u + 2u);
+    EXPECT_EQ(rateChangeRow("SS Rate", "6.2", "6.5"), "SS Rate                     6.2      6.5\r\n");
+    EXPECT_EQ(rateChangeRow("Item", "Original", "Current"), "Item                   Original  Current\r\n");
+    EXPECT_EQ(rateChangeRow("", "Value", "Value"), "                          Value    Value\r\n");
+    EXPECT_EQ(rateChangeRow("SS Rate", "6.2", "6.5").size(), 22u + 9u + 9u + 2u);
     // Longer texts stand whole.
-    EXPECT_EQ(SS_MC_Row("MC Change Rate After !!", "1234567890", ""),
+    EXPECT_EQ(rateChangeRow("MC Change Rate After !!", "1234567890", ""),
               "MC Change Rate After !!1234567890         \r\n");
 }
 
@@ -170,7 +170,7 @@ protected:
 
 TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
     loadYear("25", "Single");
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 0);
 }
@@ -178,7 +178,7 @@ TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
 TEST_F(CheckChangesTest, UnchangedFiguresEndTheProgramWhenTheFrameIsQuitting) {
     loadYear("25", "Single");
     g().bQuitting = true;
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 1);
 }
@@ -187,7 +187,7 @@ TEST_F(CheckChangesTest, AChangedFigureShowsTheTableAndYesSavesIt) {
     loadYear("25", "Single");
     form->txtSSRate.text = "6.5";
     ui.queueAnswer("Yes");
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].title, "M3_Ledgerwick:SS_MC_Check_Changes");
     EXPECT_EQ(boxes[0].number, 800);
@@ -210,7 +210,7 @@ TEST_F(CheckChangesTest, NoLeavesTheFileAsItWas) {
     form->txtMCPartBPremiums.text = "2,300.00";
     ui.queueAnswer("No");
     g().bQuitting = true;
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2220.00 2,300.00\r\n"), std::string::npos);
     EXPECT_EQ(readFile(g().SSMCInfFile), before);
@@ -221,7 +221,7 @@ TEST_F(CheckChangesTest, TheChangePointIsComparedWithTheOneSavedValue) {
     // Married filing jointly shows 250,000.00, while the saved change point is 200000.
     loadYear("25", "MFJ");
     ui.queueAnswer("No");
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Change Rate After     200000   250000\r\n"), std::string::npos);
 }
@@ -231,7 +231,7 @@ TEST_F(CheckChangesTest, TheStoredYearIsTheOneInForce) {
     loadYear("25", "Single");
     g().TaxYearIndex = 2;
     ui.queueAnswer("No");
-    SS_MC_Check_Changes();
+    offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("SS Max                   184500   176100\r\n"), std::string::npos);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2434.80  2220.00\r\n"), std::string::npos);

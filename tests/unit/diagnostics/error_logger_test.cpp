@@ -18,7 +18,7 @@ namespace {
 class DataErrorNumbers : public DiagnosticsTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(DataErrorNumbers, GoToTheBox) {
-    Error_Logger("M9_Test:Proc", GetParam(), "bad value");
+    logError("M9_Test:Proc", GetParam(), "bad value");
     EXPECT_EQ(ui.modalForms, std::vector<std::string>{"F9_MBX"});
     ASSERT_TRUE(lastMessageBox().has_value());
     EXPECT_EQ(lastMessageBox()->title, "Data Error");
@@ -30,7 +30,7 @@ INSTANTIATE_TEST_SUITE_P(Bounds, DataErrorNumbers, ::testing::Values(800, 850, 8
 class ProgramErrorNumbers : public DiagnosticsTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(ProgramErrorNumbers, GoToTheReportForm) {
-    Error_Logger("M9_Test:Proc", GetParam(), "fault");
+    logError("M9_Test:Proc", GetParam(), "fault");
     EXPECT_EQ(ui.modalForms, std::vector<std::string>{"F8_ErrLog"});
     EXPECT_FALSE(lastMessageBox().has_value());
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -40,7 +40,7 @@ TEST_P(ProgramErrorNumbers, GoToTheReportForm) {
 INSTANTIATE_TEST_SUITE_P(Bounds, ProgramErrorNumbers, ::testing::Values(799, 900, 0, -1, -800, INT_MIN, 5));
 
 TEST_F(DiagnosticsTest, DataErrorBoxHasThreeLinesEndedByBareCarriageReturns) {
-    Error_Logger("M4_FileCode:Read_File", 812, "Record is not a form");
+    logError("M4_FileCode:Read_File", 812, "Record is not a form");
     ASSERT_EQ(ui.boxes.size(), 1u);
     const SeenBox& box = ui.boxes[0];
     EXPECT_EQ(box.record.title, "Data Error");
@@ -57,8 +57,9 @@ TEST_F(DiagnosticsTest, DataErrorBoxHasThreeLinesEndedByBareCarriageReturns) {
               "Error Number:          812\r"
               "Error Description:     Record is not a form\r");
     const int lines = 4;
-    EXPECT_EQ(box.labelHeight, F9_MBX::kLabelDesignHeight * lines + 100);
-    EXPECT_EQ(box.height, F9_MBX::kDesignHeight + F9_MBX::kLabelDesignHeight * (lines - 1) + 100);
+    EXPECT_EQ(box.labelHeight, MessageBoxForm::kLabelDesignHeight * lines + 100);
+    EXPECT_EQ(box.height,
+              MessageBoxForm::kDesignHeight + MessageBoxForm::kLabelDesignHeight * (lines - 1) + 100);
     EXPECT_EQ(box.record.buttons, (std::array<std::string, 4>{"OK", "", "", ""}));
     EXPECT_EQ(box.record.defaultButton, 1);
     EXPECT_FALSE(box.record.showText);
@@ -70,7 +71,7 @@ TEST_F(DiagnosticsTest, DataErrorBoxHasThreeLinesEndedByBareCarriageReturns) {
 
 TEST_F(DiagnosticsTest, ReportFormCarriesProgramModuleNumberDescriptionAndTime) {
     ui.queue([&](Form& form) {
-        auto& report = dynamic_cast<F8_ErrLog&>(form);
+        auto& report = dynamic_cast<ErrorReportForm&>(form);
         EXPECT_EQ(report.caption, "Error in Ledgerwick v.25.1.5");
         EXPECT_EQ(report.Label2[0]->caption, "Ledgerwick v.25.1.5");
         EXPECT_EQ(report.Label2[1]->caption, "M4_FileCode:Read_File");
@@ -79,7 +80,7 @@ TEST_F(DiagnosticsTest, ReportFormCarriesProgramModuleNumberDescriptionAndTime) 
         EXPECT_EQ(report.Label2[5]->caption, "03/07/2025 2:05:09 PM");
         report.unload();
     });
-    Error_Logger("M4_FileCode:Read_File", 53, "File not found");
+    logError("M4_FileCode:Read_File", 53, "File not found");
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->program, "Ledgerwick v.25.1.5");
     EXPECT_EQ(lastErrorReport()->dateTime, "03/07/2025 2:05:09 PM");
@@ -102,7 +103,7 @@ TEST_F(FormTextTest, CaptionWithEqualsGivesNameAndCaptionOnTwoLines) {
     loadFrame("Ledgerwick 25 =   W-2 Wage and Tax Statement  ");
     prog().g.CurrentForm = &loadChild("TF_W2");
     EXPECT_EQ(errorFormText(), "Name    = TF_W2\r\nCaption = W-2 Wage and Tax Statement");
-    Error_Logger("TF_W2:Compute", 6, "Overflow");
+    logError("TF_W2:Compute", 6, "Overflow");
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->form, "Name    = TF_W2\r\nCaption = W-2 Wage and Tax Statement");
 }
@@ -121,7 +122,7 @@ TEST_F(FormTextTest, CaptionWithoutEqualsGivesTheNameAlone) {
 
 TEST_F(FormTextTest, NoFrameAndNoCurrentFormGiveNothing) {
     EXPECT_EQ(errorFormText(), "");
-    Error_Logger("M9_Test:Proc", 5, "x");
+    logError("M9_Test:Proc", 5, "x");
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->form, "");
 }
@@ -137,7 +138,7 @@ TEST_F(FormTextTest, UnloadedCurrentFormCountsAsNone) {
 TEST_F(DiagnosticsTest, FaultWhileReportingIsReportedAsErrorLoggersOwn) {
     ui.failNextShowingOf = "F8_ErrLog";
     ui.failureText = "no screen";
-    Error_Logger("M4_FileCode:Read_File", 53, "File not found");
+    logError("M4_FileCode:Read_File", 53, "File not found");
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F8_ErrLog", "F8_ErrLog"}));
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->module, "Error_Logger");
@@ -148,7 +149,7 @@ TEST_F(DiagnosticsTest, FaultWhileReportingIsReportedAsErrorLoggersOwn) {
 
 TEST_F(DiagnosticsTest, FaultShowingTheDataErrorBoxGoesThroughTheBoxesTail) {
     ui.failNextShowingOf = "F9_MBX";
-    Error_Logger("M9_Test:Proc", 801, "bad");
+    logError("M9_Test:Proc", 801, "bad");
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F9_MBX", "F8_ErrLog"}));
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->module, "M2_VenturoCommon:MA_MBX");
@@ -158,7 +159,7 @@ TEST_F(DiagnosticsTest, PortThatAlwaysFailsDoesNotNestReportsForever) {
     ui.queue([](Form&) { throw AppError(801, "again"); });
     for (int i = 0; i < 20; ++i) ui.queue([](Form&) { throw AppError(801, "again"); });
     ::testing::internal::CaptureStderr();
-    Error_Logger("M9_Test:Proc", 801, "first");
+    logError("M9_Test:Proc", 801, "first");
     const std::string written = ::testing::internal::GetCapturedStderr();
     EXPECT_NE(written.find("nested too deep"), std::string::npos);
     EXPECT_LE(ui.modalForms.size(), 20u);

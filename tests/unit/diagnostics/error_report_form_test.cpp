@@ -15,21 +15,21 @@ namespace {
 
 class ReportFormTest : public DiagnosticsTest {
 protected:
-    // The report form loaded as Error_Logger fills it, but not shown modally, so that the test plays the
+    // The report form loaded as logError fills it, but not shown modally, so that the test plays the
     // operator itself.
-    F8_ErrLog& loadReport() {
-        auto form = std::make_unique<F8_ErrLog>();
+    ErrorReportForm& loadReport() {
+        auto form = std::make_unique<ErrorReportForm>();
         form->F8_App = "Ledgerwick v.25.1.5";
         form->F8_Module = "M4_FileCode:Read_File";
         form->F8_Form = "Name    = TF_W2\r\nCaption = W-2";
         form->F8_ErrNo = "53";
         form->F8_ErrDesc = "File not found";
-        return static_cast<F8_ErrLog&>(prog().desktop.load(std::move(form)));
+        return static_cast<ErrorReportForm&>(prog().desktop.load(std::move(form)));
     }
 };
 
 TEST_F(ReportFormTest, LoadFillsTheLabelsFromTheMembersAndTheClock) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     EXPECT_EQ(form.name(), "F8_ErrLog");
     EXPECT_EQ(form.caption, "Error in Ledgerwick v.25.1.5");
     EXPECT_EQ(form.Label2[0]->caption, "Ledgerwick v.25.1.5");
@@ -42,7 +42,7 @@ TEST_F(ReportFormTest, LoadFillsTheLabelsFromTheMembersAndTheClock) {
 }
 
 TEST_F(ReportFormTest, FixedTexts) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     EXPECT_EQ(form.Label1[0]->caption, "Program:");
     EXPECT_EQ(form.Label1[1]->caption, "Module:");
     EXPECT_EQ(form.Label1[2]->caption, "Form:");
@@ -61,7 +61,7 @@ TEST_F(ReportFormTest, FixedTexts) {
 }
 
 TEST_F(ReportFormTest, InstructionsAreSevenLinesWithTheAddressInTheFifth) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     EXPECT_EQ(form.Label5.caption, errorReportInstructions());
     const std::vector<std::string> lines = text::split(form.Label5.caption, "\r\n");
     ASSERT_EQ(lines.size(), 7u);
@@ -94,25 +94,25 @@ INSTANTIATE_TEST_SUITE_P(CommandLines, DocumentButton,
 TEST_F(DiagnosticsTest, DescriptionIsTypedInCapitals) {
     std::string typed;
     ui.queue([&](Form& form) {
-        auto& report = dynamic_cast<F8_ErrLog&>(form);
+        auto& report = dynamic_cast<ErrorReportForm&>(form);
         FakeUi::type(report.Text1, "saving w2 (ok) #1");
         EXPECT_EQ(prog().desktop.focus(), &report.Text1);
         typed = report.Text1.text;
         FakeUi::press(report.cmdExit);
     });
-    Error_Logger("M9_Test:Proc", 5, "x");
+    logError("M9_Test:Proc", 5, "x");
     EXPECT_EQ(typed, "SAVING W2 (OK) #1");
     EXPECT_EQ(lastErrorReport()->operatorText, "SAVING W2 (OK) #1");
 }
 
 TEST_F(DiagnosticsTest, DescriptionStopsAt300Characters) {
     ui.queueReport(std::string(310, 'q'), "exit");
-    Error_Logger("M9_Test:Proc", 5, "x");
+    logError("M9_Test:Proc", 5, "x");
     EXPECT_EQ(lastErrorReport()->operatorText, std::string(300, 'Q'));
 }
 
 TEST_F(ReportFormTest, ClipWithoutDescriptionAsksForOneAndReturnsToTheField) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     prog().desktop.click(form.cmdClip);
     ASSERT_EQ(ui.boxes.size(), 1u);
     const SeenBox& box = ui.boxes[0];
@@ -129,7 +129,7 @@ TEST_F(ReportFormTest, ClipWithoutDescriptionAsksForOneAndReturnsToTheField) {
 }
 
 TEST_F(ReportFormTest, ClipWithDescriptionCopiesThePictureAndStaysOpen) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     form.Text1.text = "OPENING A FILE";
     prog().desktop.click(form.cmdClip);
     ASSERT_EQ(ui.pictures.size(), 1u);
@@ -141,7 +141,7 @@ TEST_F(ReportFormTest, ClipWithDescriptionCopiesThePictureAndStaysOpen) {
 }
 
 TEST_F(ReportFormTest, BlankDescriptionIsNotEmpty) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     form.Text1.text = " ";
     prog().desktop.click(form.cmdClip);
     EXPECT_EQ(ui.pictures.size(), 1u);
@@ -149,7 +149,7 @@ TEST_F(ReportFormTest, BlankDescriptionIsNotEmpty) {
 }
 
 TEST_F(ReportFormTest, ExitUnloadsAndCopiesNothing) {
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     form.Text1.text = "SOMETHING";
     prog().desktop.click(form.cmdExit);
     EXPECT_TRUE(ui.pictures.empty());
@@ -158,7 +158,7 @@ TEST_F(ReportFormTest, ExitUnloadsAndCopiesNothing) {
 
 TEST_F(ReportFormTest, DocumentButtonClearsTheValuesCopiesAndUnloads) {
     platform.commandLineText = "Error";
-    F8_ErrLog& form = loadReport();
+    ErrorReportForm& form = loadReport();
     prog().desktop.click(form.cmdClearAndCopyForDocument);
     ASSERT_EQ(ui.pictures.size(), 1u);
     EXPECT_EQ(ui.pictures[0].label2Captions, std::vector<std::string>(6, ""));
@@ -167,7 +167,7 @@ TEST_F(ReportFormTest, DocumentButtonClearsTheValuesCopiesAndUnloads) {
 
 TEST_F(DiagnosticsTest, ReportedErrorCanBeCopiedWithTheOperatorsWords) {
     ui.queueReport("was saving", "clip");
-    Error_Logger("M4_FileCode:Save_File", 70, "Permission denied");
+    logError("M4_FileCode:Save_File", 70, "Permission denied");
     ASSERT_EQ(ui.pictures.size(), 1u);
     EXPECT_EQ(ui.pictures[0].formName, "F8_ErrLog");
     EXPECT_EQ(platform.sleeps, std::vector<int>{500});
@@ -180,13 +180,13 @@ TEST_F(DiagnosticsTest, ReportedErrorCanBeCopiedWithTheOperatorsWords) {
 
 TEST_F(DiagnosticsTest, ReportedErrorClipWithoutWordsAsksAndCopiesNothing) {
     ui.queue([&](Form& form) {
-        auto& report = dynamic_cast<F8_ErrLog&>(form);
+        auto& report = dynamic_cast<ErrorReportForm&>(form);
         ui.press(report.cmdClip);
         EXPECT_TRUE(report.isLoaded());
         EXPECT_TRUE(ui.pictures.empty());
         ui.press(report.cmdExit);
     });
-    Error_Logger("M9_Test:Proc", 5, "x");
+    logError("M9_Test:Proc", 5, "x");
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F8_ErrLog", "F9_MBX"}));
     ASSERT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(ui.boxes[0].record.title, "Provide Description");
@@ -196,9 +196,9 @@ TEST_F(DiagnosticsTest, ReportedErrorClipWithoutWordsAsksAndCopiesNothing) {
 TEST_F(DiagnosticsTest, ReportObserversSeeEachReport) {
     std::vector<ErrorReportRecord> seen;
     const int id = addErrorReportObserver([&](const ErrorReportRecord& r) { seen.push_back(r); });
-    Error_Logger("M9_Test:One", 91, "Object variable not set");
+    logError("M9_Test:One", 91, "Object variable not set");
     removeErrorReportObserver(id);
-    Error_Logger("M9_Test:Two", 5, "x");
+    logError("M9_Test:Two", 5, "x");
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0].module, "M9_Test:One");
     EXPECT_EQ(seen[0].number, "91");

@@ -10,7 +10,7 @@ namespace lw::test {
 
 namespace {
 
-SeenBox seen(const F9_MBX& box) {
+SeenBox seen(const MessageBoxForm& box) {
     SeenBox s;
     s.record = box.record();
     s.height = box.height;
@@ -42,7 +42,7 @@ void FakeUi::type(Control& field, const std::string& text) {
 
 void FakeUi::queueAnswer(const std::string& caption) {
     actions_.push_back([this, caption](Form& form) {
-        auto* box = dynamic_cast<F9_MBX*>(&form);
+        auto* box = dynamic_cast<MessageBoxForm*>(&form);
         if (!box) throw std::logic_error("an answer was queued for a box, but " + form.name() + " came");
         Control* button = box->buttonWithCaption(caption);
         if (!button) throw std::logic_error("the box has no button \"" + caption + "\"");
@@ -52,7 +52,7 @@ void FakeUi::queueAnswer(const std::string& caption) {
 
 void FakeUi::queueReport(const std::string& description, const std::string& which) {
     actions_.push_back([this, description, which](Form& form) {
-        auto* report = dynamic_cast<F8_ErrLog*>(&form);
+        auto* report = dynamic_cast<ErrorReportForm*>(&form);
         if (!report) throw std::logic_error("a report was queued, but " + form.name() + " came");
         type(report->Text1, description);
         if (which == "clip") {
@@ -74,7 +74,7 @@ void FakeUi::runModal(Form& form) {
         failNextShowingOf.clear();
         throw std::runtime_error(failureText);
     }
-    if (auto* box = dynamic_cast<F9_MBX*>(&form)) boxes.push_back(seen(*box));
+    if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) boxes.push_back(seen(*box));
 
     if (!actions_.empty()) {
         Action action = std::move(actions_.front());
@@ -83,16 +83,16 @@ void FakeUi::runModal(Form& form) {
         return;
     }
     // No queued answer: a box takes its default button, a report form is left with Exit.
-    if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+    if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) {
         if (Control* button = box->defaultButtonControl()) press(*button);
-    } else if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
+    } else if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
         press(report->cmdExit);
     }
 }
 
 void FakeUi::copyPictureToClipboard(Form& form) {
     Picture picture{form.name(), {}};
-    if (auto* report = dynamic_cast<F8_ErrLog*>(&form))
+    if (auto* report = dynamic_cast<ErrorReportForm*>(&form))
         for (Control* label : report->Label2) picture.label2Captions.push_back(label->caption);
     pictures.push_back(picture);
 }

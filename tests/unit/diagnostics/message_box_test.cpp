@@ -16,7 +16,7 @@ std::string oneButton(const std::string& message, int number = 800) {
 }
 
 TEST_F(DiagnosticsTest, FreshBoxHasItsDesignTexts) {
-    F9_MBX box;
+    MessageBoxForm box;
     EXPECT_EQ(box.name(), "F9_MBX");
     EXPECT_EQ(box.lblMessage.caption, "*");
     EXPECT_EQ(box.cmd1.caption, "1");
@@ -26,13 +26,13 @@ TEST_F(DiagnosticsTest, FreshBoxHasItsDesignTexts) {
     EXPECT_NE(box.find("cmdDummy"), nullptr);
     EXPECT_NE(box.find("imgVBInformation"), nullptr);
     EXPECT_FALSE(box.isChild);
-    EXPECT_EQ(box.height, F9_MBX::kDesignHeight);
+    EXPECT_EQ(box.height, MessageBoxForm::kDesignHeight);
 }
 
 TEST_F(DiagnosticsTest, LoadNotesTheLabelsDesignHeight) {
     ui.queue([](Form& form) {
-        auto& box = dynamic_cast<F9_MBX&>(form);
-        EXPECT_EQ(box.lblMessageDesignHeight, F9_MBX::kLabelDesignHeight);
+        auto& box = dynamic_cast<MessageBoxForm&>(form);
+        EXPECT_EQ(box.lblMessageDesignHeight, MessageBoxForm::kLabelDesignHeight);
         box.unload();
     });
     oneButton("Hello");
@@ -85,7 +85,7 @@ TEST_F(DiagnosticsTest, InputLineShowsTheAnswerTextAndTheFirstTwoButtonsReadItBa
     for (const std::string caption : {"Save", "Rename"}) {
         messageBoxState().answerText = "OLD NAME";
         ui.queue([&](Form& form) {
-            auto& box = dynamic_cast<F9_MBX&>(form);
+            auto& box = dynamic_cast<MessageBoxForm&>(form);
             EXPECT_TRUE(box.Text1.visible);
             EXPECT_EQ(box.Text1.text, "OLD NAME");
             box.Text1.text = "NEW NAME";
@@ -101,7 +101,7 @@ TEST_F(DiagnosticsTest, ThirdAndFourthButtonsDoNotReadTheInput) {
     for (const std::string caption : {"Skip", "Cancel"}) {
         messageBoxState().answerText = "OLD NAME";
         ui.queue([&](Form& form) {
-            auto& box = dynamic_cast<F9_MBX&>(form);
+            auto& box = dynamic_cast<MessageBoxForm&>(form);
             box.Text1.text = "TYPED";
             ui.press(*box.buttonWithCaption(caption));
         });
@@ -114,7 +114,7 @@ TEST_F(DiagnosticsTest, ThirdAndFourthButtonsDoNotReadTheInput) {
 TEST_F(DiagnosticsTest, WithoutTheInputFlagTheInputIsHiddenAndNotRead) {
     messageBoxState().answerText = "KEEP";
     ui.queue([&](Form& form) {
-        auto& box = dynamic_cast<F9_MBX&>(form);
+        auto& box = dynamic_cast<MessageBoxForm&>(form);
         EXPECT_FALSE(box.Text1.visible);
         box.Text1.text = "TYPED";
         ui.press(box.cmd1);
@@ -133,7 +133,7 @@ TEST_F(DiagnosticsTest, InputSitsBelowTheGrownLabel) {
 
 TEST_F(DiagnosticsTest, ActivationLaysTheBoxOutOnce) {
     ui.queue([](Form& form) {
-        auto& box = dynamic_cast<F9_MBX&>(form);
+        auto& box = dynamic_cast<MessageBoxForm&>(form);
         const int height = box.height;
         const int top = box.cmd1.top;
         box.onActivate();

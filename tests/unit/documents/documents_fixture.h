@@ -44,7 +44,7 @@ public:
         for (int i = 0; i < shape.secondTexts; ++i) add(ControlKind::TextBox, "Text2", i).tabIndex = 100 + i;
         for (int i = 0; i < shape.checks; ++i) add(ControlKind::CheckLabel, "Check", i);
     }
-    void onLoad() override { Form_Common_Init(*this); }
+    void onLoad() override { initCatalogueForm(*this); }
 };
 
 // The driver's license keeps the numbers of its two portraits.
@@ -57,9 +57,11 @@ public:
         at("Text1", 1).tag = "DATE";
         at("Text1", 5).tag = "DATE";
     }
-    int& chosenPicture(int which) override { return which == 1 ? p_iDL1PicIndex : p_iDL2PicIndex; }
-    int p_iDL1PicIndex = 0;
-    int p_iDL2PicIndex = 0;
+    int& chosenPicture(int which) override {
+        return which == 1 ? license1PictureIndex : license2PictureIndex;
+    }
+    int license1PictureIndex = 0;
+    int license2PictureIndex = 0;
 };
 
 inline void registerSmallForms() {
@@ -118,7 +120,7 @@ struct Documents : ::testing::Test {
 
     Form& open(const std::string& name) {
         g.CurrentFileName.clear();
-        Form* form = Form_Open(name);
+        Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
         return *form;
     }
@@ -137,7 +139,7 @@ struct Documents : ::testing::Test {
     // The Open command with the dialog answered by `path`.
     void openFile(const std::string& path) {
         test.ui.fileAnswers.push_back(path);
-        Open_File();
+        openDataFile();
     }
 
     Form* active() { return test.program->desktop.activeChild(); }

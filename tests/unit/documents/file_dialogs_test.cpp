@@ -89,7 +89,7 @@ TEST_F(FileDialogs, TheAnswerIsCutAtItsFirstNul) {
 
 TEST_F(FileDialogs, AFolderThatHasGoneIsForgottenBeforeTheOpenDialog) {
     store::SaveINF("TESTER", "LastOpenFolder", (test.root / "vanished").string(), g.UserInfFile);
-    Open_File();
+    openDataFile();
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "");
     EXPECT_EQ(userInf("LastOpenFolder"), "");

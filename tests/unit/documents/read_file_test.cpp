@@ -16,7 +16,7 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
     form.at("Text1", 0).text = "MARY A SAMPLE\r\n12 MAIN ST";
     form.at("Text1", 3).text = "1,234.00";
     form.at("Check", 2).caption = "X";
-    const std::string path = write("w2.venturo", Build_Record() + "\r\n");
+    const std::string path = write("w2.venturo", buildRecord() + "\r\n");
     open("F4_CHK");
     openFile(path);
     ASSERT_NE(active(), nullptr);
@@ -34,9 +34,9 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
 
 TEST_F(ReadFile, ReturnsTheTitleOfTheForm) {
     g.CurrentFileName = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=A\r\n");
-    EXPECT_EQ(Read_File(), "TF_W2");
+    EXPECT_EQ(readDataFile(), "TF_W2");
     g.CurrentFileName.clear();
-    EXPECT_EQ(Read_File(), "") << "no file, nothing read";
+    EXPECT_EQ(readDataFile(), "") << "no file, nothing read";
 }
 
 TEST_F(ReadFile, TheFileNamesTheFormWhateverIsOnTheScreenAndTheYearInForceStays) {
@@ -153,7 +153,7 @@ TEST_F(ReadFile, FilesThatAreNoRecordAreRefusedUnchangedWithAMessage) {
         test.ui.boxes.clear();
         const std::string path = write(file.name, file.bytes);
         g.CurrentFileName = path;
-        EXPECT_EQ(Read_File(), "");
+        EXPECT_EQ(readDataFile(), "");
         EXPECT_EQ(active(), before) << "nothing is unloaded for a file that is no record";
         EXPECT_EQ(contents(path), file.bytes);
         ASSERT_EQ(test.ui.boxes.size(), 1u);
@@ -172,7 +172,7 @@ TEST_F(ReadFile, AMissingFileIsReported) {
 
 TEST_F(ReadFile, CancelInOpenModeLeavesNoForm) {
     open("TF_W2");
-    Open_File();
+    openDataFile();
     EXPECT_EQ(active(), nullptr);
     EXPECT_EQ(g.CurrentFileName, D);
     EXPECT_TRUE(test.ui.boxes.empty());
@@ -191,7 +191,7 @@ TEST_F(ReadFile, TheDatePassEndsAtTheFirstThatFails) {
     Form& form = open("TF_W2G");
     form.at("Text1", 2).text = "13/45/2025";
     form.at("Text1", 3).text = "1/2/1999";
-    Form_Recheck_Dates();
+    recheckDates();
     EXPECT_EQ(form.at("Text1", 3).text, "1/2/1999");
 }
 
@@ -211,11 +211,11 @@ TEST_F(ReadFile, TheBenefitStatementTakesEveryKeyIntoItsFirstArrayAndShowsNegati
 TEST_F(ReadFile, TheLicenseGetsItsPicturesBack) {
     openFile(write("dl.venturo", "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0\r\n"));
     auto& license = dynamic_cast<SmallLicenseForm&>(*active());
-    EXPECT_EQ(license.p_iDL1PicIndex, 7);
-    EXPECT_EQ(license.p_iDL2PicIndex, 0);
+    EXPECT_EQ(license.license1PictureIndex, 7);
+    EXPECT_EQ(license.license2PictureIndex, 0);
     EXPECT_EQ(license.at("Picture2").picture, g.PicturesFolder + "/P7GS.jpg");
     EXPECT_EQ(license.at("Picture4").picture, "");
-    EXPECT_EQ(Build_Record(), "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0");
+    EXPECT_EQ(buildRecord(), "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0");
 }
 
 TEST_F(ReadFile, TheCardsShowTheirKindByTheFirstDigit) {

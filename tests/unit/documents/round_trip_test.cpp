@@ -26,10 +26,10 @@ struct StartedProgram : ::testing::TestWithParam<std::string> {
     // Saves the open form to a file of that name, unloads it and opens the file: the form read back.
     Form* saveAndReadBack(Form& form, const std::string& fileName) {
         const std::string path = (test.root / fileName).string();
-        std::ofstream(path, std::ios::binary) << Build_Record() << "\r\n";
+        std::ofstream(path, std::ios::binary) << buildRecord() << "\r\n";
         form.unload();
         test.program->g.CurrentFileName = path;
-        EXPECT_EQ(Read_File(), GetParam());
+        EXPECT_EQ(readDataFile(), GetParam());
         return test.program->desktop.activeChild();
     }
 };
@@ -57,7 +57,7 @@ std::string markReadBack(const std::string& formName, const Control& c) {
 
 TEST_P(RoundTrip, EveryFieldAndMarkComesBack) {
     const std::string formName = GetParam();
-    Form* form = Form_Open(formName);
+    Form* form = openCatalogueForm(formName);
     ASSERT_NE(form, nullptr) << formName;
     std::map<std::string, std::string> written;
     for (const auto& owned : form->controls()) {
@@ -85,7 +85,7 @@ TEST_P(RoundTrip, EveryFieldAndMarkComesBack) {
 TEST_P(RoundTrip, AK1KeepsItsCodesAmountsAndMarks) {
     const std::string formName = GetParam();
     if (formName.rfind("TF_K1", 0) != 0) GTEST_SKIP() << "only the K-1 forms have code rows";
-    Form* form = Form_Open(formName);
+    Form* form = openCatalogueForm(formName);
     ASSERT_NE(form, nullptr);
     std::map<std::string, std::string> written;
     std::map<std::string, std::string> tags;
@@ -94,8 +94,10 @@ TEST_P(RoundTrip, AK1KeepsItsCodesAmountsAndMarks) {
         Control& c = *owned;
         if (isFieldArray(c) && c.name != "Text1") {
             const bool code = c.name == "Text2" || c.name == "Text4";
-            if (code && c.tag.rfind("K1HELP", 0) == 0) c.text = std::string(1, static_cast<char>('A' + n++ % 26));
-            else if (!code) c.text = c.tag == "CheckBox" ? "X" : std::to_string(100 + n++) + ".00";
+            if (code && c.tag.rfind("K1HELP", 0) == 0)
+                c.text = std::string(1, static_cast<char>('A' + n++ % 26));
+            else if (!code)
+                c.text = c.tag == "CheckBox" ? "X" : std::to_string(100 + n++) + ".00";
             written[c.key()] = c.text;
             tags[c.key()] = c.tag;
         } else if (c.name == "Check" && c.index != kNoIndex && c.index % 2 == 0) {
@@ -153,7 +155,7 @@ std::string typedValueFor(const Control& c) {
 
 TEST_P(TypedRoundTrip, EveryTypedValueComesBackUnchanged) {
     const std::string formName = GetParam();
-    Form* form = Form_Open(formName);
+    Form* form = openCatalogueForm(formName);
     ASSERT_NE(form, nullptr) << formName;
     std::map<std::string, std::string> written;
     int marks = 0;
@@ -181,7 +183,8 @@ TEST_P(TypedRoundTrip, EveryTypedValueComesBackUnchanged) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MortgageTuitionAndHealthForms, TypedRoundTrip,
-                         ::testing::Values("TF_1098", "TF_1098E", "TF_1098T", "TF_1095A", "TF_1095B", "TF_1095C"),
+                         ::testing::Values("TF_1098", "TF_1098E", "TF_1098T", "TF_1095A", "TF_1095B",
+                                           "TF_1095C"),
                          [](const ::testing::TestParamInfo<std::string>& info) { return info.param; });
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "documents/f7_save.h"
+#include "documents/save_form.h"
 #include "forms/register_forms.h"
 #include "forms/tax_form.h"
 #include "model/program.h"
@@ -96,7 +96,7 @@ struct Saving : ::testing::Test {
     fs::path forms() const { return test.root / "VenturoForms"; }
     void useTemplate(int i) { g.FileNameFormat = std::string(kTemplates[i]) + g.FileExtension; }
     Form& open(const std::string& name) {
-        Form* form = Form_Open(name);
+        Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
         return *form;
     }
@@ -109,10 +109,10 @@ struct Saving : ::testing::Test {
         set(form, 4, "ABC PLUMBING");
         return form;
     }
-    std::string name(int& focus) { return Build_FileName(focus); }
+    std::string name(int& focus) { return proposeFileName(focus); }
     std::string name() {
         int focus = -1;
-        return Build_FileName(focus);
+        return proposeFileName(focus);
     }
     std::string lastBox() const { return test.ui.boxes.empty() ? std::string() : test.ui.boxes.back(); }
     int filesIn(const fs::path& folder) const {
@@ -342,7 +342,7 @@ TEST_F(Saving, SaveWritesTheRecordAndOneLineEndWhereTheDialogSays) {
     w2().at("Text1", 0).toolTipText = "The employee's number";
     const fs::path path = forms() / "doe.venturo";
     test.ui.fileAnswers.push_back(path.string());
-    Save_File();
+    saveDataFile();
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_TRUE(test.ui.fileDialogs[0].save);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
@@ -363,14 +363,14 @@ TEST_F(Saving, TheExtensionStandsOnceAtTheEnd) {
     Form& form = w2();
     set(form, 4, "A.VENTURO PLUMBING");
     test.ui.fileAnswers.push_back((forms() / "x.venturo").string());
-    Save_File();
+    saveDataFile();
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_A PLUMBING_000.venturo");
 }
 
 TEST_F(Saving, CancelWritesNothing) {
     w2();
-    Save_File();
+    saveDataFile();
     EXPECT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(filesIn(forms()), 0);
 }
@@ -379,14 +379,14 @@ TEST_F(Saving, AnOpenedFileIsSavedWithoutADialog) {
     w2();
     const fs::path path = forms() / "opened.venturo";
     g.CurrentFileName = path.string();
-    Save_File();
+    saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
 }
 
 TEST_F(Saving, ANamingErrorAsksForNoPath) {
     w2("");
-    Save_File();
+    saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos);
@@ -397,7 +397,7 @@ TEST_F(Saving, ANamingErrorAsksForNoPath) {
 TEST_F(Saving, TheNumberErrorSendsTheOperatorToTheNumber) {
     Form& form = open("TF_1099R");
     set(form, 7, "MARY SAMPLE");
-    Save_File();
+    saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(test.program->desktop.focus(), &form.at("Text1", 4));
 }
@@ -406,7 +406,7 @@ TEST_F(Saving, CardsThatDoNotPairUpAreNotSaved) {
     Form& form = open("F2_SS_ITIN");
     set(form, 0, "123-45-6789");
     test.ui.fileAnswers.push_back((forms() / "cards.venturo").string());
-    Save_File();
+    saveDataFile();
     EXPECT_EQ(g.FormRecord, "Error SS_ITIN");
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
@@ -417,7 +417,7 @@ TEST_F(Saving, AnExistingFileLeftWithoutAnAnswerIsKept) {
     const fs::path path = forms() / "kept.venturo";
     std::ofstream(path, std::ios::binary) << "OLD\r\n";
     test.ui.fileAnswers.push_back(path.string());
-    Save_File();
+    saveDataFile();
     EXPECT_EQ(readFile(path), "OLD\r\n");
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
     EXPECT_NE(g.CurrentForm->at("labelMisc").foreColor, 255u);
@@ -427,7 +427,7 @@ TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
     w2();
     const fs::path gone = test.root / "GoneFolder";
     test.ui.fileAnswers.push_back((gone / "doe.venturo").string());
-    Save_File();
+    saveDataFile();
     EXPECT_FALSE(fs::exists(gone));
     ASSERT_FALSE(test.ui.boxes.empty());
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
@@ -444,7 +444,7 @@ TEST_F(Saving, AFailedWriteIsToldAndLeavesNoPieceBehind) {
     const fs::path path = forms() / "taken.venturo";
     fs::create_directories(path);
     test.ui.fileAnswers.push_back(path.string());
-    Save_File();
+    saveDataFile();
     EXPECT_TRUE(fs::is_directory(path));
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
     EXPECT_EQ(filesIn(forms()), 1);
@@ -463,19 +463,19 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
     set(form, 0, "JOHN DOE");
     set(form, 1, "123-45-6789");
     test.ui.fileAnswers.push_back(path.string());
-    Save_File();
+    saveDataFile();
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(onDisk, g.FormRecord + "\r\n");
 
     w2();
     test.ui.fileAnswers.push_back((forms() / "w2.venturo").string());
-    Save_File();
+    saveDataFile();
     EXPECT_EQ(calls, 1);
 }
 
 TEST_F(Saving, SavingWithNoFormIsADataErrorAndWritesNothing) {
     g.CurrentForm->unload();
-    Save_File();
+    saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_NE(lastBox().find("You must open an existing form"), std::string::npos) << lastBox();
 }

@@ -22,7 +22,9 @@ protected:
     void write(const std::string& key, const std::string& value) {
         store::SaveINF("TESTER", key, value, g.UserInfFile);
     }
-    std::string read(const std::string& key) { return store::ReadINF("TESTER", key, "<none>", g.UserInfFile); }
+    std::string read(const std::string& key) {
+        return store::ReadINF("TESTER", key, "<none>", g.UserInfFile);
+    }
 
     std::string existing_;
     std::string gone_;
@@ -31,7 +33,7 @@ protected:
 TEST_F(VerifyInfEntry, AnOpenFolderThatHasGoneIsForgotten) {
     write("LastOpenFolder", gone_);
     write("LastSaveFolder", gone_);
-    Verify_INF_Entry("Open");
+    verifyRememberedFolder("Open");
     EXPECT_EQ(read("LastOpenFolder"), "");
     EXPECT_EQ(read("LastSaveFolder"), gone_);
     EXPECT_TRUE(test.ui.boxes.empty());
@@ -40,32 +42,32 @@ TEST_F(VerifyInfEntry, AnOpenFolderThatHasGoneIsForgotten) {
 TEST_F(VerifyInfEntry, TheKindOfTheDialogIsBlindToCase) {
     write("LastOpenFolder", gone_);
     write("LastSaveFolder", gone_);
-    Verify_INF_Entry("SAVE");
+    verifyRememberedFolder("SAVE");
     EXPECT_EQ(read("LastSaveFolder"), "");
     EXPECT_EQ(read("LastOpenFolder"), gone_);
-    Verify_INF_Entry("oPEN");
+    verifyRememberedFolder("oPEN");
     EXPECT_EQ(read("LastOpenFolder"), "");
 }
 
 TEST_F(VerifyInfEntry, AnExistingFolderIsKept) {
     write("LastOpenFolder", existing_);
     write("LastSaveFolder", existing_);
-    Verify_INF_Entry("open");
-    Verify_INF_Entry("Save");
+    verifyRememberedFolder("open");
+    verifyRememberedFolder("Save");
     EXPECT_EQ(read("LastOpenFolder"), existing_);
     EXPECT_EQ(read("LastSaveFolder"), existing_);
 }
 
 TEST_F(VerifyInfEntry, AFileIsNoFolder) {
     write("LastSaveFolder", g.UserInfFile);
-    Verify_INF_Entry("save");
+    verifyRememberedFolder("save");
     EXPECT_EQ(read("LastSaveFolder"), "");
 }
 
 TEST_F(VerifyInfEntry, AnyOtherKindIsAProgramErrorThatTouchesNothing) {
     write("LastOpenFolder", gone_);
     write("LastSaveFolder", gone_);
-    Verify_INF_Entry("Print");
+    verifyRememberedFolder("Print");
     EXPECT_EQ(read("LastOpenFolder"), gone_);
     EXPECT_EQ(read("LastSaveFolder"), gone_);
     ASSERT_EQ(test.ui.reports.size(), 1u);

@@ -111,7 +111,7 @@ TEST_F(FieldsTest, AFailedAmountKeepsTheFocusUntilItIsCleared) {
 TEST_F(FieldsTest, ANegativeAmountIsRepaintedAtOnce) {
     Control& amount = field("-MONEY", "(5)");
     const int before = ui.refreshes;
-    EXPECT_TRUE(EditCtl_Money_NegativeOK(amount));
+    EXPECT_TRUE(editMoneyNegativeOk(amount));
     EXPECT_GT(ui.refreshes, before);
 }
 

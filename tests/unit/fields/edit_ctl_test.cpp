@@ -156,22 +156,22 @@ TEST_F(FieldsTest, AFailedDateLeavesTheFocusWhereItIs) {
 TEST_F(FieldsTest, TheEditsCanBeCalledAlone) {
     Control& c = field("");
     c.text = "1234.5";
-    EXPECT_TRUE(EditCtl_Money(c));
+    EXPECT_TRUE(editMoney(c));
     EXPECT_EQ(c.text, "$1,234.50");
     c.text = "(1)";
-    EXPECT_TRUE(EditCtl_Money_NegativeOK(c));
+    EXPECT_TRUE(editMoneyNegativeOk(c));
     EXPECT_EQ(c.text, "($1.00)");
     c.text = "1234";
-    EXPECT_TRUE(EditCtl_Numeric(c));
+    EXPECT_TRUE(editNumeric(c));
     EXPECT_EQ(c.text, "1,234");
     c.text = "914";
-    EXPECT_TRUE(EditCtl_EIN(c));
+    EXPECT_TRUE(editEin(c));
     EXPECT_EQ(c.text, "91-4XXXXXX");
     c.text = "5551212";
-    EXPECT_TRUE(EditCtl_Phone(c));
+    EXPECT_TRUE(editPhone(c));
     EXPECT_EQ(c.text, "(999) 555-1212");
     c.text = "a\r\nb";
-    EXPECT_TRUE(EditCtl_NameBlock(c));
+    EXPECT_TRUE(editNameBlock(c));
     EXPECT_EQ(c.text, "A\r\nB");
 }
 

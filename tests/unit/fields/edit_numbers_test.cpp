@@ -83,7 +83,7 @@ TEST_F(FieldsTest, TheCenturyOfAYearIsThatOfTheMachinesClock) {
 
 TEST_F(FieldsTest, TheDecimalEditPassesAnEmptyTextWhenCalledItself) {
     Control& empty = field("%");
-    EXPECT_TRUE(EditCtl_NumericDecimalOK(empty));
+    EXPECT_TRUE(editNumericDecimalOk(empty));
     EXPECT_EQ(empty.text, "");
 }
 

@@ -9,7 +9,7 @@ namespace lw::test {
 
 void FakeUi::runModal(Form& form) {
     modalForms.push_back(form.name());
-    if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+    if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) {
         Control* button = nullptr;
         if (!answers_.empty()) {
             const std::string caption = answers_.front();
@@ -23,7 +23,7 @@ void FakeUi::runModal(Form& form) {
         boxes.push_back(box->record());
         return;
     }
-    if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) program().desktop.click(report->cmdExit);
+    if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) program().desktop.click(report->cmdExit);
 }
 
 }  // namespace lw::test

@@ -28,10 +28,10 @@ public:
     FieldForm(const std::string& name, bool everyKeyFiltered)
         : Form(name), everyKeyFiltered_(everyKeyFiltered) {}
 
-    void onGotFocus(Control& ctl) override { Control_Setup(ctl, false); }
-    void onKeyPress(Control& ctl, int& KeyAscii) override {
-        if (!everyKeyFiltered_ && (KeyAscii == keys::kCtrlC || KeyAscii == keys::kCtrlV)) return;
-        Key_Press(ctl, KeyAscii);
+    void onGotFocus(Control& ctl) override { setUpControl(ctl, false); }
+    void onKeyPress(Control& ctl, int& keyAscii) override {
+        if (!everyKeyFiltered_ && (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV)) return;
+        filterFieldKey(ctl, keyAscii);
     }
     void onValidate(Control& ctl, bool& Cancel) override {
         if (!everyKeyFiltered_) Cancel = !EditCtl(ctl);

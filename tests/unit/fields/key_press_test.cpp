@@ -20,7 +20,7 @@ class KeyFilter : public FieldsTest, public ::testing::WithParamInterface<KeyRow
 TEST_P(KeyFilter, PassesChangesOrSwallowsTheKey) {
     Control& c = field(GetParam().tag);
     int key = GetParam().key;
-    Key_Press(c, key);
+    filterFieldKey(c, key);
     EXPECT_EQ(key, GetParam().expected);
 }
 

@@ -12,7 +12,7 @@ namespace lw {
 namespace {
 
 // The 1095-A opened from its menu item; the operator types into the monthly amounts of Part III.
-struct Form1095ATotals : testing::OpenedForm<TF_1095A> {
+struct Form1095ATotals : testing::OpenedForm<Form1095A> {
     Form1095ATotals() : OpenedForm("mnu1095A", "TF_1095A") {}
 };
 
@@ -117,12 +117,12 @@ TEST_F(Form1095ATotals, F12BeyondTheLimitShowsTheFieldsMessageAndNoTotal) {
 TEST_F(Form1095ATotals, CopyAndPasteKeysPassByTheFilterOfAMoneyField) {
     desktop().setFocus(field(38));
     for (int key : {keys::kCtrlC, keys::kCtrlV}) {
-        int KeyAscii = key;
-        form->Text1_KeyPress(38, KeyAscii);
-        EXPECT_EQ(KeyAscii, key);
+        int keyAscii = key;
+        form->onText1KeyPress(38, keyAscii);
+        EXPECT_EQ(keyAscii, key);
     }
     int letter = 'A';
-    form->Text1_KeyPress(38, letter);
+    form->onText1KeyPress(38, letter);
     EXPECT_EQ(letter, 0);
 }
 

@@ -15,7 +15,7 @@ namespace {
 struct Form1095CKinds : testing::OpenedForm<EnterMovesOnForm> {
     Form1095CKinds() : OpenedForm("mnu1095C", "TF_1095C") {}
     int filtered(int i, int key) {
-        Key_Press(field(i), key);
+        filterFieldKey(field(i), key);
         return key;
     }
 };

@@ -1,6 +1,7 @@
+#include "forms/form_1099b.h"
+
 #include <gtest/gtest.h>
 
-#include "forms/form_1099b.h"
 #include "model/keys.h"
 #include "opened_form.h"
 
@@ -8,11 +9,11 @@ namespace lw {
 namespace {
 
 // The 1099-B opened from its menu item: its contract boxes are outside the training.
-struct Form1099B : testing::OpenedForm<TF_1099B> {
-    Form1099B() : OpenedForm("mnu1099B", "TF_1099B") {}
+struct Form1099BTest : testing::OpenedForm<Form1099B> {
+    Form1099BTest() : OpenedForm("mnu1099B", "TF_1099B") {}
 };
 
-TEST_F(Form1099B, TheContractBoxesSayTheyAreOutOfScope) {
+TEST_F(Form1099BTest, TheContractBoxesSayTheyAreOutOfScope) {
     for (int i = 21; i <= 24; ++i) {
         SCOPED_TRACE(i);
         EXPECT_EQ(field(i).tag, "OUT OF SCOPE");
@@ -27,7 +28,7 @@ TEST_F(Form1099B, TheContractBoxesSayTheyAreOutOfScope) {
     EXPECT_EQ(field(25).backColor, kWhite);
 }
 
-TEST_F(Form1099B, TabPassesOverThem) {
+TEST_F(Form1099BTest, TabPassesOverThem) {
     desktop().setFocus(field(20));
     ASSERT_EQ(focus(), &field(20));
     tab();
@@ -36,7 +37,7 @@ TEST_F(Form1099B, TabPassesOverThem) {
     EXPECT_EQ(focus(), &field(20));
 }
 
-TEST_F(Form1099B, AClickOrACallNeverGivesThemTheFocus) {
+TEST_F(Form1099BTest, AClickOrACallNeverGivesThemTheFocus) {
     desktop().setFocus(field(19));
     for (int i = 21; i <= 24; ++i) {
         SCOPED_TRACE(i);
@@ -49,7 +50,7 @@ TEST_F(Form1099B, AClickOrACallNeverGivesThemTheFocus) {
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
-TEST_F(Form1099B, TheTermMarksExcludeEachOther) {
+TEST_F(Form1099BTest, TheTermMarksExcludeEachOther) {
     Control& shortTerm = form->at("Check", 2);
     Control& longTerm = form->at("Check", 3);
     desktop().click(shortTerm);

@@ -1,6 +1,7 @@
+#include "forms/form_1099g.h"
+
 #include <gtest/gtest.h>
 
-#include "forms/form_1099g.h"
 #include "model/keys.h"
 #include "opened_form.h"
 
@@ -8,7 +9,7 @@ namespace lw {
 namespace {
 
 // The 1099-G opened from its menu item, with the operator's typing and moves.
-struct Form1099GYearBox : testing::OpenedForm<TF_1099G> {
+struct Form1099GYearBox : testing::OpenedForm<Form1099G> {
     Form1099GYearBox() : OpenedForm("mnu1099G", "TF_1099G") {}
     Control& yearBox() { return field(5); }
 };

@@ -13,7 +13,7 @@ const std::string kMessageHead = "Message Number: 801\r\nSSA1099 - Error in Soci
 const std::string kMessageTail = "\r\nMake corrections before continuing.";
 
 // The RRB-1099 opened from its menu item on 10 June 2025, whose Part B premium is 2220.00.
-struct RrbForm : testing::BenefitForm<TF_RRB1099> {
+struct RrbForm : testing::BenefitForm<FormRrb1099> {
     RrbForm() : BenefitForm("mnuRRB1099", "TF_RRB1099", 12) {}
 };
 
@@ -38,7 +38,7 @@ TEST_F(RrbForm, WorkedExampleThenTheSecondMessage) {
     EXPECT_EQ(box(6).text, "$4,000.00");
     EXPECT_EQ(box(12).text, "$170.00");
     EXPECT_TRUE(test.ui.boxes.empty());
-    EXPECT_FALSE(form->b_RRBError);
+    EXPECT_FALSE(form->rrbError);
     EXPECT_EQ(focus(), &box(17));
 
     typeInto(11, "5000");
@@ -46,14 +46,15 @@ TEST_F(RrbForm, WorkedExampleThenTheSecondMessage) {
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_EQ(test.ui.boxes[0], kMessageHead +
                                     "Box 5. Net Benefits MINUS total of\r\n--Boxes (7, 8, 9, 10 and 11)\r\n"
-                                    "ARE LESS THAN ZERO" + kMessageTail);
+                                    "ARE LESS THAN ZERO" +
+                                    kMessageTail);
     const auto& shown = lastMessageBox();
     ASSERT_TRUE(shown.has_value());
     EXPECT_EQ(shown->title, "TF_RRB1099:ComputeRRB");
     EXPECT_EQ(shown->buttons[0], "OK");
     EXPECT_EQ(shown->buttons[1], "");
     EXPECT_EQ(box(6).foreColor, kRed);
-    EXPECT_TRUE(form->b_RRBError);
+    EXPECT_TRUE(form->rrbError);
     EXPECT_EQ(focus(), &box(12)) << "the operator's move is kept";
 }
 
@@ -69,11 +70,11 @@ TEST_F(RrbForm, NetBelowNoughtIsTheFirstMessage) {
     EXPECT_EQ(box(6).foreColor, kRed);
     // The next field of 4 to 12 left clears the flag and computes nothing; the one after computes.
     desktop().setFocus(box(8));
-    EXPECT_FALSE(form->b_RRBError);
+    EXPECT_FALSE(form->rrbError);
     EXPECT_EQ(test.ui.boxes.size(), 1u);
     desktop().setFocus(box(9));
     EXPECT_EQ(test.ui.boxes.size(), 2u);
-    EXPECT_TRUE(form->b_RRBError);
+    EXPECT_TRUE(form->rrbError);
 }
 
 TEST_F(RrbForm, ANetFallingToNoughtKeepsItsLastFigure) {

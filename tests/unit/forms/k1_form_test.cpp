@@ -26,7 +26,7 @@ struct K1Forms : testing::FormUnderTest<> {
                "[K1-1041-Box9]\r\nA|Depreciation|\r\n[K1-1041-Box11]\r\nA|Excess deductions|\r\n";
     }
     void open(const char* name) {
-        form = Form_Open(name);
+        form = openCatalogueForm(name);
         ASSERT_NE(form, nullptr) << name;
     }
     Control& field(const char* name, int i) { return form->at(name, i); }
@@ -90,7 +90,7 @@ TEST_F(K1Forms, ClearTakesBackTheBoxNumberAndTheMoneyCheckOfARowOverridden) {
     ASSERT_EQ(field("Text4", 0).text, "C");
     ASSERT_EQ(field("Text5", 0).tag, "");
     field("Text5", 0).text = "SEE STATEMENT";
-    Form_Clear();
+    clearForm();
     EXPECT_EQ(field("Text4", 0).text, "14");
     EXPECT_EQ(field("Text5", 0).tag, "MONEY");
     EXPECT_EQ(field("Text5", 0).text, "");

@@ -77,7 +77,7 @@ TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode)
             EXPECT_EQ(codes.count(parts[0]), 1u)
                 << section << " has a code the instructions do not: " << line;
             EXPECT_TRUE(seen.insert(parts[0]).second) << section << " lists a code twice: " << line;
-            const std::vector<std::string> row = text::split(K1Help_GridRow(line), "\t");
+            const std::vector<std::string> row = text::split(k1HelpGridRow(line), "\t");
             ASSERT_EQ(row.size(), 4u);
             EXPECT_FALSE(row[1].empty()) << line;
             EXPECT_FALSE(row[2].empty()) << section << " " << parts[0] << " tells nowhere to read more";
@@ -91,7 +91,7 @@ TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode)
 
 std::string informationOf(const std::string& section, const std::string& code) {
     for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
-        const std::vector<std::string> row = text::split(K1Help_GridRow(line), "\t");
+        const std::vector<std::string> row = text::split(k1HelpGridRow(line), "\t");
         if (row.at(0) == code) return row.at(2);
     }
     return "(no code " + code + ")";
@@ -115,7 +115,7 @@ TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
     for (const auto& [section, codes] : referenceCodes()) {
         std::set<std::string> marked;
         for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
-            const std::vector<std::string> row = text::split(K1Help_GridRow(line), "\t");
+            const std::vector<std::string> row = text::split(k1HelpGridRow(line), "\t");
             if (row.at(3) == "X") marked.insert(row[0]);
         }
         const auto wanted = overridden.find(section);

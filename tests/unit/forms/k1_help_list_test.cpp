@@ -10,41 +10,41 @@ namespace lw {
 namespace {
 
 TEST(K1HelpRow, TheTextBeforeTheBraceIsThePurposeAndTheRestTheInformation) {
-    EXPECT_EQ(K1Help_GridRow("A| Cash contributions {Schedule A line 11} |"),
+    EXPECT_EQ(k1HelpGridRow("A| Cash contributions {Schedule A line 11} |"),
               "A\tCash contributions\tSchedule A line 11\t");
 }
 
 TEST(K1HelpRow, WithNoBracesThePurposeStandsUnchangedAndColumnTwoIsEmpty) {
-    EXPECT_EQ(K1Help_GridRow("B| Involuntary conversions |"), "B\t Involuntary conversions \t\t");
+    EXPECT_EQ(k1HelpGridRow("B| Involuntary conversions |"), "B\t Involuntary conversions \t\t");
 }
 
 TEST(K1HelpRow, ASecondOpeningBraceStaysAndEveryClosingOneGoes) {
-    EXPECT_EQ(K1Help_GridRow("C|Purpose {see {Form 6781} and } more}|"),
+    EXPECT_EQ(k1HelpGridRow("C|Purpose {see {Form 6781} and } more}|"),
               "C\tPurpose\tsee {Form 6781 and  more\t");
 }
 
 TEST(K1HelpRow, ABraceLeftOpenTakesTheRestAsInformation) {
-    EXPECT_EQ(K1Help_GridRow("D|Purpose {still open|"), "D\tPurpose\tstill open\t");
+    EXPECT_EQ(k1HelpGridRow("D|Purpose {still open|"), "D\tPurpose\tstill open\t");
 }
 
 TEST(K1HelpRow, TheThirdPartRunsOnFromTheInformation) {
-    EXPECT_EQ(K1Help_GridRow("ZZ|Other {statement}|\tX"), "ZZ\tOther\tstatement\tX");
-    EXPECT_EQ(K1Help_GridRow("ZZ|Other {statement}|X"), "ZZ\tOther\tstatementX\t")
+    EXPECT_EQ(k1HelpGridRow("ZZ|Other {statement}|\tX"), "ZZ\tOther\tstatement\tX");
+    EXPECT_EQ(k1HelpGridRow("ZZ|Other {statement}|X"), "ZZ\tOther\tstatementX\t")
         << "with no tab the mark lands in column 2";
-    EXPECT_EQ(K1Help_GridRow("ZZ|Other|\tX\tmore\tcells"), "ZZ\tOther\t\tX") << "the grid has four columns";
-    EXPECT_EQ(K1Help_GridRow("E|Purpose|third|fourth"), "E\tPurpose\tthird\t") << "only three parts are read";
+    EXPECT_EQ(k1HelpGridRow("ZZ|Other|\tX\tmore\tcells"), "ZZ\tOther\t\tX") << "the grid has four columns";
+    EXPECT_EQ(k1HelpGridRow("E|Purpose|third|fourth"), "E\tPurpose\tthird\t") << "only three parts are read";
 }
 
 TEST(K1HelpRow, ALineOfFewerThanThreePartsIsAFault) {
-    EXPECT_THROW(K1Help_GridRow("A|Purpose"), std::out_of_range);
-    EXPECT_THROW(K1Help_GridRow("A"), std::out_of_range);
-    EXPECT_THROW(K1Help_GridRow(""), std::out_of_range);
+    EXPECT_THROW(k1HelpGridRow("A|Purpose"), std::out_of_range);
+    EXPECT_THROW(k1HelpGridRow("A"), std::out_of_range);
+    EXPECT_THROW(k1HelpGridRow(""), std::out_of_range);
 }
 
 TEST(K1HelpCaption, BoxGetsABlankAndDashesBecomeBlanks) {
-    EXPECT_EQ(K1Help_Caption("K1-1065-Box11"), "Valid Entries for K1 1065 Box 11");
-    EXPECT_EQ(K1Help_Caption("K1-1120S-Box12"), "Valid Entries for K1 1120S Box 12");
-    EXPECT_EQ(K1Help_Caption("k1-1041-BOX9"), "Valid Entries for k1 1041 Box 9") << "found blind to case";
+    EXPECT_EQ(k1HelpCaption("K1-1065-Box11"), "Valid Entries for K1 1065 Box 11");
+    EXPECT_EQ(k1HelpCaption("K1-1120S-Box12"), "Valid Entries for K1 1120S Box 12");
+    EXPECT_EQ(k1HelpCaption("k1-1041-BOX9"), "Valid Entries for k1 1041 Box 9") << "found blind to case";
 }
 
 // The list opened on its own with a section of a file written by the test.
@@ -62,7 +62,7 @@ struct K1HelpList : ::testing::Test {
     std::vector<std::string> show(const std::string& key) {
         k1HelpMembers().F97_K1Key = key;
         Desktop& desktop = test.program->desktop;
-        Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         labels.clear();
         for (const char* name : {"Label0", "Label1", "Label2", "Label3"})
             labels.push_back(list.at(name).caption);
@@ -104,7 +104,7 @@ TEST_F(K1HelpList, TheGridHasItsFourColumnsWithTheirWidthsAndAlignments) {
     write("[K1-1065-Box11]\r\nA|Other portfolio income|\r\n");
     Desktop& desktop = test.program->desktop;
     k1HelpMembers().F97_K1Key = "K1-1065-Box11";
-    Form& list = desktop.load(std::make_unique<F6_K1Help>(), false);
+    Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
     const Control& grid = list.at("Grid1");
     EXPECT_EQ(grid.items.front(), "Box #\tPurpose\tAdditional Information\tO/R");
     EXPECT_EQ(grid.colWidths, (std::vector<int>{660, 9500, 5000, 600}));
@@ -150,10 +150,10 @@ TEST_F(K1HelpList, ASectionPastTheBufferIsCutAtItsEnd) {
     ASSERT_GE(kK1HelpSectionBuffer - 2 - whole * each, 4u) << "the cut line keeps its first bar";
     ASSERT_EQ(shown.size(), 2 + whole);
     EXPECT_EQ(shown[2], "100\tPurpose of code 100\twhere to read\t");
-    EXPECT_EQ(shown.back(), K1Help_GridRow(line(100 + static_cast<int>(whole) - 1)));
+    EXPECT_EQ(shown.back(), k1HelpGridRow(line(100 + static_cast<int>(whole) - 1)));
     ASSERT_EQ(test.ui.reports.size(), 1u) << "the cut line has two parts";
     EXPECT_EQ(test.ui.reports[0], "F6_K1Help:Form_Load: Subscript out of range");
-    EXPECT_GE(listHeight, static_cast<int>(shown.size() - 1) * F6_K1Help::kRowHeight) << "every row shows";
+    EXPECT_GE(listHeight, static_cast<int>(shown.size() - 1) * K1HelpForm::kRowHeight) << "every row shows";
 }
 
 TEST_F(K1HelpList, BytesOutsideTheCodePageAreShownAsTheyStand) {

@@ -45,7 +45,7 @@ struct K1Help : ::testing::Test {
             owned->add(ControlKind::TextBox, "Text5", i).tag = "MONEY";
         }
         form = &desktop().load(std::move(owned));
-        K1_SaveInfo(*form);
+        keepK1DesignValues(*form);
         g().CurrentForm = form;
         g().FormKey = "K11065";
     }
@@ -60,7 +60,7 @@ struct K1Help : ::testing::Test {
     void pick(Control& code, const std::string& answer) {
         desktop().setFocus(code);
         test.ui.k1Answers.push_back(answer);
-        desktop().dispatch([&] { K1_Help_KeyDown(*form, code); });
+        desktop().dispatch([&] { openK1CodeList(*form, code); });
     }
     const std::vector<std::string>& lastList() { return test.ui.k1Lists.back(); }
 };
@@ -131,7 +131,7 @@ TEST_F(K1Help, ClearPutsBackTheDesignTextsAndTags) {
     pick(field("Text2", 0), "ZZ");
     pick(field("Text4", 0), "Z");
     field("Text2", 1).text = "typed";
-    Form_Clear();
+    clearForm();
     EXPECT_EQ(field("Text2", 0).text, "");
     EXPECT_EQ(field("Text2", 1).text, "9b");
     EXPECT_EQ(field("Text3", 0).tag, "MONEY");
@@ -142,7 +142,7 @@ TEST_F(K1Help, ClearPutsBackTheDesignTextsAndTags) {
 TEST_F(K1Help, ClearOfAnotherFormLeavesItsTagsAlone) {
     pick(field("Text2", 0), "ZZ");
     g().FormKey = "W2";
-    Form_Clear();
+    clearForm();
     EXPECT_EQ(field("Text3", 0).tag, "") << "only the K-1 forms keep their design";
     EXPECT_EQ(field("Text2", 1).text, "");
 }

@@ -25,10 +25,10 @@ struct LicenseDates : ::testing::Test {
                       "20XX"};
         g.TaxYearIndex = 0;
         g.DL_HolidayList = kFixedHolidays;
-        DL_BuildHolidays();
+        buildLicenseHolidays();
     }
     std::string issued(const std::string& license, const std::string& birth) {
-        DL_FillDates(license, birth, issue, expire);
+        fillLicenseDates(license, birth, issue, expire);
         return issue.text;
     }
 };
@@ -36,15 +36,15 @@ struct LicenseDates : ::testing::Test {
 TEST_F(LicenseDates, TheMovingHolidaysOfTheTaxYearJoinTheFixedOnes) {
     EXPECT_EQ(g.DL_HolidayList, "01/01,02/20,05/30,06/19,07/04,11/11,12/25,01/16,09/04,11/23");
     EXPECT_EQ(g.DL_Holidays.size(), 10u);
-    EXPECT_TRUE(DL_IsHoliday("11/23"));
-    EXPECT_TRUE(DL_IsHoliday("02/20")) << "a fixed date in every year, whatever its weekday";
-    EXPECT_FALSE(DL_IsHoliday("11/24"));
+    EXPECT_TRUE(isLicenseHoliday("11/23"));
+    EXPECT_TRUE(isLicenseHoliday("02/20")) << "a fixed date in every year, whatever its weekday";
+    EXPECT_FALSE(isLicenseHoliday("11/24"));
 }
 
 TEST_F(LicenseDates, ThePlaceholderYearAddsNoMovingHoliday) {
     g.TaxYearIndex = 3;
     g.DL_HolidayList = kFixedHolidays;
-    DL_BuildHolidays();
+    buildLicenseHolidays();
     EXPECT_EQ(g.DL_HolidayList, kFixedHolidays);
     EXPECT_EQ(g.DL_Holidays.size(), 7u);
 }
@@ -84,14 +84,14 @@ TEST_F(LicenseDates, AFebruary29BirthdayThatTheYearLacksIsAFault) {
 }
 
 TEST_F(LicenseDates, TheWeekdaysAreTheEnglishOnesWhateverTheMachinesLanguage) {
-    EXPECT_TRUE(DL_IsWeekend({2024, 6, 1}));
-    EXPECT_TRUE(DL_IsWeekend({2024, 6, 2}));
-    EXPECT_FALSE(DL_IsWeekend({2024, 6, 3}));
-    EXPECT_EQ(DL_ShiftDay({2024, 6, 1}), (text::CalendarDay{2024, 5, 31}));
-    EXPECT_EQ(DL_ShiftDay({2024, 6, 2}), (text::CalendarDay{2024, 6, 3}));
-    EXPECT_EQ(DL_ShiftDay({2024, 6, 3}), (text::CalendarDay{2024, 6, 3}));
-    EXPECT_EQ(DL_ShiftDay({2024, 6, 4}), (text::CalendarDay{2024, 6, 5}));
-    EXPECT_EQ(DL_ShiftDay({2024, 6, 7}), (text::CalendarDay{2024, 6, 7}));
+    EXPECT_TRUE(isWeekend({2024, 6, 1}));
+    EXPECT_TRUE(isWeekend({2024, 6, 2}));
+    EXPECT_FALSE(isWeekend({2024, 6, 3}));
+    EXPECT_EQ(shiftOffMidweek({2024, 6, 1}), (text::CalendarDay{2024, 5, 31}));
+    EXPECT_EQ(shiftOffMidweek({2024, 6, 2}), (text::CalendarDay{2024, 6, 3}));
+    EXPECT_EQ(shiftOffMidweek({2024, 6, 3}), (text::CalendarDay{2024, 6, 3}));
+    EXPECT_EQ(shiftOffMidweek({2024, 6, 4}), (text::CalendarDay{2024, 6, 5}));
+    EXPECT_EQ(shiftOffMidweek({2024, 6, 7}), (text::CalendarDay{2024, 6, 7}));
 }
 
 // Every birthday of 2024 to 2027 under both licenses, against the rules stated as properties.
@@ -107,11 +107,11 @@ TEST_F(LicenseDates, EveryIssueDateOf2024To2027KeepsTheRules) {
                 const auto issuedOn = text::dayOf(issued(license, birth));
                 ASSERT_TRUE(issuedOn) << birth;
                 SCOPED_TRACE(birth + " license " + license + " candidate " + text::dateText(candidate));
-                EXPECT_FALSE(DL_IsWeekend(*issuedOn)) << "never a Saturday or a Sunday";
+                EXPECT_FALSE(isWeekend(*issuedOn)) << "never a Saturday or a Sunday";
                 const std::string day = text::weekdayName(candidate);
                 char md[6];
                 std::snprintf(md, sizeof md, "%02d/%02d", candidate.month, candidate.day);
-                const bool holiday = DL_IsHoliday(md);
+                const bool holiday = isLicenseHoliday(md);
                 text::CalendarDay expected = candidate;
                 if (day == "Sat")
                     expected = text::plusDays(candidate, -1);

@@ -11,7 +11,7 @@ namespace {
 
 // The W-2 opened from its menu item, with the figures of the worked example: 6.2% up to a wage base of
 // 168,600, Medicare 1.45% up to 200,000 and 2.35% above it.
-struct W2Withholding : testing::OpenedForm<TF_W2> {
+struct W2Withholding : testing::OpenedForm<FormW2> {
     W2Withholding() : OpenedForm("mnuW2", "TF_W2") {}
 
     void SetUp() override { open(); }
@@ -77,7 +77,7 @@ TEST_F(W2Withholding, MedicareBelowTheChangePointIsAtTheInitialRate) {
 }
 
 TEST_F(W2Withholding, MedicareOverTheChangePointAddsTheHigherRateOnTheExcess) {
-    EXPECT_EQ(mcTaxOf("250000"), "4,075.00");     // 2,900 + 1,175
+    EXPECT_EQ(mcTaxOf("250000"), "4,075.00");      // 2,900 + 1,175
     EXPECT_EQ(mcTaxOf("1,000,000"), "21,700.00");  // 2,900 + 18,800
 }
 
@@ -194,7 +194,7 @@ TEST_F(W2Withholding, OutsideTaxYear2018Box9IsBareAndHidden) {
 TEST_F(W2Withholding, AChangeOfYearKeepsTheFilledBoxesAsTheyAre) {
     ASSERT_EQ(ssTaxOf("1000"), "62.00");
     g().SSRate = "5";
-    Year_Change(*form);
+    changeTaxYear(*form);
     EXPECT_EQ(form->at("TaxYear", 1).caption, "26");
     EXPECT_EQ(ssTax().text, "62.00");
     EXPECT_FALSE(box(45).visible);
@@ -220,17 +220,17 @@ TEST_F(W2In2018, TaxYear18ShowsBox9AndAChangeOfYearHidesIt) {
     const std::string code = box(45).text;
     ASSERT_NE(code.find('7'), std::string::npos);
 
-    Year_Change(*form);
+    changeTaxYear(*form);
     EXPECT_EQ(form->at("TaxYear", 1).caption, "19");
     EXPECT_EQ(form->at("Label1", 14).caption, "9.");
     EXPECT_FALSE(box(45).visible);
     EXPECT_EQ(box(45).text, code) << "the field keeps its text when hidden";
     // The cycle comes back to 2018 only through 2019, 20XX and 2017.
-    Year_Change(*form);
-    Year_Change(*form);
+    changeTaxYear(*form);
+    changeTaxYear(*form);
     EXPECT_EQ(form->at("TaxYear", 1).caption, "17");
     EXPECT_FALSE(box(45).visible);
-    Year_Change(*form);
+    changeTaxYear(*form);
     EXPECT_EQ(form->at("TaxYear", 1).caption, "18");
     EXPECT_EQ(form->at("Label1", 14).caption, "9. Verification code");
     EXPECT_TRUE(box(45).visible);

@@ -93,7 +93,7 @@ protected:
         test.ui.fileAnswers.push_back(
             (folder + QLatin1Char('/') + QString::fromStdString(GetParam()) + QStringLiteral(".venturo"))
                 .toStdString());
-        Save_File();
+        saveDataFile();
     }
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
@@ -147,7 +147,6 @@ protected:
             if (c->isTextBox() && c->visible && !c->text.empty()) boxes.push_back(c.get());
         return boxes;
     }
-
 };
 
 TEST_P(TextFit, EveryFieldShowsItsLongestValueWholeAtEveryScale) {

@@ -64,7 +64,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
     int word = 0;
     for (const std::string& name : drawnDocuments()) {
         test.program->g.CurrentFileName.clear();
-        Form* form = Form_Open(name);
+        Form* form = openCatalogueForm(name);
         if (!form) continue;
         Document document{name, (folder / (name + ".venturo")).string(), {}};
         if (form->find("SSTab1")) document.pages = 2;
@@ -77,7 +77,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
             c->text = "Z" + std::to_string(++word) + "Z";
             document.texts.push_back(c->text);
         }
-        std::ofstream(document.path, std::ios::binary) << Build_Record() << "\r\n";
+        std::ofstream(document.path, std::ios::binary) << buildRecord() << "\r\n";
         documents.push_back(document);
     }
     return documents;

@@ -36,7 +36,7 @@ struct ScriptK1Answers : ::testing::Test {
         owned->add(ControlKind::TextBox, "Text2", 0).tag = "K1HELP\xB7K1-1120S-Box12";
         owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
         form = &program->desktop.load(std::move(owned));
-        K1_SaveInfo(*form);
+        keepK1DesignValues(*form);
     }
     void TearDown() override {
         program.reset();
@@ -47,7 +47,7 @@ struct ScriptK1Answers : ::testing::Test {
     void callList() {
         Control& code = form->at("Text2", 0);
         program->desktop.setFocus(code);
-        program->desktop.dispatch([&] { K1_Help_KeyDown(*form, code); });
+        program->desktop.dispatch([&] { openK1CodeList(*form, code); });
     }
 };
 

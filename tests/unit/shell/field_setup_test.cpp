@@ -30,88 +30,91 @@ struct FieldSetup : ::testing::Test {
 TEST_F(FieldSetup, TheLegendGivesTheFocusColourOfEachType) {
     EXPECT_EQ(legend(3), 0x0000FF00u);
     Control& money = field("MONEY");
-    Control_Setup(money, false);
+    setUpControl(money, false);
     EXPECT_EQ(money.backColor, legend(3));
     Control& negative = field("-MONEY", 1);
-    Control_Setup(negative, false);
+    setUpControl(negative, false);
     EXPECT_EQ(negative.backColor, legend(4));
     Control& tin = field("TIN", 2);
-    Control_Setup(tin, false);
+    setUpControl(tin, false);
     EXPECT_EQ(tin.backColor, legend(1));
     Control& date = field("DATEX", 3);
-    Control_Setup(date, false);
+    setUpControl(date, false);
     EXPECT_EQ(date.backColor, legend(6));
     EXPECT_EQ(date.maxLength, 10);
     Control& help = field("K1HELP", 4);
-    Control_Setup(help, false);
+    setUpControl(help, false);
     EXPECT_EQ(help.backColor, legend(8));
 }
 
 TEST_F(FieldSetup, AYearFieldKeepsItsColourOnFocus) {
     Control& year = field("YEAR");
     year.backColor = kWhite;
-    Control_Setup(year, false);
+    setUpControl(year, false);
     EXPECT_EQ(year.backColor, kWhite);
     EXPECT_EQ(year.maxLength, 4);
 }
 
 TEST_F(FieldSetup, AMixedCaseDateTakesTheOtherColourYetIsCentredAsADate) {
     Control& date = field("Date");
-    Control_Setup(date, true);
+    setUpControl(date, true);
     EXPECT_EQ(date.alignment, 2);
-    Control_Setup(date, false);
+    setUpControl(date, false);
     EXPECT_EQ(date.backColor, legend(9));
     EXPECT_EQ(date.maxLength, 10) << "the set-up, blind to case, saw a date";
 }
 
 TEST_F(FieldSetup, AnUntaggedFieldKeepsItsSelectionWhereANameBlockIsSelected) {
     Control& plain = field("");
-    Control_Setup(plain, false);
+    setUpControl(plain, false);
     EXPECT_EQ(plain.backColor, legend(9));
     EXPECT_EQ(plain.selStart(), 1);
     EXPECT_EQ(plain.selLength(), 1);
     Control& name = field("TPNAME", 1);
-    Control_Setup(name, false);
+    setUpControl(name, false);
     EXPECT_EQ(name.backColor, legend(9));
     EXPECT_EQ(name.selStart(), 0);
-    EXPECT_EQ(name.selLength(), 3) << "the whole text, as a text box reports a selection of 99 on three characters";
+    EXPECT_EQ(name.selLength(), 3)
+        << "the whole text, as a text box reports a selection of 99 on three characters";
 }
 
 TEST_F(FieldSetup, TheTextBehindAMiddleDotIsNoPartOfTheType) {
-    Control& help = field("K1HELP\xB7" "A,B,C");
-    Control_Setup(help, false);
+    Control& help = field(
+        "K1HELP\xB7"
+        "A,B,C");
+    setUpControl(help, false);
     EXPECT_EQ(help.backColor, legend(8));
     Control& mixed = field("K1Help", 1);
-    Control_Setup(mixed, false);
+    setUpControl(mixed, false);
     EXPECT_EQ(mixed.backColor, legend(9));
-    Control_Setup(mixed, true);
+    setUpControl(mixed, true);
     EXPECT_EQ(mixed.alignment, 2) << "every K1 type is centred";
 }
 
 TEST_F(FieldSetup, SetUpGivesAlignmentTipAndLength) {
     Control& money = field("SMONEY");
-    Control_Setup(money, true);
+    setUpControl(money, true);
     EXPECT_EQ(money.alignment, 1);
     EXPECT_EQ(money.toolTipText, "Money: Dollar sign/commas optional");
     Control& unknown = field("AMONEY", 1);
-    Control_Setup(unknown, true);
+    setUpControl(unknown, true);
     EXPECT_EQ(unknown.toolTipText, "U or UNK for UNKNOWN, Dollar sign/comma optional");
     Control& year = field("TAXYEAR1099G", 2);
-    Control_Setup(year, true);
+    setUpControl(year, true);
     EXPECT_EQ(year.maxLength, 4);
     EXPECT_EQ(year.toolTipText, "TaxYear: Leave blank if current tax year, else enter YY or YYYY");
     Control& computed = field("COMPUTED", 3);
     computed.alignment = 1;
-    Control_Setup(computed, true);
+    setUpControl(computed, true);
     EXPECT_EQ(computed.alignment, 1) << "a computed field keeps the form's alignment";
     EXPECT_EQ(computed.backColor, legend(7));
     Control& box = field("CHECKBOX", 4);
-    Control_Setup(box, true);
+    setUpControl(box, true);
     EXPECT_TRUE(box.fontBold);
     Control& phone = field("PHONE", 5);
     phone.toolTipText = "designer's tip";
     phone.alignment = 2;
-    Control_Setup(phone, true);
+    setUpControl(phone, true);
     EXPECT_EQ(phone.alignment, 0);
     EXPECT_EQ(phone.toolTipText, "designer's tip") << "a type without a tip keeps the designed one";
 }
@@ -119,7 +122,7 @@ TEST_F(FieldSetup, SetUpGivesAlignmentTipAndLength) {
 TEST_F(FieldSetup, OtherFieldsAreCentredOnTheCards) {
     test.program->g.FormKey = "SS_ITIN";
     Control& name = field("TPNAME");
-    Control_Setup(name, true);
+    setUpControl(name, true);
     EXPECT_EQ(name.alignment, 2);
 }
 
@@ -130,7 +133,7 @@ TEST_F(FieldSetup, TheMonthlyAmountsOfThe1095AAloneNameTheF12Copy) {
     for (int index : {37, 38, 76, 77}) {
         Control& money = field("MONEY", index);
         money.toolTipText = "as designed";
-        Control_Setup(money, true);
+        setUpControl(money, true);
         EXPECT_EQ(money.toolTipText, index == 38 || index == 76 ? hint : "as designed") << index;
     }
 }
@@ -138,21 +141,21 @@ TEST_F(FieldSetup, TheMonthlyAmountsOfThe1095AAloneNameTheF12Copy) {
 TEST_F(FieldSetup, TakingTheFocusPutsTheTipOnTheStatusLineAndNotesTheField) {
     Control& money = field("MONEY", 12);
     money.toolTipText = "Box 3";
-    Control_Setup(money, false);
+    setUpControl(money, false);
     EXPECT_EQ(form.at("labelMisc").caption, "Box 3");
     EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12");
     Control& rate = field("SSMC", kNoIndex, "txtSSRate");
-    Control_Setup(rate, false);
+    setUpControl(rate, false);
     EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12") << "only the Text arrays are noted";
 }
 
 TEST_F(FieldSetup, AFieldOutOfScopeNeverTakesTheFocus) {
     Control& outside = field("OUT OF SCOPE");
-    Control_Setup(outside, true);
+    setUpControl(outside, true);
     EXPECT_EQ(outside.backColor, kOutOfScopeColor);
     EXPECT_EQ(outside.alignment, 2);
     EXPECT_FALSE(outside.canTakeFocus());
-    EXPECT_THROW(Control_SetupBackColor(outside), AppError);
+    EXPECT_THROW(setUpBackColor(outside), AppError);
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ public:
         line.top = 100;
         line.y2 = 3100;
     }
-    void onLoad() override { Form_Common_Init(*this); }
+    void onLoad() override { initCatalogueForm(*this); }
 };
 
 struct Lifecycle : ::testing::Test {
@@ -55,7 +55,7 @@ struct Lifecycle : ::testing::Test {
         test.program->g.TaxYearIndex = 1;
     }
     Form& open() {
-        Form* form = Form_Open("TF_SAMPLE");
+        Form* form = openCatalogueForm("TF_SAMPLE");
         EXPECT_NE(form, nullptr);
         return *form;
     }
@@ -79,7 +79,7 @@ TEST_F(Lifecycle, OneFormAtATime) {
     });
     Form& first = open();
     (void)first;
-    Form* second = Form_Open("TF_SAMPLE");
+    Form* second = openCatalogueForm("TF_SAMPLE");
     ASSERT_NE(second, nullptr);
     int children = 0;
     for (Form* form : test.program->desktop.forms()) children += form->isChild;
@@ -89,7 +89,7 @@ TEST_F(Lifecycle, OneFormAtATime) {
 TEST_F(Lifecycle, TheBorderTakesInEveryControl) {
     Form& form = open();
     Control& border = form.at("myBorder");
-    Form_Size_Border(border);
+    sizeBorderToControls(border);
     EXPECT_EQ(border.left, 60);
     EXPECT_EQ(border.top, 60);
     EXPECT_EQ(border.height, 3100) << "the line's lower end is the lowest point";
@@ -98,16 +98,16 @@ TEST_F(Lifecycle, TheBorderTakesInEveryControl) {
 
 TEST_F(Lifecycle, ChecksToggleAndPairsClearTheirPartner) {
     Control a, b;
-    Check_Toggle(a);
+    toggleCheck(a);
     EXPECT_EQ(a.caption, "X");
-    Check_Toggle(a);
+    toggleCheck(a);
     EXPECT_EQ(a.caption, "");
     b.caption = "X";
-    Check_TogglePair(a, b);
+    toggleCheckPair(a, b);
     EXPECT_EQ(a.caption, "X");
     EXPECT_EQ(b.caption, "");
     b.caption = "X";
-    Check_TogglePair(a, b);
+    toggleCheckPair(a, b);
     EXPECT_EQ(a.caption, "");
     EXPECT_EQ(b.caption, "X") << "unmarking leaves the partner as it was";
 }
@@ -117,7 +117,7 @@ TEST_F(Lifecycle, ClearEmptiesFieldsChecksStatusAndTheFileName) {
     form.at("Text1", 0).text = "kept?";
     form.at("labelMisc").caption = "a message";
     test.program->g.CurrentFileName = "/tmp/x.venturo";
-    Form_Clear();
+    clearForm();
     EXPECT_EQ(form.at("Text1", 0).text, "");
     EXPECT_EQ(form.at("Check", 0).caption, "");
     EXPECT_EQ(form.at("labelMisc").caption, "");
@@ -126,13 +126,13 @@ TEST_F(Lifecycle, ClearEmptiesFieldsChecksStatusAndTheFileName) {
 
 TEST_F(Lifecycle, ChangingTheYearCyclesRemembersAndRedatesTheForm) {
     Form& form = open();
-    Year_Change(form);
+    changeTaxYear(form);
     EXPECT_EQ(test.program->g.TaxYearIndex, 2);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "26");
     EXPECT_EQ(store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.UserInfFile), "2026");
-    Year_Change(form);
+    changeTaxYear(form);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "XX");
-    Year_Change(form);
+    changeTaxYear(form);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "24");
 }
 
@@ -141,7 +141,7 @@ TEST_F(Lifecycle, AfterAChangeOfYearTheFirstDateOutOfTheYearIsMovedAndTheWalkGoe
     form.at("Text1", 1).text = "03/07/2025";
     form.at("Text1", 2).text = "04/01/2025";
     test.ui.answers = {"OK", "OK"};
-    Year_Change(form);
+    changeTaxYear(form);
     // A date in a year-bound field is moved to the new year with a message; it does not fail.
     EXPECT_EQ(form.at("Text1", 1).text, "03/07/2026");
     EXPECT_EQ(form.at("Text1", 2).text, "04/01/2026");
@@ -153,7 +153,7 @@ TEST_F(Lifecycle, AfterAChangeOfYearABadDateStopsTheWalk) {
     Form& form = open();
     form.at("Text1", 1).text = "02/30/2025";
     form.at("Text1", 2).text = "04/01/2025";
-    Year_Change(form);
+    changeTaxYear(form);
     EXPECT_EQ(form.at("Text1", 1).text, "02/30/2025");
     EXPECT_EQ(form.at("Text1", 1).backColor, test.program->g.LegendColors[6]);
     EXPECT_EQ(form.at("labelMisc").caption, "Value Entered: [02/30/2025] is INVALID");

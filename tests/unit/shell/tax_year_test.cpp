@@ -1,7 +1,8 @@
+#include "shell/tax_year.h"
+
 #include <gtest/gtest.h>
 
 #include "shell/startup.h"
-#include "shell/tax_year.h"
 #include "store/inf_store.h"
 #include "test_program.h"
 
@@ -35,7 +36,7 @@ struct YearSetup : ::testing::Test {
 };
 
 TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
-    EXPECT_EQ(TaxYears_Setup(), "2025");
+    EXPECT_EQ(setUpTaxYears(), "2025");
     const Globals& g = test.program->g;
     EXPECT_EQ(g.TaxYears[0], "2024");
     EXPECT_EQ(g.TaxYears[1], "2025");
@@ -47,21 +48,21 @@ TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
 
 TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
     writeUserInf("LastTaxYear", "20XX");
-    EXPECT_EQ(TaxYears_Setup(), "20XX");
+    EXPECT_EQ(setUpTaxYears(), "20XX");
     EXPECT_EQ(test.program->g.TaxYearIndex, 3);
     EXPECT_EQ(taxYearDigits(), "XX");
 }
 
 TEST_F(YearSetup, AYearOutOfTheWindowFallsBackToThisYearAndIsOverwritten) {
     writeUserInf("LastTaxYear", "2015");
-    EXPECT_EQ(TaxYears_Setup(), "2015");
+    EXPECT_EQ(setUpTaxYears(), "2015");
     EXPECT_EQ(test.program->g.TaxYearIndex, 1);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, LastYearIsKept) {
     writeUserInf("LastTaxYear", "2024");
-    TaxYears_Setup();
+    setUpTaxYears();
     EXPECT_EQ(test.program->g.TaxYearIndex, 0);
     EXPECT_EQ(taxYearDigits(), "24");
 }

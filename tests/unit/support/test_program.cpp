@@ -18,7 +18,7 @@ namespace lw::testing {
 std::string shippedDataFolder() { return std::string(LW_SOURCE_DIR) + "/data"; }
 
 void TestUi::runModal(Form& form) {
-    if (auto* box = dynamic_cast<F9_MBX*>(&form)) {
+    if (auto* box = dynamic_cast<MessageBoxForm*>(&form)) {
         boxes.push_back(box->record().message);
         std::string caption;
         if (!answers.empty()) {
@@ -33,7 +33,7 @@ void TestUi::runModal(Form& form) {
         return;
     }
     if (form.name() == "F6_K1Help") return answerK1List(form);
-    if (auto* report = dynamic_cast<F8_ErrLog*>(&form)) {
+    if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
         reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
         report->unload();
     }

@@ -66,7 +66,7 @@ std::ostream& operator<<(std::ostream& os, const NameRow& r) { return os << "\""
 class NameParts : public ::testing::TestWithParam<NameRow> {};
 
 TEST_P(NameParts, CutsTheLineIntoFirstAndLastName) {
-    const TPNameParts parts = TPName_Parts(GetParam().name);
+    const TPNameParts parts = taxpayerNameParts(GetParam().name);
     EXPECT_EQ(parts.line, GetParam().line);
     EXPECT_EQ(parts.first, GetParam().first);
     EXPECT_EQ(parts.last, GetParam().last);
@@ -102,31 +102,31 @@ INSTANTIATE_TEST_SUITE_P(
         NameRow{"", "", "", ""}));
 
 TEST_F(FormatTPName, GivesTheLineAndTheNameForTheFile) {
-    EXPECT_EQ(Format_TPName("JOHN Q DOE JR."),
+    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR."),
               "JOHN Q DOE JR\xB7"
               "DOE JR,JOHN");
-    EXPECT_EQ(Format_TPName("MARY DOE-SMITH III"),
+    EXPECT_EQ(formatTaxpayerName("MARY DOE-SMITH III"),
               "MARY DOE-SMITH III\xB7"
               "DOE-SMITH III,MARY");
-    EXPECT_EQ(Format_TPName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
-    EXPECT_EQ(Format_TPName("ANN LEE V"), "ANN LEE V\xB7LEE V,ANN");
+    EXPECT_EQ(formatTaxpayerName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
+    EXPECT_EQ(formatTaxpayerName("ANN LEE V"), "ANN LEE V\xB7LEE V,ANN");
 }
 
 TEST_F(FormatTPName, TheFirstNameGoesFirstWhenTheTemplatePutsItFirst) {
     useTemplate(kFirstLastTemplate);
-    EXPECT_EQ(Format_TPName("JOHN Q DOE JR."), "JOHN Q DOE JR\xB7JOHN DOE JR");
-    EXPECT_EQ(Format_TPName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
+    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR."), "JOHN Q DOE JR\xB7JOHN DOE JR");
+    EXPECT_EQ(formatTaxpayerName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
     useTemplate("<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>");
-    EXPECT_EQ(Format_TPName("ANN LEE"),
+    EXPECT_EQ(formatTaxpayerName("ANN LEE"),
               "ANN LEE\xB7"
               "ANN LEE");
     useTemplate("<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>");
-    EXPECT_EQ(Format_TPName("ANN LEE"), "ANN LEE\xB7LEE,ANN");
+    EXPECT_EQ(formatTaxpayerName("ANN LEE"), "ANN LEE\xB7LEE,ANN");
 }
 
 TEST_F(FormatTPName, AnEmptyNameGivesAnEmptyText) {
-    EXPECT_EQ(Format_TPName(""), "");
-    EXPECT_EQ(Format_TPName("."), "\xB7");
+    EXPECT_EQ(formatTaxpayerName(""), "");
+    EXPECT_EQ(formatTaxpayerName("."), "\xB7");
 }
 
 }  // namespace

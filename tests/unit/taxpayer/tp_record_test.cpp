@@ -9,7 +9,7 @@ namespace {
 TPInfoRec parsed(const std::string& stored) {
     TPInfoRec rec;
     rec.NameAddr = stored;
-    TPInfo_Parse_NameAddr(rec);
+    parseNameAddress(rec);
     return rec;
 }
 
@@ -60,7 +60,7 @@ TEST(ParseNameAddr, AnEmptyBlockLeavesTheOtherFieldsAsTheyWere) {
     TPInfoRec rec;
     rec.Name = "OLD";
     rec.Street = "1 OLD RD";
-    TPInfo_Parse_NameAddr(rec);
+    parseNameAddress(rec);
     EXPECT_EQ(rec.Name, "OLD");
     EXPECT_EQ(rec.Street, "1 OLD RD");
 }
@@ -73,13 +73,13 @@ TEST(ParseNameAddr, ABlockParsedOverAnEarlierPersonKeepsNoneOfItsLines) {
     rec.NameAddr =
         "ANN LEE\xBB"
         "5 OAK AVE";
-    TPInfo_Parse_NameAddr(rec);
+    parseNameAddress(rec);
     EXPECT_EQ(rec.Name, "ANN LEE");
     EXPECT_EQ(rec.Street, "5 OAK AVE");
     EXPECT_EQ(rec.CityStateZip, "");
     EXPECT_EQ(rec.Address, "5 OAK AVE");
     rec.NameAddr = "TIFIMRU";
-    TPInfo_Parse_NameAddr(rec);
+    parseNameAddress(rec);
     EXPECT_EQ(rec.Name, "TIFIMRU");
     EXPECT_EQ(rec.Street, "");
     EXPECT_EQ(rec.Address, "");

@@ -12,32 +12,32 @@
 namespace lw {
 namespace {
 
-struct TaxpayerSheet : testing::OpenedForm<F5_TPInfo> {
+struct TaxpayerSheet : testing::OpenedForm<TaxpayerSheetForm> {
     TaxpayerSheet() : OpenedForm("mnuIDFormsTP", "F5_TPInfo") {}
     Globals& g() { return test.program->g; }
     Control& status() { return form->at("labelMisc"); }
 };
 
 TEST_F(TaxpayerSheet, AgesCountTheCalendarYearsAlone) {
-    EXPECT_EQ(Age_At_YearEnd(*form, "12/31/2000"), "25");
-    EXPECT_EQ(Age_At_YearEnd(*form, "01/01/2000"), "25");
+    EXPECT_EQ(ageAtYearEnd(*form, "12/31/2000"), "25");
+    EXPECT_EQ(ageAtYearEnd(*form, "01/01/2000"), "25");
     EXPECT_NE(status().caption, "One or more date(s) are invalid");
 }
 
 TEST_F(TaxpayerSheet, ABirthAfterTheTaxYearGivesANegativeAgeAndARedMessage) {
-    EXPECT_EQ(Age_At_YearEnd(*form, "03/15/2030"), "-5");
+    EXPECT_EQ(ageAtYearEnd(*form, "03/15/2030"), "-5");
     EXPECT_EQ(status().caption, "One or more date(s) are invalid");
     EXPECT_EQ(status().foreColor, kRed);
 }
 
 TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
     g().TaxYearIndex = 3;
-    EXPECT_EQ(Age_At_YearEnd(*form, "03/15/1980"), "N/A");
+    EXPECT_EQ(ageAtYearEnd(*form, "03/15/1980"), "N/A");
 }
 
 TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
     try {
-        Age_At_YearEnd(*form, "02/30/1980");
+        ageAtYearEnd(*form, "02/30/1980");
         FAIL() << "no fault";
     } catch (const AppError& e) {
         EXPECT_EQ(e.number(), err::kTypeMismatch);
@@ -60,7 +60,7 @@ TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFiel
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
     form->at("Text1", 6).text = "KIM LEE";
     form->at("Text1", 11).text = "222-33-4444";
-    TPInfo_Save();
+    saveTaxpayerSheet();
     EXPECT_EQ(readUserInf("TP1NameAddr"),
               "ANN LEE\xBB"
               "1 MAIN ST");

@@ -1,4 +1,4 @@
-#include "documents/f7_save.h"
+#include "documents/save_form.h"
 
 #include <cctype>
 #include <filesystem>
@@ -19,7 +19,7 @@ namespace lw {
 
 namespace {
 
-constexpr int kInnerWidth = F7_Save::kFormWidth - 2 * F7_Save::kMargin;
+constexpr int kInnerWidth = SaveForm::kFormWidth - 2 * SaveForm::kMargin;
 constexpr int kLineHeight = 255;
 constexpr int kFieldHeight = 315;
 constexpr int kTextLineHeight = 210;  // one line of Label2's fixed-width text
@@ -32,7 +32,6 @@ const char* const kSaveLabel = "F7_Save:cmdSave_Click";
 const char* const kSequenceLabel = "F7_Save:cmdNewSequence_Click";
 
 Globals& g() { return program().g; }
-
 
 // A name with no extension takes no point, so that the path rebuilt from the parts is the path given.
 std::string fileNameOf(const std::string& baseName, const std::string& extension) {
@@ -69,14 +68,14 @@ std::function<void()>& taxpayerStoreSave() {
     return hook;
 }
 
-bool Record_Write(const std::string& Path, const std::string& Record, const std::string& Source) {
+bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source) {
     std::string error;
     if (store::writeFileAtomically(Path, Record + kLineEnd, error)) return true;
     const std::string folder = folderOf(Path);
     // Each line starts with a short word, so that the box can break a long path after it.
     if (!folderExists(folder) || !canWriteInto(folder)) {
         // The remembered folder may be the one that is gone: the next dialog must not start there.
-        Verify_INF_Entry("SAVE");
+        verifyRememberedFolder("SAVE");
         tell(Source, std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
                          "This folder does not exist or cannot be written. Choose another folder and save "
                          "again.");
@@ -99,7 +98,7 @@ std::string saveFormCurrentText(const std::string& folder, const std::string& ba
                             folder);
 }
 
-F7_Save::F7_Save()
+SaveForm::SaveForm()
     : Form("F7_Save"),
       Label1(add(ControlKind::Label, "Label1")),
       Label3_0(add(ControlKind::Label, "Label3", 0)),
@@ -158,7 +157,7 @@ F7_Save::F7_Save()
     // Load places the buttons and the form's bottom under Label2 once its lines are known.
 }
 
-void F7_Save::onLoad() {
+void SaveForm::onLoad() {
     runGuarded("F7_Save:Form_Load", [this] {
         // A form closed by any other way than its buttons has written nothing.
         g().SaveResult = kSaveResultDone;
@@ -182,7 +181,7 @@ void F7_Save::onLoad() {
                 "file "
                 "name unique.") +
             kLineEnd + kLineEnd + "The Ledgerwick can assign a NEW sequence number to the if desired.";
-        Text1_Change();
+        onText1Change();
 
         const bool f99 = text::containsNoCase(program().platform.commandLine(), "F99");
         Label2.caption = saveFormCurrentText(F7_Folder, F7_BaseName, F7_Extension, f99);
@@ -198,29 +197,29 @@ void F7_Save::onLoad() {
     });
 }
 
-void F7_Save::onActivate() { setFocus(Text1); }
+void SaveForm::onActivate() { setFocus(Text1); }
 
-void F7_Save::onChange(Control& control) {
-    if (&control == &Text1) Text1_Change();
+void SaveForm::onChange(Control& control) {
+    if (&control == &Text1) onText1Change();
 }
 
-void F7_Save::onClick(Control& control, MouseButton) {
-    if (&control == &cmdSave) cmdSave_Click();
-    if (&control == &cmdNewSequence) cmdNewSequence_Click();
-    if (&control == &cmdExit) cmdExit_Click();
+void SaveForm::onClick(Control& control, MouseButton) {
+    if (&control == &cmdSave) onSave();
+    if (&control == &cmdNewSequence) onNewSequence();
+    if (&control == &cmdExit) onExit();
 }
 
-void F7_Save::Text1_Change() {
+void SaveForm::onText1Change() {
     cmdSave.caption =
         "SAVE" + std::string(kLineEnd) + pathOf(F7_Folder, Text1.text, F7_Extension) + kLineEnd + "EXIT";
 }
 
-void F7_Save::cmdSave_Click() {
+void SaveForm::onSave() {
     runGuarded(kSaveLabel, [this] {
         if (Text1.text.empty()) {
             tell(kSaveLabel, "File Name BLANK - Restoring Original File Name.");
             Text1.text = F7_BaseName;
-            Text1_Change();
+            onText1Change();
             setFocus(Text1);
             return;
         }
@@ -230,8 +229,8 @@ void F7_Save::cmdSave_Click() {
             return;
         }
         // A rename: the record goes under the new name first, so a failed write leaves the old file whole.
-        g().FormRecord = Build_Record();
-        if (!Record_Write(pathOf(F7_Folder, Text1.text, Text2.text), g().FormRecord, kSaveLabel)) return;
+        g().FormRecord = buildRecord();
+        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().FormRecord, kSaveLabel)) return;
         const std::string old = pathOf(F7_Folder, F7_BaseName, Text2.text);
         std::error_code ec;
         std::filesystem::remove(old, ec);
@@ -244,7 +243,7 @@ void F7_Save::cmdSave_Click() {
     });
 }
 
-std::string F7_Save::nextSequencePath(const std::string& path) {
+std::string SaveForm::nextSequencePath(const std::string& path) {
     const std::size_t slash = path.find_last_of('/');
     std::size_t dot = path.rfind('.');
     if (dot != std::string::npos && slash != std::string::npos && dot < slash) dot = std::string::npos;
@@ -267,7 +266,7 @@ std::string F7_Save::nextSequencePath(const std::string& path) {
     return candidate;
 }
 
-void F7_Save::cmdNewSequence_Click() {
+void SaveForm::onNewSequence() {
     runGuarded(kSequenceLabel, [this] {
         const std::string target = nextSequencePath(pathOf(F7_Folder, Text1.text, Text2.text));
         if (target.empty()) {
@@ -278,13 +277,13 @@ void F7_Save::cmdNewSequence_Click() {
             setFocus(Text1);
             return;
         }
-        if (!Record_Write(target, g().FormRecord, kSequenceLabel)) return;
+        if (!writeRecord(target, g().FormRecord, kSequenceLabel)) return;
         g().SaveResult = kSaveResultDone;
         unload();
     });
 }
 
-void F7_Save::cmdExit_Click() {
+void SaveForm::onExit() {
     g().SaveResult = kSaveResultDone;
     unload();
 }

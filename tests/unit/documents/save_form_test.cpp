@@ -1,4 +1,4 @@
-#include "documents/f7_save.h"
+#include "documents/save_form.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ void writeFile(const fs::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-struct SaveForm : ::testing::Test {
+struct SaveFormTest : ::testing::Test {
     testing::TestProgram test;
     Globals& g = test.program->g;
     Desktop& desktop = test.program->desktop;
@@ -40,18 +40,18 @@ struct SaveForm : ::testing::Test {
         fs::create_directories(folder);
     }
 
-    // The form as Save_File loads it for a path that holds a file, without its modal loop.
-    F7_Save& load(const fs::path& path) {
-        auto owned = std::make_unique<F7_Save>();
+    // The form as saveDataFile loads it for a path that holds a file, without its modal loop.
+    SaveForm& load(const fs::path& path) {
+        auto owned = std::make_unique<SaveForm>();
         owned->F7_Path = path.string();
-        return static_cast<F7_Save&>(desktop.load(std::move(owned)));
+        return static_cast<SaveForm&>(desktop.load(std::move(owned)));
     }
-    F7_Save& loadExisting(const std::string& fileName, const std::string& bytes = "OLD\r\n") {
+    SaveForm& loadExisting(const std::string& fileName, const std::string& bytes = "OLD\r\n") {
         writeFile(folder / fileName, bytes);
         return load(folder / fileName);
     }
     // The operator's new name, as the edit of the box hands it to the form: the text, then its Change.
-    void retype(F7_Save& form, const std::string& text) {
+    void retype(SaveForm& form, const std::string& text) {
         form.Text1.text = text;
         desktop.dispatch([&] { form.onChange(form.Text1); });
     }
@@ -68,8 +68,8 @@ struct SaveForm : ::testing::Test {
     }
 };
 
-TEST_F(SaveForm, LoadSplitsThePathAndWritesEveryCaption) {
-    F7_Save& form = loadExisting("DOE,JOHN_W2_ABC PLUMBING_000.venturo");
+TEST_F(SaveFormTest, LoadSplitsThePathAndWritesEveryCaption) {
+    SaveForm& form = loadExisting("DOE,JOHN_W2_ABC PLUMBING_000.venturo");
     EXPECT_FALSE(form.isChild);
     EXPECT_EQ(form.F7_Folder, folder.string());
     EXPECT_EQ(form.F7_BaseName, "DOE,JOHN_W2_ABC PLUMBING_000");
@@ -101,9 +101,9 @@ TEST_F(SaveForm, LoadSplitsThePathAndWritesEveryCaption) {
                   "Press Exit Without Saving Button");
 }
 
-TEST_F(SaveForm, TheF99WordShowsTheBaseNameAndTheLayoutTwice) {
+TEST_F(SaveFormTest, TheF99WordShowsTheBaseNameAndTheLayoutTwice) {
     test.platform.commandLineText = "debug f99";
-    F7_Save& form = loadExisting("A_000.venturo");
+    SaveForm& form = loadExisting("A_000.venturo");
     auto count = [](const std::string& text, const std::string& word) {
         int n = 0;
         for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) ++n;
@@ -122,10 +122,10 @@ TEST_F(SaveForm, TheF99WordShowsTheBaseNameAndTheLayoutTwice) {
     EXPECT_EQ(form.Label2.caption.find(folder.string()), std::string::npos);
 }
 
-TEST_F(SaveForm, TheLayoutStaysInsideTheFormWithoutOverlaps) {
+TEST_F(SaveFormTest, TheLayoutStaysInsideTheFormWithoutOverlaps) {
     for (const char* args : {"", "F99"}) {
         test.platform.commandLineText = args;
-        F7_Save& form = loadExisting("A_000.venturo");
+        SaveForm& form = loadExisting("A_000.venturo");
         for (const auto& c : form.controls()) {
             EXPECT_GE(c->left, 0) << c->key();
             EXPECT_GE(c->top, 0) << c->key();
@@ -140,22 +140,22 @@ TEST_F(SaveForm, TheLayoutStaysInsideTheFormWithoutOverlaps) {
     }
 }
 
-TEST_F(SaveForm, ActivationGivesTheNameTheFocus) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, ActivationGivesTheNameTheFocus) {
+    SaveForm& form = loadExisting("A_000.venturo");
     desktop.dispatch([&] { form.onActivate(); });
     EXPECT_EQ(form.activeControl(), &form.Text1);
 }
 
-TEST_F(SaveForm, EveryChangeOfTheNameRebuildsTheSaveCaption) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, EveryChangeOfTheNameRebuildsTheSaveCaption) {
+    SaveForm& form = loadExisting("A_000.venturo");
     retype(form, "B");
     EXPECT_EQ(form.cmdSave.caption, "SAVE\r\n" + folder.string() + "/B.venturo\r\nEXIT");
     retype(form, "BC");
     EXPECT_EQ(form.cmdSave.caption, "SAVE\r\n" + folder.string() + "/BC.venturo\r\nEXIT");
 }
 
-TEST_F(SaveForm, ABlankNameIsRestoredAndTheFormStays) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, ABlankNameIsRestoredAndTheFormStays) {
+    SaveForm& form = loadExisting("A_000.venturo");
     retype(form, "");
     ASSERT_EQ(form.Text1.text, "");
     desktop.click(form.cmdSave);
@@ -167,8 +167,8 @@ TEST_F(SaveForm, ABlankNameIsRestoredAndTheFormStays) {
     EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
 }
 
-TEST_F(SaveForm, TheSameNameInAnotherCaseKeepsThePath) {
-    F7_Save& form = loadExisting("Doe_000.venturo");
+TEST_F(SaveFormTest, TheSameNameInAnotherCaseKeepsThePath) {
+    SaveForm& form = loadExisting("Doe_000.venturo");
     retype(form, "DOE_000");
     desktop.click(form.cmdSave);
     EXPECT_FALSE(isOpen());
@@ -177,18 +177,18 @@ TEST_F(SaveForm, TheSameNameInAnotherCaseKeepsThePath) {
     EXPECT_EQ(readFile(folder / "Doe_000.venturo"), "OLD\r\n");
 }
 
-TEST_F(SaveForm, UnchangedNameKeepsThePath) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, UnchangedNameKeepsThePath) {
+    SaveForm& form = loadExisting("A_000.venturo");
     desktop.click(form.cmdSave);
     EXPECT_EQ(g.SaveResult, kSaveResultWrite);
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(SaveForm, ANewNameWritesTheRebuiltRecordThereAndRemovesTheOldFile) {
+TEST_F(SaveFormTest, ANewNameWritesTheRebuiltRecordThereAndRemovesTheOldFile) {
     // The form on the screen is the configuration form, whose line the rename rebuilds.
-    ASSERT_NE(Form_Open("F1_Configure"), nullptr);
+    ASSERT_NE(openCatalogueForm("F1_Configure"), nullptr);
     g.FormRecord = "stale";
-    F7_Save& form = loadExisting("A_000.venturo");
+    SaveForm& form = loadExisting("A_000.venturo");
     retype(form, "B_000");
     desktop.click(form.cmdSave);
     EXPECT_FALSE(isOpen());
@@ -200,8 +200,8 @@ TEST_F(SaveForm, ANewNameWritesTheRebuiltRecordThereAndRemovesTheOldFile) {
     EXPECT_EQ(filesIn(folder), 1);
 }
 
-TEST_F(SaveForm, ARenameThatCannotBeWrittenKeepsTheOldFile) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, ARenameThatCannotBeWrittenKeepsTheOldFile) {
+    SaveForm& form = loadExisting("A_000.venturo");
     fs::create_directories(folder / "B_000.venturo");
     retype(form, "B_000");
     desktop.click(form.cmdSave);
@@ -211,33 +211,33 @@ TEST_F(SaveForm, ARenameThatCannotBeWrittenKeepsTheOldFile) {
     EXPECT_EQ(filesIn(folder), 2);
 }
 
-TEST_F(SaveForm, TheNextSequenceIsTheFirstFreeNumber) {
+TEST_F(SaveFormTest, TheNextSequenceIsTheFirstFreeNumber) {
     const std::string base = (folder / "DOE_W2_").string();
-    EXPECT_EQ(F7_Save::nextSequencePath(base + "000.venturo"), base + "001.venturo");
+    EXPECT_EQ(SaveForm::nextSequencePath(base + "000.venturo"), base + "001.venturo");
     writeFile(base + "001.venturo", "");
     writeFile(base + "002.venturo", "");
-    EXPECT_EQ(F7_Save::nextSequencePath(base + "000.venturo"), base + "003.venturo");
-    EXPECT_EQ(F7_Save::nextSequencePath(base + "007.venturo"), base + "008.venturo");
-    EXPECT_EQ(F7_Save::nextSequencePath(base + "999.venturo"), base + "1000.venturo");
-    EXPECT_EQ(F7_Save::nextSequencePath(base + "041"), base + "042");
+    EXPECT_EQ(SaveForm::nextSequencePath(base + "000.venturo"), base + "003.venturo");
+    EXPECT_EQ(SaveForm::nextSequencePath(base + "007.venturo"), base + "008.venturo");
+    EXPECT_EQ(SaveForm::nextSequencePath(base + "999.venturo"), base + "1000.venturo");
+    EXPECT_EQ(SaveForm::nextSequencePath(base + "041"), base + "042");
 }
 
-TEST_F(SaveForm, OnlyAnUnderscoreAndThreeDigitsMakeASequence) {
+TEST_F(SaveFormTest, OnlyAnUnderscoreAndThreeDigitsMakeASequence) {
     const std::string f = folder.string() + "/";
-    EXPECT_EQ(F7_Save::nextSequencePath(f + "ABC_12.venturo"), "");
-    EXPECT_EQ(F7_Save::nextSequencePath(f + "ABC_1000.venturo"), "");
-    EXPECT_EQ(F7_Save::nextSequencePath(f + "ABC-123.venturo"), "");
-    EXPECT_EQ(F7_Save::nextSequencePath(f + "ABC_12A.venturo"), "");
-    EXPECT_EQ(F7_Save::nextSequencePath(f + "ABC.venturo"), "");
-    EXPECT_EQ(F7_Save::nextSequencePath(folder.string() + "_123/A.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(f + "ABC_12.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(f + "ABC_1000.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(f + "ABC-123.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(f + "ABC_12A.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(f + "ABC.venturo"), "");
+    EXPECT_EQ(SaveForm::nextSequencePath(folder.string() + "_123/A.venturo"), "");
 }
 
-TEST_F(SaveForm, NewSequenceWritesTheRecordUnderTheNextName) {
+TEST_F(SaveFormTest, NewSequenceWritesTheRecordUnderTheNextName) {
     g.FormRecord =
         "W-2\xB7"
         "2025\xB7TXT13=JOHN DOE";
     writeFile(folder / "DOE_999.venturo", "OLD\r\n");
-    F7_Save& form = loadExisting("DOE_998.venturo");
+    SaveForm& form = loadExisting("DOE_998.venturo");
     desktop.click(form.cmdNewSequence);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
@@ -246,21 +246,21 @@ TEST_F(SaveForm, NewSequenceWritesTheRecordUnderTheNextName) {
     EXPECT_EQ(readFile(folder / "DOE_999.venturo"), "OLD\r\n");
 }
 
-TEST_F(SaveForm, NewSequenceFollowsTheTypedName) {
+TEST_F(SaveFormTest, NewSequenceFollowsTheTypedName) {
     g.FormRecord =
         "W-2\xB7"
         "2025\xB7";
-    F7_Save& form = loadExisting("DOE_000.venturo");
+    SaveForm& form = loadExisting("DOE_000.venturo");
     retype(form, "SMITH_010");
     desktop.click(form.cmdNewSequence);
     EXPECT_EQ(readFile(folder / "SMITH_011.venturo"), g.FormRecord + "\r\n");
 }
 
-TEST_F(SaveForm, NoSequenceForAShortNumberWritesNothingAndSaysSo) {
+TEST_F(SaveFormTest, NoSequenceForAShortNumberWritesNothingAndSaysSo) {
     g.FormRecord =
         "W-2\xB7"
         "2025\xB7";
-    F7_Save& form = loadExisting("ABC_12.venturo");
+    SaveForm& form = loadExisting("ABC_12.venturo");
     desktop.click(form.cmdNewSequence);
     EXPECT_EQ(filesIn(folder), 1);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
@@ -270,9 +270,9 @@ TEST_F(SaveForm, NoSequenceForAShortNumberWritesNothingAndSaysSo) {
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
 }
 
-TEST_F(SaveForm, ExitWritesNothing) {
+TEST_F(SaveFormTest, ExitWritesNothing) {
     g.SaveResult = kSaveResultWrite;
-    F7_Save& form = loadExisting("A_000.venturo");
+    SaveForm& form = loadExisting("A_000.venturo");
     retype(form, "B_000");
     desktop.click(form.cmdExit);
     EXPECT_FALSE(isOpen());
@@ -281,21 +281,21 @@ TEST_F(SaveForm, ExitWritesNothing) {
     EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
 }
 
-TEST_F(SaveForm, ClosingTheFormAnyOtherWayWritesNothing) {
+TEST_F(SaveFormTest, ClosingTheFormAnyOtherWayWritesNothing) {
     g.SaveResult = kSaveResultWrite;
-    F7_Save& form = loadExisting("A_000.venturo");
+    SaveForm& form = loadExisting("A_000.venturo");
     form.unload();
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
 }
 
-TEST_F(SaveForm, TheExtensionIsShownNotTyped) {
-    F7_Save& form = loadExisting("A_000.venturo");
+TEST_F(SaveFormTest, TheExtensionIsShownNotTyped) {
+    SaveForm& form = loadExisting("A_000.venturo");
     EXPECT_TRUE(form.Text2.locked);
     EXPECT_FALSE(form.Text2.tabStop);
 }
 
-TEST_F(SaveForm, AFileWithoutExtensionKeepsItsPath) {
-    F7_Save& form = loadExisting("PLAIN_000");
+TEST_F(SaveFormTest, AFileWithoutExtensionKeepsItsPath) {
+    SaveForm& form = loadExisting("PLAIN_000");
     EXPECT_EQ(form.F7_Extension, "");
     EXPECT_EQ(form.cmdSave.caption, "SAVE\r\n" + folder.string() + "/PLAIN_000\r\nEXIT");
     retype(form, "OTHER_000");

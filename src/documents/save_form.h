@@ -1,5 +1,5 @@
 #pragma once
-// F7_Save, the form shown when the file being saved exists already: keep its name, rename it, or move
+// SaveForm, the form shown when the file being saved exists already: keep its name, rename it, or move
 // on to the next free sequence number; and the atomic write of a data file that the saves share.
 
 #include <functional>
@@ -9,29 +9,29 @@
 
 namespace lw {
 
-// The values F7_Save leaves in SaveResult, a text global: Save_File writes the file itself only on "2".
+// The values SaveForm leaves in SaveResult, a text global: saveDataFile writes the file itself only on "2".
 constexpr const char* kSaveResultWrite = "2";  // write under the same path
 constexpr const char* kSaveResultDone = "4";   // stop: the form wrote what was wanted, or nothing was
 
 // Writes the record and its line end to the path, whole or not at all. On failure the file on disk is
 // unchanged, the operator is told why in a box titled with Source, and the result is false; a folder that
 // is gone or cannot be written also has its remembered save folder checked.
-bool Record_Write(const std::string& Path, const std::string& Record, const std::string& Source);
+bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source);
 
-// The taxpayer sheet's copy of its people into the store, run by Save_File once a sheet's line is
+// The taxpayer sheet's copy of its people into the store, run by saveDataFile once a sheet's line is
 // written. The sheet sets it when it is registered; while the program has no sheet it stays empty.
 std::function<void()>& taxpayerStoreSave();
 
-class F7_Save : public Form {
+class SaveForm : public Form {
 public:
     static constexpr int kFormWidth = 9600;
     static constexpr int kMargin = 240;
 
-    F7_Save();
+    SaveForm();
 
-    // Given by Save_File before the form is loaded.
+    // Given by saveDataFile before the form is loaded.
     std::string F7_Path;
-    // Split from the path at Form_Load.
+    // Split from the path at loadForm.
     std::string F7_Folder;
     std::string F7_BaseName;  // as it came in: the name a rename deletes
     std::string F7_Extension;
@@ -52,10 +52,10 @@ public:
     void onChange(Control& control) override;
     void onClick(Control& control, MouseButton button) override;
 
-    void Text1_Change();
-    void cmdSave_Click();
-    void cmdNewSequence_Click();
-    void cmdExit_Click();
+    void onText1Change();
+    void onSave();
+    void onNewSequence();
+    void onExit();
 
     // The next path of the name's "_###" sequence that no file holds, or "" when the name has no such
     // ending. 7 goes on as 008, 999 as 1000.
