@@ -13,15 +13,16 @@ const std::vector<CatalogueEntry>& catalogue() {
          "Taxpayer Information",
          {{"Text1", 36}, {"Text2", 9}},
          0},
-        {"F3_DL", "DL", "DL", "mnuIDFormsDL", "Driver's License", {{"Text1", 10}}, 0},
+        {"F3_DL", "DL", "DL", "mnuIDFormsDL", "Driver's License", {{"Text1", 10}}, 0, false},
         {"F2_SS_ITIN",
          "SS_ITIN",
          "SS_ITIN",
          "mnuIDFormsSSITIN",
          "Social Security/ITIN Card(s)",
          {{"Text1", 18}},
-         0},
-        {"F4_CHK", "CHK", "CHK", "mnuIDFormsCHK", "Blank Check", {{"Text1", 4}}, 0},
+         0,
+         false},
+        {"F4_CHK", "CHK", "CHK", "mnuIDFormsCHK", "Blank Check", {{"Text1", 4}}, 0, false},
         {"TF_W2", "W2", "W2", "mnuW2", "W-2 (Wage and Tax Statement)", {{"Text1", 46}}, 3},
         {"TF_W2G", "W2G", "W2G", "mnuW2G", "W2-G (Certain Gambling Winnings)", {{"Text1", 22}}, 1},
         {"TF_1099A", "1099A", "1099A", "mnu1099A", "1099-A (Abandonment of Property)", {{"Text1", 9}}, 2},
@@ -159,6 +160,12 @@ const CatalogueEntry* findCatalogueEntry(std::string_view formName) {
 
 std::string formKeyOf(std::string_view formName) {
     return formName.size() > 3 ? text::toUpper(formName.substr(3)) : std::string();
+}
+
+bool formKeyHasTaxYear(std::string_view formKey) {
+    for (const CatalogueEntry& entry : catalogue())
+        if (entry.formKey == formKey) return entry.hasTaxYear;
+    return true;
 }
 
 }  // namespace lw

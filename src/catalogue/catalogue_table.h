@@ -20,11 +20,14 @@ struct CatalogueEntry {
     const char* caption;
     std::vector<TextArray> textArrays;
     int checkCount;
+    bool hasTaxYear = true;  // the form shows the tax year in TaxYear(0) and TaxYear(1)
 };
 
 const std::vector<CatalogueEntry>& catalogue();
 const CatalogueEntry* findCatalogueEntry(std::string_view formName);
 // The name from its fourth character on, upper-cased: TF_W2 gives W2, F1_Configure gives CONFIGURE.
 std::string formKeyOf(std::string_view formName);
+// Whether the form of this key shows the tax year; a form outside the catalogue does.
+bool formKeyHasTaxYear(std::string_view formKey);
 
 }  // namespace lw

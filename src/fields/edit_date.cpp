@@ -1,5 +1,6 @@
 #include "fields/edit_date.h"
 
+#include "catalogue/catalogue_table.h"
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
 #include "fields/edit_failure.h"
@@ -29,8 +30,7 @@ std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.s
 
 std::string formTaxYear() {
     const Globals& g = program().g;
-    const std::string key = g.FormKey;
-    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.CurrentForm)
+    if (!formKeyHasTaxYear(g.FormKey) || !g.CurrentForm)
         return g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
     return g.CurrentForm->at("TaxYear", 0).caption + g.CurrentForm->at("TaxYear", 1).caption;
 }

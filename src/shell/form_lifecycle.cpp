@@ -232,10 +232,7 @@ void sizeBorderToControls(Control& myBorder) {
     myBorder.width = right - 60;
 }
 
-bool formHasTaxYear() {
-    const std::string& key = g().FormKey;
-    return key != "DL" && key != "SS_ITIN" && key != "CHK";
-}
+bool formHasTaxYear() { return formKeyHasTaxYear(g().FormKey); }
 
 void placeInFrame(Form& frm) {
     runGuarded("M3_Ledgerwick:Form_Position", [&] {

@@ -71,5 +71,20 @@ TEST(ShippedCatalogue, EveryDrawingHasTheFieldsOfItsForm) {
     }
 }
 
+// The catalogue says which forms show the tax year: those, and only those, whose drawing has its labels.
+TEST(ShippedCatalogue, AFormShowsTheTaxYearWhenItsDrawingHasTheLabels) {
+    for (const EmbeddedDefinition& embedded : embeddedDefinitions()) {
+        const FormDefinition& definition = *findDefinition(embedded.formName);
+        const CatalogueEntry& entry = *findCatalogueEntry(definition.name);
+        SCOPED_TRACE(entry.form);
+        bool drawn = false;
+        for (const ControlDefinition& c : definition.controls)
+            drawn = drawn || (c.control.name == "TaxYear" && c.control.index == 1);
+        EXPECT_EQ(formKeyHasTaxYear(entry.formKey), drawn);
+    }
+    EXPECT_TRUE(formKeyHasTaxYear("CONFIGURE"));
+    EXPECT_TRUE(formKeyHasTaxYear("SAMPLE")) << "a form outside the catalogue";
+}
+
 }  // namespace
 }  // namespace lw
