@@ -131,6 +131,8 @@ void K1Form::onClick(Control& ctl, MouseButton button) {
     TaxForm::onClick(ctl, button);
 }
 
+void K1Form::refillAfterClear() { restoreK1DesignValues(*this); }
+
 void registerK1Forms() {
     for (const char* name : {"TF_K11041", "TF_K11065", "TF_K11120S"}) {
         const K1Design* design = k1DesignOf(name);

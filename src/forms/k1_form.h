@@ -18,6 +18,8 @@ public:
     void onKeyDown(Control& ctl, int& KeyCode, int Shift) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
     void onClick(Control& ctl, MouseButton button) override;
+    // The code fields get their box numbers back and the amounts their money checks.
+    void refillAfterClear() override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.
     void SetTabOrder();

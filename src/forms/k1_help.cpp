@@ -32,6 +32,21 @@ void keepK1DesignValues(Form& form) {
     g.K1Tag5 = keep(form, "Text5", true);
 }
 
+void restoreK1DesignValues(Form& form) {
+    const Globals& kept = program().g;
+    const auto restore = [&form](const char* name, const std::vector<std::string>& values, bool tags) {
+        for (Control* field : form.arrayOf(name)) {
+            const std::size_t i = static_cast<std::size_t>(field->index);
+            if (i >= values.size()) continue;
+            (tags ? field->tag : field->text) = values[i];
+        }
+    };
+    restore("Text2", kept.K1Text2, false);
+    restore("Text3", kept.K1Tag3, true);
+    restore("Text4", kept.K1Text4, false);
+    restore("Text5", kept.K1Tag5, true);
+}
+
 void openK1CodeList(Form& form, Control& field) {
     runGuarded("M3_Ledgerwick:K1_Help_KeyDown", [&] {
         const std::string name = text::toUpper(field.name);

@@ -14,5 +14,8 @@ void openK1CodeList(Form& form, Control& field);
 // Keeps the design Text of Text2 and Text4 and the design Tag of Text3 and Text5 of a K-1 form as it
 // loads; Clear restores them and a new choice of code takes back an earlier override from them.
 void keepK1DesignValues(Form& form);
+// Puts back the kept design values: the box numbers of the code fields and the amounts' money checks,
+// so that no code or override chosen from the list outlives Clear.
+void restoreK1DesignValues(Form& form);
 
 }  // namespace lw

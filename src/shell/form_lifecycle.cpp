@@ -51,23 +51,6 @@ bool isK1(const std::string& formKey) {
     return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S";
 }
 
-// A K-1's rows as they were designed: the box numbers of the code fields and the amounts' money checks,
-// so that no code or override chosen from the list outlives Clear.
-void restoreK1Design(Form& form) {
-    const Globals& kept = g();
-    const auto restore = [&form](const char* name, const std::vector<std::string>& values, bool tags) {
-        for (Control* field : form.arrayOf(name)) {
-            const std::size_t i = static_cast<std::size_t>(field->index);
-            if (i >= values.size()) continue;
-            (tags ? field->tag : field->text) = values[i];
-        }
-    };
-    restore("Text2", kept.K1Text2, false);
-    restore("Text3", kept.K1Tag3, true);
-    restore("Text4", kept.K1Text4, false);
-    restore("Text5", kept.K1Tag5, true);
-}
-
 // A frame's inner width: what the child area offers beside the command panel.
 int frameInnerWidth() {
     Form* frame = program().desktop.frame();
@@ -315,7 +298,6 @@ void clearForm() {
                 (text::equalsNoCase(c.name, "Picture2") || text::equalsNoCase(c.name, "Picture4")))
                 c.picture.clear();
         }
-        if (isK1(g().FormKey)) restoreK1Design(*form);
         if (auto* catalogueForm = dynamic_cast<CatalogueForm*>(form)) catalogueForm->refillAfterClear();
     });
     // The form may have no status line: the rest goes on regardless.

@@ -127,11 +127,13 @@ TEST_F(K1Help, AFieldWithNoSectionShowsNoList) {
     EXPECT_EQ(field("Text2", 0).text, "");
 }
 
+// What the K-1's own step of Clear puts back after the fields are emptied.
 TEST_F(K1Help, ClearPutsBackTheDesignTextsAndTags) {
     pick(field("Text2", 0), "ZZ");
     pick(field("Text4", 0), "Z");
     field("Text2", 1).text = "typed";
     clearForm();
+    restoreK1DesignValues(*form);
     EXPECT_EQ(field("Text2", 0).text, "");
     EXPECT_EQ(field("Text2", 1).text, "9b");
     EXPECT_EQ(field("Text3", 0).tag, "MONEY");
@@ -139,9 +141,8 @@ TEST_F(K1Help, ClearPutsBackTheDesignTextsAndTags) {
     EXPECT_EQ(field("Text4", 0).text, "");
 }
 
-TEST_F(K1Help, ClearOfAnotherFormLeavesItsTagsAlone) {
+TEST_F(K1Help, ClearOfAFormWithoutTheK1sOwnStepLeavesItsTagsAlone) {
     pick(field("Text2", 0), "ZZ");
-    g().FormKey = "W2";
     clearForm();
     EXPECT_EQ(field("Text3", 0).tag, "") << "only the K-1 forms keep their design";
     EXPECT_EQ(field("Text2", 1).text, "");
