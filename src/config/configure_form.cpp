@@ -264,6 +264,8 @@ void ConfigureForm::commonInitStep() { configureFormCommonInit(*this); }
 
 void ConfigureForm::afterYearChange() { loadRates(); }
 
+void ConfigureForm::giveOwnLook() { lblPrinter.opaque = true; }
+
 void registerConfigureForm() {
     registerForm("F1_Configure", [] { return std::make_unique<ConfigureForm>(); });
     setRatesCheck([](Form& configureForm) { return validateAllRates(configureForm); });

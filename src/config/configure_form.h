@@ -51,6 +51,7 @@ public:
     void onClick(Control& control, MouseButton button) override;
 
     void commonInitStep() override;
+    void giveOwnLook() override;
     void afterYearChange() override;
 
     void onPrinterChosen();

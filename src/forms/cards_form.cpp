@@ -95,6 +95,22 @@ void CardsForm::onValidate(Control& ctl, bool& Cancel) {
     if (Index % 2 == 0 && DuplicateTinCheck(kNumberFields, Index) != 99) Cancel = true;
 }
 
+void CardsForm::giveOwnLook() {
+    for (const auto& owned : controls()) {
+        Control& c = *owned;
+        const bool isLabel = c.kind == ControlKind::Label || c.kind == ControlKind::CheckLabel;
+        if (isLabel && c.name != "label3" && c.name != "label4" && c.name != "label5")
+            c.backColor = kButtonFace;
+    }
+}
+
+void CardsForm::styleTextBox(Control& box) {
+    if (box.index % 2 == 0)
+        setTextFont(box, "Tahoma", 14, true);
+    else
+        setTextFont(box, "Tahoma", 11, true);
+}
+
 void registerCardsForm() {
     registerForm("F2_SS_ITIN", [] { return std::make_unique<CardsForm>(); });
 }

@@ -16,6 +16,10 @@ public:
     void onLoad() override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
     void onValidate(Control& ctl, bool& Cancel) override;
+    // The labels take the panel's grey, but for the three that carry the cards' own colour.
+    void giveOwnLook() override;
+    // Numbers in Tahoma 14 bold, names in Tahoma 11 bold.
+    void styleTextBox(Control& box) override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;

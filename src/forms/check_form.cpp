@@ -25,6 +25,10 @@ void CheckForm::refillAfterClear() {
     at("Text1", 2).text = kSampleAccount;
 }
 
+void CheckForm::styleTextBox(Control& box) {
+    if (box.index == 0) setTextFont(box, "Tahoma", 9);
+}
+
 void registerCheckForm() {
     registerForm("F4_CHK", [] { return std::make_unique<CheckForm>(); });
 }

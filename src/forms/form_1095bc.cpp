@@ -18,9 +18,22 @@ void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     TaxForm::onKeyPress(ctl, keyAscii);
 }
 
+Form1095C::Form1095C() : EnterMovesOnForm("TF_1095C") {}
+
+void Form1095C::styleTextBox(Control& box) {
+    // The gaps at 35 and 48 to 78 are the form's own.
+    const int i = box.index;
+    const bool narrow =
+        (i >= 10 && i <= 22) || (i >= 23 && i <= 34) || (i >= 36 && i <= 47) || (i >= 79 && i <= 91);
+    if (narrow)
+        setTextFont(box, "ArialNarrow", 9);
+    else
+        setTextFont(box, "Tahoma", 11);
+}
+
 void register1095BCForms() {
-    for (const char* name : {"TF_1095B", "TF_1095C"})
-        registerForm(name, [name] { return std::make_unique<EnterMovesOnForm>(name); });
+    registerForm("TF_1095B", [] { return std::make_unique<EnterMovesOnForm>("TF_1095B"); });
+    registerForm("TF_1095C", [] { return std::make_unique<Form1095C>(); });
 }
 
 }  // namespace lw

@@ -15,6 +15,15 @@ public:
     void onKeyPress(Control& ctl, int& keyAscii) override;
 };
 
+// The employer's statement: the narrow columns of its monthly grid in Arial Narrow 9, the rest in
+// Tahoma 11.
+class Form1095C : public EnterMovesOnForm {
+public:
+    Form1095C();
+
+    void styleTextBox(Control& box) override;
+};
+
 // Makes TF_1095B and TF_1095C known by name.
 void register1095BCForms();
 

@@ -49,6 +49,11 @@ void FormRrb1099::onLoad() {
         "displayed.";
 }
 
+void FormRrb1099::showYearDigits(const std::string& digits) {
+    TaxForm::showYearDigits(digits);
+    at("TaxYear", 3).caption = digits;
+}
+
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     setUpControl(ctl, false);

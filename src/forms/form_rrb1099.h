@@ -16,6 +16,8 @@ public:
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
     void onValidate(Control& ctl, bool& Cancel) override;
+    // The year stands on both statements.
+    void showYearDigits(const std::string& digits) override;
 
     // Works the net amount of the upper statement out; Index is the field being left.
     void ComputeRRB(int Index);

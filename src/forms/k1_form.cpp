@@ -131,6 +131,12 @@ void K1Form::onClick(Control& ctl, MouseButton button) {
     TaxForm::onClick(ctl, button);
 }
 
+void K1Form::styleTextBox(Control& box) {
+    setTextFont(box, "Tahoma", 9);
+    box.text = text::trim(box.text);
+    if (box.name == "Text2" || box.name == "Text4") box.alignment = 2;
+}
+
 void K1Form::refillAfterClear() { restoreK1DesignValues(*this); }
 
 void registerK1Forms() {

@@ -18,6 +18,8 @@ public:
     void onKeyDown(Control& ctl, int& KeyCode, int Shift) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
     void onClick(Control& ctl, MouseButton button) override;
+    // Tahoma 9, the text trimmed, and the code columns centred.
+    void styleTextBox(Control& box) override;
     // The code fields get their box numbers back and the amounts their money checks.
     void refillAfterClear() override;
 

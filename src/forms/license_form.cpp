@@ -66,6 +66,16 @@ void LicenseForm::fillAfterLeaving(Control& ctl, bool& Cancel) {
     }
 }
 
+void LicenseForm::giveOwnLook() {
+    Control& choices = at("Frame1");
+    choices.visible = true;
+    height = choices.top + choices.height + 200;
+    at("Picture1").visible = true;
+    at("Picture3").visible = true;
+    for (const auto& owned : controls())
+        if (owned->kind == ControlKind::Picture) owned->visible = true;
+}
+
 void LicenseForm::refillAfterClear() {
     license1PictureIndex = 0;
     license2PictureIndex = 0;

@@ -17,6 +17,8 @@ public:
     void onClick(Control& ctl, MouseButton button) override;
     // Clear takes the portraits away, so their numbers go too.
     void refillAfterClear() override;
+    // On the screen the portraits to choose from show below the licenses, and the form grows to them.
+    void giveOwnLook() override;
 
     int& chosenPicture(int which) override {
         return which == 1 ? license1PictureIndex : license2PictureIndex;

@@ -5,6 +5,7 @@
 #include "fields/key_press.h"
 #include "model/keys.h"
 #include "model/program.h"
+#include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "taxpayer/tpinfo_sheet.h"
 #include "text/pieces.h"
@@ -63,6 +64,12 @@ void TaxpayerSheetForm::showAgeYear() {
     at("LabelTPAge", 0).caption = caption;
     at("LabelTPAge", 1).caption = caption;
     at("LabelOthers", 3).caption = caption;
+}
+
+void TaxpayerSheetForm::giveOwnLook() {
+    height = frameInnerHeight();
+    at("lblInstr").visible = true;
+    if (Control* printer = find("lblPrinter")) printer->opaque = true;
 }
 
 void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {

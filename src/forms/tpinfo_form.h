@@ -17,6 +17,8 @@ public:
     void onValidate(Control& ctl, bool& Cancel) override;
     // Every age is counted again at the end of the new year, and the captions say which year.
     void afterYearChange() override;
+    // On the screen the sheet fills the frame's height and shows its instructions.
+    void giveOwnLook() override;
 
 private:
     void showAgeYear();

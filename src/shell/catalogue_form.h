@@ -15,6 +15,13 @@ public:
     // The form's own step of the common set-up, after its catalogue values are read and before its
     // looks are given: the configuration form fills its rates there.
     virtual void commonInitStep() {}
+    // The form's own looks, given by the common set-up before its walk over the controls (and again
+    // after a print or a clip): a form whose screen shows more than its paper sizes and shows it here.
+    virtual void giveOwnLook() {}
+    // The font of a text box, given by the common set-up before the box's type sets it up.
+    virtual void styleTextBox(Control& box);
+    // The two digits of the tax year in force on the form's year labels.
+    virtual void showYearDigits(const std::string& digits);
     // The form's own refill after Clear has emptied its fields.
     virtual void refillAfterClear() {}
     // The form's own renewal after a change of the tax year.
@@ -25,5 +32,8 @@ public:
     bool ssaError = false;
     bool rrbError = false;
 };
+
+// The font of a text box as a form chooses it.
+void setTextFont(Control& box, const char* name, double size, bool bold = false);
 
 }  // namespace lw

@@ -23,34 +23,6 @@ Globals& g() { return program().g; }
 
 bool isLabel(const Control& c) { return c.kind == ControlKind::Label || c.kind == ControlKind::CheckLabel; }
 
-struct TextFont {
-    const char* name;
-    double size;
-    bool bold;
-};
-
-// The font of a text box by form and index; nullptr keeps the designed font.
-const TextFont* textFontFor(const std::string& formKey, const Control& c) {
-    static const TextFont tahoma14Bold{"Tahoma", 14, true}, tahoma11Bold{"Tahoma", 11, true},
-        tahoma9{"Tahoma", 9, false}, tahoma10{"Tahoma", 10, false}, tahoma11{"Tahoma", 11, false},
-        narrow9{"ArialNarrow", 9, false};
-    if (formKey == "SS_ITIN") return c.index % 2 == 0 ? &tahoma14Bold : &tahoma11Bold;
-    if (formKey == "CHK") return c.index == 0 ? &tahoma9 : nullptr;
-    if (formKey == "K11041" || formKey == "K11065" || formKey == "K11120S") return &tahoma9;
-    if (formKey == "1095C") {
-        // The gaps at 35 and 48 to 78 are the form's own.
-        const int i = c.index;
-        const bool narrow =
-            (i >= 10 && i <= 22) || (i >= 23 && i <= 34) || (i >= 36 && i <= 47) || (i >= 79 && i <= 91);
-        return narrow ? &narrow9 : &tahoma11;
-    }
-    return &tahoma10;
-}
-
-bool isK1(const std::string& formKey) {
-    return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S";
-}
-
 // A frame's inner width: what the child area offers beside the command panel.
 int frameInnerWidth() {
     Form* frame = program().desktop.frame();
@@ -59,15 +31,13 @@ int frameInnerWidth() {
     return frame->width - (panel ? panel->width : 0) - 120;
 }
 
-int frameInnerHeight() {
-    Form* frame = program().desktop.frame();
-    return frame ? frame->height - 900 : 0;
-}
-
+// A form outside the catalogue has the common rules: the digits on TaxYear(1), text boxes in Tahoma 10.
 void showYearDigits(Form& frm) {
     const std::string digits = taxYearDigits();
-    frm.at("TaxYear", 1).caption = digits;
-    if (frm.name() == "TF_RRB1099") frm.at("TaxYear", 3).caption = digits;
+    if (auto* form = dynamic_cast<CatalogueForm*>(&frm))
+        form->showYearDigits(digits);
+    else
+        frm.at("TaxYear", 1).caption = digits;
 }
 
 // "yyyy+1" ... "yyyy-3" by the year, then "yyyy", then the bars as line breaks with a blank.
@@ -106,6 +76,11 @@ std::string withLineBreaks(const std::string& caption) {
 
 }  // namespace
 
+int frameInnerHeight() {
+    Form* frame = program().desktop.frame();
+    return frame ? frame->height - 900 : 0;
+}
+
 void initCatalogueForm(Form& frm) {
     g().CurrentForm = &frm;
     loadFormInfo();
@@ -120,16 +95,8 @@ void resetFormLook() {
         const std::string key = formKeyOf(form.name());
         g().FormKey = key;
         form.backColor = kButtonFace;
-        if (key == "TPINFO") {
-            form.height = frameInnerHeight();
-            form.at("lblInstr").visible = true;
-        } else if (key == "DL") {
-            Control& frame1 = form.at("Frame1");
-            frame1.visible = true;
-            form.height = frame1.top + frame1.height + 200;
-            form.at("Picture1").visible = true;
-            form.at("Picture3").visible = true;
-        }
+        auto* catalogueForm = dynamic_cast<CatalogueForm*>(&form);
+        if (catalogueForm) catalogueForm->giveOwnLook();
         for (const auto& owned : form.controls()) {
             Control& c = *owned;
             switch (c.kind) {
@@ -143,22 +110,13 @@ void resetFormLook() {
                     break;
                 case ControlKind::Label:
                 case ControlKind::CheckLabel:
-                    if (c.name == "LabelPart" || c.name == "Check" ||
-                        ((key == "CONFIGURE" || key == "TPINFO") && c.name == "lblPrinter"))
-                        c.opaque = true;
-                    if (key == "SS_ITIN" && c.name != "label3" && c.name != "label4" && c.name != "label5")
-                        c.backColor = kButtonFace;
+                    if (c.name == "LabelPart" || c.name == "Check") c.opaque = true;
                     break;
                 case ControlKind::TextBox:
-                    if (const TextFont* font = textFontFor(key, c)) {
-                        c.fontName = font->name;
-                        c.fontSize = font->size;
-                        c.fontBold = font->bold;
-                    }
-                    if (isK1(key)) {
-                        c.text = text::trim(c.text);
-                        if (c.name == "Text2" || c.name == "Text4") c.alignment = 2;
-                    }
+                    if (catalogueForm)
+                        catalogueForm->styleTextBox(c);
+                    else
+                        setTextFont(c, "Tahoma", 10);
                     setUpControl(c, true);
                     break;
                 case ControlKind::Frame:
@@ -167,7 +125,6 @@ void resetFormLook() {
                     break;
                 case ControlKind::Picture:
                     c.backColor = kButtonFace;
-                    if (key == "DL") c.visible = true;
                     break;
                 default:
                     break;

@@ -20,6 +20,8 @@ void placeInFrame(Form& frm);
 // Opens a form of the catalogue by name: creates it when needed and places it.
 Form* openCatalogueForm(const std::string& formName);
 bool formHasTaxYear();
+// The height the frame's child area offers a form.
+int frameInnerHeight();
 // The Change Tax Yr button: the next year of the cycle, for every form.
 void changeTaxYear(Form& frm);
 // Re-checks the dates of CurrentForm against the year in force; the first bad one keeps its error.
