@@ -13,7 +13,6 @@
 #include "model/program.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
-#include "shell/rates_check.h"
 #include "shell/startup.h"
 #include "shell/tax_year.h"
 #include "text/case.h"
@@ -266,9 +265,28 @@ void ConfigureForm::afterYearChange() { loadRates(); }
 
 void ConfigureForm::giveOwnLook() { lblPrinter.opaque = true; }
 
+bool ConfigureForm::keepsTheScreen() { return !validateAllRates(*this); }
+
+Control& ConfigureForm::focusOnOpening(int) { return cbxPrinters; }
+
+void ConfigureForm::saveCommand() {
+    storeRates();
+    bChanged = false;
+}
+
+void ConfigureForm::afterPrinted() {
+    bChanged = false;
+    setFocus(cbxPrinters);
+}
+
+void ConfigureForm::clearCommand(bool fromMenu) {
+    if (fromMenu) setFocus(txtSSRate);
+}
+
+void ConfigureForm::beforeProgramEnds() { offerToSaveChangedRates(); }
+
 void registerConfigureForm() {
     registerForm("F1_Configure", [] { return std::make_unique<ConfigureForm>(); });
-    setRatesCheck([](Form& configureForm) { return validateAllRates(configureForm); });
 }
 
 }  // namespace lw

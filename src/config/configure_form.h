@@ -52,6 +52,17 @@ public:
 
     void commonInitStep() override;
     void giveOwnLook() override;
+    // A bad rate keeps the form on the screen.
+    bool keepsTheScreen() override;
+    Control& focusOnOpening(int focusOnStartup) override;
+    // Save keeps the figures in the rates file; Print counts as keeping them too.
+    void saveCommand() override;
+    void afterPrinted() override;
+    // The form holds no document: Clear from the menu only moves to the first figure.
+    void clearCommand(bool fromMenu) override;
+    bool takesTaxpayers() const override { return false; }
+    // Changed figures are offered for saving.
+    void beforeProgramEnds() override;
     void afterYearChange() override;
 
     void onPrinterChosen();
@@ -73,7 +84,7 @@ private:
 // is written into the two Medicare captions in place of their markers.
 void configureFormCommonInit(Form& form);
 
-// Makes the configuration form known by name, and the check of its figures that keeps it on the screen.
+// Makes the configuration form known by name.
 void registerConfigureForm();
 
 }  // namespace lw

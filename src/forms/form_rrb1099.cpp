@@ -54,6 +54,10 @@ void FormRrb1099::showYearDigits(const std::string& digits) {
     at("TaxYear", 3).caption = digits;
 }
 
+std::string FormRrb1099::outputRefusal() const {
+    return rrbError ? "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping" : "";
+}
+
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     setUpControl(ctl, false);

@@ -18,6 +18,8 @@ public:
     void onValidate(Control& ctl, bool& Cancel) override;
     // The year stands on both statements.
     void showYearDigits(const std::string& digits) override;
+    // While the net amount falls short the statement may not be saved, printed or clipped.
+    std::string outputRefusal() const override;
 
     // Works the net amount of the upper statement out; Index is the field being left.
     void ComputeRRB(int Index);

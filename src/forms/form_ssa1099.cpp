@@ -54,6 +54,10 @@ void FormSsa1099::onActivateForm() {
     });
 }
 
+std::string FormSsa1099::outputRefusal() const {
+    return ssaError ? "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping" : "";
+}
+
 bool FormSsa1099::isComputed(int index) const {
     const Control* ctl = find("Text1", index);
     return ctl && hasComputedTag(*ctl);

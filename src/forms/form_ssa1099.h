@@ -20,6 +20,8 @@ public:
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
     void onValidate(Control& ctl, bool& Cancel) override;
+    // While a computed amount is below zero the statement may not be saved, printed or clipped.
+    std::string outputRefusal() const override;
 
     // The Part B premium of the year in force, over whatever the field held, then a computation.
     void onActivateForm();

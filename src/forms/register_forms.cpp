@@ -3,7 +3,6 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "config/configure_form.h"
-#include "config/rates.h"
 #include "documents/record.h"
 #include "documents/save_form.h"
 #include "documents/saving.h"
@@ -20,7 +19,6 @@
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
 #include "forms/w2_form.h"
-#include "model/program.h"
 #include "output/form_print.h"
 #include "output/screen_clip.h"
 #include "shell/form_registry.h"
@@ -31,20 +29,6 @@
 namespace lw {
 
 namespace {
-
-// The configuration form keeps its figures in the rates file: Save writes them, closing asks about them.
-void wireConfigureCommands() {
-    FrameCommandHooks& hooks = frameCommandHooks();
-    hooks.markRatesKept = [] {
-        if (auto* form = dynamic_cast<ConfigureForm*>(program().desktop.findForm("F1_Configure")))
-            form->bChanged = false;
-    };
-    hooks.saveRates = [] {
-        storeRates();
-        frameCommandHooks().markRatesKept();
-    };
-    hooks.checkRateChanges = [] { offerToSaveChangedRates(); };
-}
 
 void wireOutputCommands() {
     FrameCommandHooks& hooks = frameCommandHooks();
@@ -57,7 +41,6 @@ void wireOutputCommands() {
 
 void registerAllForms() {
     registerConfigureForm();
-    wireConfigureCommands();
     wireOutputCommands();
     frameCommandHooks().openFile = [] { openDataFile(); };
     frameCommandHooks().saveFile = [] { saveDataFile(); };

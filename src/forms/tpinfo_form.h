@@ -19,6 +19,8 @@ public:
     void afterYearChange() override;
     // On the screen the sheet fills the frame's height and shows its instructions.
     void giveOwnLook() override;
+    // The sheet is where the people come from: Load TP does not fill it.
+    bool takesTaxpayers() const override { return false; }
 
 private:
     void showAgeYear();

@@ -2,6 +2,9 @@
 
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
+#include "fields/control_setup.h"
+#include "shell/form_lifecycle.h"
+#include "shell/frame_command_hooks.h"
 
 namespace lw {
 
@@ -13,6 +16,30 @@ CatalogueForm::CatalogueForm(const std::string& name) : Form(name) {
 void CatalogueForm::styleTextBox(Control& box) { setTextFont(box, "Tahoma", 10); }
 
 void CatalogueForm::showYearDigits(const std::string& digits) { at("TaxYear", 1).caption = digits; }
+
+Control& CatalogueForm::focusOnOpening(int focusOnStartup) { return at("Text1", focusOnStartup); }
+
+void CatalogueForm::saveCommand() { saveAsDocument(); }
+
+void CatalogueForm::afterPrinted() { focusFirstFieldAfterPrint(*this); }
+
+void CatalogueForm::clearCommand(bool) { clearAndFocusFirstField(*this); }
+
+void saveAsDocument() {
+    if (frameCommandHooks().saveFile) frameCommandHooks().saveFile();
+}
+
+void focusFirstFieldAfterPrint(Form& form) {
+    if (Control* first = form.find("Text1", 0)) {
+        setUpControl(*first, false);
+        form.setFocus(*first);
+    }
+}
+
+void clearAndFocusFirstField(Form& form) {
+    clearForm();
+    if (Control* first = form.find("Text1", 0)) form.setFocus(*first);
+}
 
 void setTextFont(Control& box, const char* name, double size, bool bold) {
     box.fontName = name;

@@ -1,6 +1,7 @@
 #pragma once
 // A form of the catalogue: made from its drawing when the program has one, and set up by the shared
-// lifecycle. Forms with handlers of their own derive from it.
+// lifecycle. Forms with handlers of their own derive from it. Its virtual steps are where a form keeps
+// its own rules: the shared steps call them, and a form that says nothing gets the common rule.
 
 #include <string>
 
@@ -27,6 +28,25 @@ public:
     // The form's own renewal after a change of the tax year.
     virtual void afterYearChange() {}
 
+    // Placing in the frame. A form that keeps the screen (the configuration form while a rate is bad)
+    // stays, and no other form opens.
+    virtual bool keepsTheScreen() { return false; }
+    // The field that takes the focus when the form is placed; focusOnStartup is its catalogue value.
+    virtual Control& focusOnOpening(int focusOnStartup);
+
+    // The frame's commands. Save keeps the form as a document file.
+    virtual void saveCommand();
+    // After Print, once the form's looks are given again: the first field takes the focus.
+    virtual void afterPrinted();
+    // Clear from the button or the menu: the fields emptied and the first one focused.
+    virtual void clearCommand(bool fromMenu);
+    // Whether Load TP fills the form with the people of the case.
+    virtual bool takesTaxpayers() const { return true; }
+    // Why the form may not be saved, printed or clipped as it stands; empty when it may.
+    virtual std::string outputRefusal() const { return {}; }
+    // Run as the program ends with the form on the screen.
+    virtual void beforeProgramEnds() {}
+
     // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
     // print or clip the form.
     bool ssaError = false;
@@ -35,5 +55,9 @@ public:
 
 // The font of a text box as a form chooses it.
 void setTextFont(Control& box, const char* name, double size, bool bold = false);
+// The common rules of the commands, for a form outside the catalogue as well.
+void saveAsDocument();
+void focusFirstFieldAfterPrint(Form& form);
+void clearAndFocusFirstField(Form& form);
 
 }  // namespace lw

@@ -9,7 +9,6 @@
 #include "model/program.h"
 #include "shell/catalogue_form.h"
 #include "shell/form_registry.h"
-#include "shell/rates_check.h"
 #include "shell/startup.h"
 #include "shell/tax_year.h"
 #include "text/case.h"
@@ -178,9 +177,10 @@ void placeInFrame(Form& frm) {
     runGuarded("M3_Ledgerwick:Form_Position", [&] {
         Desktop& desktop = program().desktop;
         for (Form* open : desktop.forms()) {
-            if (open->name() == "F1_Configure" && !g().bStartup && !ratesOfConfigureFormPass(*open)) {
-                // A bad rate keeps the configuration form on the screen; the new form does not open, and
-                // the shared procedures work on the configuration form again, with its own catalogue values.
+            auto* kept = dynamic_cast<CatalogueForm*>(open);
+            if (kept && !g().bStartup && kept->keepsTheScreen()) {
+                // The new form does not open, and the shared procedures work on the form that kept the
+                // screen again, with its own catalogue values.
                 if (open != &frm) {
                     desktop.unload(frm);
                     desktop.activate(*open);
@@ -197,10 +197,10 @@ void placeInFrame(Form& frm) {
         if (formHasTaxYear()) showYearDigits(frm);
         // The form shows, and so activates, when it is placed and dated.
         desktop.activate(frm);
-        if (!text::containsNoCase(frm.name(), "Configure"))
-            frm.setFocus(frm.at("Text1", g().FocusOnStartup));
+        if (auto* form = dynamic_cast<CatalogueForm*>(&frm))
+            frm.setFocus(form->focusOnOpening(g().FocusOnStartup));
         else
-            frm.setFocus(frm.at("cbxPrinters"));
+            frm.setFocus(frm.at("Text1", g().FocusOnStartup));
     });
 }
 

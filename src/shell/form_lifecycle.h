@@ -14,8 +14,8 @@ void resetFormLook();
 void writeYearCaptions();
 // Sizes the border shape to all the controls of its form.
 void sizeBorderToControls(Control& myBorder);
-// Places a form in the frame, unloading every other child; the configuration form stays while its rates
-// are bad. Loads the form first when it is not loaded.
+// Places a form in the frame, unloading every other child, unless a form on the screen keeps it (the
+// configuration form while its rates are bad).
 void placeInFrame(Form& frm);
 // Opens a form of the catalogue by name: creates it when needed and places it.
 Form* openCatalogueForm(const std::string& formName);

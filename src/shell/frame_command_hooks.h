@@ -16,11 +16,6 @@ struct FrameCommandHooks {
     std::function<void()> screenClip;
     std::function<void(Form&)> printForm;
     std::function<void()> mdiClip;
-    // The configuration form's own Save and closing check.
-    std::function<void()> saveRates;
-    std::function<void()> checkRateChanges;
-    // The frame's Print counts as keeping the figures on the screen.
-    std::function<void()> markRatesKept;
 };
 
 FrameCommandHooks& frameCommandHooks();

@@ -2,7 +2,6 @@
 #include "diagnostics/error_logger.h"
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
-#include "fields/control_setup.h"
 #include "fields/edit_ctl.h"
 #include "model/app_error.h"
 #include "model/program.h"
@@ -34,34 +33,26 @@ bool hasChildForms() {
 void hideTaskbar(FrameForm& frame) { frame.bTaskbarHidden = true; }
 void showTaskbar(FrameForm& frame) { frame.bTaskbarHidden = false; }
 
-// With the configuration form on the screen, changed rates are asked about before the program ends.
-void checkRatesBeforeEnding() {
-    Form* active = program().desktop.activeChild();
-    if (active && active->name() == "F1_Configure" && hooks().checkRateChanges) hooks().checkRateChanges();
+// The form on the screen has its say before the program ends: the configuration form asks about changed
+// rates.
+void askTheFormBeforeEnding() {
+    if (auto* form = dynamic_cast<CatalogueForm*>(program().desktop.activeChild())) form->beforeProgramEnds();
 }
 
 void quitProgram() {
     if (hasChildForms()) {
         g().bQuitting = true;
-        checkRatesBeforeEnding();
+        askTheFormBeforeEnding();
     }
     program().ui.quit();
-}
-
-void focusFirstField(Form& form) {
-    if (Control* first = form.find("Text1", 0)) form.setFocus(*first);
 }
 
 // Stage 4 of a button: a form whose computation failed may not be kept, printed or clipped.
 bool outputBlocked(Form& active) {
     auto* form = dynamic_cast<CatalogueForm*>(&active);
     if (!form) return false;
-    const char* text = nullptr;
-    if (g().FormKey == "SSA1099" && form->ssaError)
-        text = "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping";
-    if (g().FormKey == "RRB1099" && form->rrbError)
-        text = "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping";
-    if (!text) return false;
+    const std::string text = form->outputRefusal();
+    if (text.empty()) return false;
     MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
     return true;
 }
@@ -75,26 +66,22 @@ bool allFieldsStand(Form& form) {
 }
 
 void runOutputCommand(const std::string& pressed, Form& active) {
-    const bool configure = g().FormKey == "CONFIGURE";
+    auto* form = dynamic_cast<CatalogueForm*>(&active);
     if (pressed == "SAVE") {
         if (!allFieldsStand(active)) return;
-        if (configure) {
-            if (hooks().saveRates) hooks().saveRates();
-        } else if (hooks().saveFile) {
-            hooks().saveFile();
-        }
+        if (form)
+            form->saveCommand();
+        else
+            saveAsDocument();
     } else if (pressed == "PRINT") {
         if (!hooks().printForm) return;
         if (hooks().screenClip) hooks().screenClip();
         hooks().printForm(active);
         resetFormLook();
-        if (configure) {
-            if (hooks().markRatesKept) hooks().markRatesKept();
-            active.setFocus(active.at("cbxPrinters"));
-        } else if (Control* first = active.find("Text1", 0)) {
-            setUpControl(*first, false);
-            active.setFocus(*first);
-        }
+        if (form)
+            form->afterPrinted();
+        else
+            focusFirstFieldAfterPrint(active);
     } else if (pressed == "CLIP") {
         if (hooks().mdiClip) hooks().mdiClip();
     }
@@ -118,14 +105,15 @@ void onFrameButton(FrameForm& frame, Control& button) {
         }
         Form* active = program().desktop.activeChild();
         if (!active) throw AppError(800, kNoFormMessage, "F0_MDI:cmdBtn_Click");
-        const std::string key = g().FormKey;
+        auto* form = dynamic_cast<CatalogueForm*>(active);
         if (pressed == "LOAD TP 1" || pressed == "LOAD TP 2") {
-            if (key == "CONFIGURE" || key == "TPINFO") return;
+            if (form && !form->takesTaxpayers()) return;
             if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
         } else if (pressed == "CLEAR") {
-            if (key == "CONFIGURE") return;
-            clearForm();
-            focusFirstField(*active);
+            if (form)
+                form->clearCommand(false);
+            else
+                clearAndFocusFirstField(*active);
         } else if (pressed == "CLOSE") {
             g().CurrentFileName.clear();
             active->unload();
@@ -156,17 +144,14 @@ void onLegendClick(FrameForm& frame) {
         hideTaskbar(frame);
 }
 
-// The menu's Clear differs from the button's: it works on CurrentForm, and on the configuration form
-// it only moves the focus.
+// The menu's Clear works on CurrentForm, where the button's works on the form on the screen.
 void onMenuClear() {
     Form* current = g().CurrentForm;
     if (!current || current->name().empty()) return;
-    if (current->name() == "F1_Configure") {
-        current->setFocus(current->at("txtSSRate"));
-        return;
-    }
-    clearForm();
-    focusFirstField(*current);
+    if (auto* form = dynamic_cast<CatalogueForm*>(current))
+        form->clearCommand(true);
+    else
+        clearAndFocusFirstField(*current);
 }
 
 // The menu's Print has no screen clip and no error flags, and gives the first field the pale yellow.
@@ -224,7 +209,7 @@ void FrameForm::onMenu(const std::string& itemName) {
 
 void FrameForm::onQueryUnload(bool&) {
     g().bQuitting = true;
-    checkRatesBeforeEnding();
+    askTheFormBeforeEnding();
 }
 
 void FrameForm::onUnload(bool&) { showTaskbar(*this); }

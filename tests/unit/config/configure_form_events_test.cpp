@@ -6,7 +6,6 @@
 #include "configure_form_fixture.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
-#include "shell/rates_check.h"
 
 namespace lw::test {
 namespace {
@@ -135,15 +134,15 @@ TEST_F(ConfigureFormTest, TheDefaultAnswerToTheClosingQuestionIsMFS) {
     EXPECT_EQ(ui.quitCalls, 1);
 }
 
-TEST_F(ConfigureFormTest, RegisteringMakesTheFormAndItsRatesCheckKnown) {
+TEST_F(ConfigureFormTest, RegisteringMakesTheFormKnownAndABadRateKeepsTheScreen) {
     registerConfigureForm();
     ASSERT_TRUE(hasForm("F1_Configure"));
     std::unique_ptr<Form> made = createForm("f1_configure");
     ASSERT_NE(dynamic_cast<ConfigureForm*>(made.get()), nullptr);
     ConfigureForm& loaded = open();
-    EXPECT_TRUE(ratesOfConfigureFormPass(loaded));
+    EXPECT_FALSE(loaded.keepsTheScreen());
     loaded.txtMCRateAfter.text = "100";
-    EXPECT_FALSE(ratesOfConfigureFormPass(loaded));
+    EXPECT_TRUE(loaded.keepsTheScreen());
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("Invalid Medicare Rate"), std::string::npos);
     EXPECT_EQ(desktop().focus(), &loaded.txtMCRateAfter);
