@@ -7,6 +7,7 @@
 #include "model/program.h"
 #include "store/inf_store.h"
 #include "text/number.h"
+#include "text/pieces.h"
 
 namespace lw {
 
@@ -18,6 +19,12 @@ std::string GetFormInfo(const std::string& Section, const std::string& Key) {
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
     return store::ReadINF(section, Key, "", program().g.FormsInfFile);
+}
+
+std::optional<int> firstFieldIndex(const std::string& list) {
+    const std::vector<std::string> pieces = text::split(list, ",");
+    if (pieces.empty() || !text::isNumeric(pieces[0])) return std::nullopt;
+    return static_cast<int>(*text::toDouble(pieces[0]));
 }
 
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 // What the logic knows of a form beyond its fields: read from the catalogue file each time a form opens.
 
+#include <optional>
 #include <string>
 
 namespace lw {
@@ -8,6 +9,9 @@ namespace lw {
 // One value of the catalogue file. The section is the text behind the first "_" with every "-" removed,
 // except SS_ITIN, which stands as it is: TF_W2, W2 and a record prefix such as 1099-MISC all lead home.
 std::string GetFormInfo(const std::string& Section, const std::string& Key);
+// The first field index of a comma list of the catalogue (SSNIndex, NameAddrIndex ...); nothing for an
+// empty list or one that starts with no number.
+std::optional<int> firstFieldIndex(const std::string& list);
 // Fills the per-form values of CurrentForm. The two focus values keep those of the form opened before
 // when the file has no number for them.
 void loadFormInfo();

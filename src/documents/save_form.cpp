@@ -63,11 +63,6 @@ void tell(const std::string& source, const std::string& message) {
 
 }  // namespace
 
-std::function<void()>& taxpayerStoreSave() {
-    static std::function<void()> hook;
-    return hook;
-}
-
 bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source) {
     std::string error;
     if (store::writeFileAtomically(Path, Record + kLineEnd, error)) return true;

@@ -2,7 +2,6 @@
 // SaveForm, the form shown when the file being saved exists already: keep its name, rename it, or move
 // on to the next free sequence number; and the atomic write of a data file that the saves share.
 
-#include <functional>
 #include <string>
 
 #include "model/form.h"
@@ -17,10 +16,6 @@ constexpr const char* kSaveResultDone = "4";   // stop: the form wrote what was 
 // unchanged, the operator is told why in a box titled with Source, and the result is false; a folder that
 // is gone or cannot be written also has its remembered save folder checked.
 bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source);
-
-// The taxpayer sheet's copy of its people into the store, run by saveDataFile once a sheet's line is
-// written. The sheet sets it when it is registered; while the program has no sheet it stays empty.
-std::function<void()>& taxpayerStoreSave();
 
 class SaveForm : public Form {
 public:

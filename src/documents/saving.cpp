@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "catalogue/form_info.h"
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
 #include "documents/file_dialogs.h"
@@ -15,6 +16,7 @@
 #include "fields/control_setup.h"
 #include "model/program.h"
 #include "people/name_format.h"
+#include "shell/catalogue_form.h"
 #include "shell/paths.h"
 #include "text/case.h"
 #include "text/cp1252.h"
@@ -55,59 +57,7 @@ std::string replaceNoCase(const std::string& text, const std::string& what, cons
     return out + text.substr(from);
 }
 
-// The first number of a comma list of field indexes; nothing for an empty list.
-std::optional<int> firstIndex(const std::string& list) {
-    const std::vector<std::string> pieces = text::split(list, ",");
-    if (pieces.empty() || !text::isNumeric(pieces[0])) return std::nullopt;
-    return static_cast<int>(*text::toDouble(pieces[0]));
-}
-
 std::string fieldText(Form& form, int index) { return form.at("Text1", index).text; }
-
-bool isK1(const std::string& formKey) {
-    return formKey == "K11041" || formKey == "K11065" || formKey == "K11120S";
-}
-
-struct K1Rule {
-    const char* formKey;
-    bool numberMissing;
-    const char* message;
-    int number;
-    int tab;
-};
-
-// Which message, number and tab of the two-page form belong to a missing number or name.
-const K1Rule& k1Rule(const std::string& formKey, bool numberMissing) {
-    static const K1Rule rules[] = {
-        {"K11041", true, "Beneficiary's SSN/ITIN REQUIRED", 800, 1},
-        {"K11041", false, "Beneficiary's Name and Address Required.", 800, 1},
-        {"K11065", true, "Shareholder's SSN REQUIRED", 801, 0},
-        {"K11065", false, "Shareholder's Name and Address Required.", 801, 0},
-        {"K11120S", true, "Shareholder's SSN REQUIRED", 801, 0},
-        {"K11120S", false, "Shareholder's Name and Address Required.", 801, 1},
-    };
-    for (const K1Rule& rule : rules)
-        if (formKey == rule.formKey && rule.numberMissing == numberMissing) return rule;
-    return rules[0];
-}
-
-// A K-1 needs its number and its name, number first. Returns false, having shown where, when one is blank.
-bool k1RequiredFieldsFilled(Form& form, int& FocusIndex) {
-    const std::optional<int> number = firstIndex(g().SSNIndex);
-    const std::optional<int> name = firstIndex(g().NameAddrIndex);
-    for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
-        if (!index || !fieldText(form, *index).empty()) continue;
-        const K1Rule& rule = k1Rule(g().FormKey, numberMissing);
-        MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
-        if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
-        // saveDataFile's last step focuses FocusIndex: it must land on the same field.
-        FocusIndex = *index;
-        form.setFocus(form.at("Text1", *index));
-        program().ui.refresh();
-        return false;
-    }
-    return true;
-}
 
 // The form's own edit of the field being left; a field that does not stand is named anyway, as typed.
 void validateActiveControl(Form& form) {
@@ -140,15 +90,15 @@ std::string buildFileName(int& FocusIndex) {
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
     Form& form = *found;
     const std::string formKey = g().FormKey;
+    // A form outside the catalogue has the common rules.
+    auto* rules = dynamic_cast<CatalogueForm*>(&form);
 
-    if (formKey == "SS_ITIN") {
-        std::string name = "SS_ITIN_" + fieldText(form, 1);
-        if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
+    if (const std::optional<std::string> own = rules ? rules->ownFileName() : std::nullopt) {
         g().FormRecord = buildRecord();
-        return safeFileName(name + "_000");
+        return safeFileName(*own);
     }
 
-    if (isK1(formKey) && !k1RequiredFieldsFilled(form, FocusIndex)) return kK1Error;
+    if (rules && !rules->requiredFieldsFilled(FocusIndex)) return kK1Error;
 
     std::string other;
     if (text::isNumeric(g().OtherInfo)) {
@@ -161,9 +111,7 @@ std::string buildFileName(int& FocusIndex) {
     g().FormRecord = buildRecord();
 
     std::string name;
-    if (formKey == "SSA1099") {
-        name = fieldText(form, 0);
-    } else if (const std::optional<int> nameIndex = firstIndex(g().NameAddrIndex)) {
+    if (const std::optional<int> nameIndex = firstFieldIndex(g().NameAddrIndex)) {
         name = fieldText(form, *nameIndex);
         if (other == name) other.clear();
     }
@@ -173,7 +121,7 @@ std::string buildFileName(int& FocusIndex) {
         g().FileNameFormat.empty() ? kFirstTemplate + g().FileExtension : g().FileNameFormat;
     fileName = replaceNoCase(fileName, "<FORM>", formKey);
 
-    if (const std::optional<int> numberIndex = firstIndex(g().SSNIndex)) {
+    if (const std::optional<int> numberIndex = firstFieldIndex(g().SSNIndex)) {
         if (fieldText(form, *numberIndex).empty()) {
             FocusIndex = *numberIndex;
             raiseDataError(801, "Social Security/Taxpayer ID Number is MANDATORY", kNameLabel);
@@ -186,9 +134,10 @@ std::string buildFileName(int& FocusIndex) {
     fileName = replaceNoCase(fileName, "<LAST>_<FIRST>", piece(names, 1));
     fileName = replaceNoCase(fileName, "<FIRST>_<LAST>", piece(names, 0));
 
-    if (other.empty() || formKey == "CHK") {
+    const OtherInFileName otherRule = rules ? rules->otherInFileName() : OtherInFileName::AsTyped;
+    if (other.empty() || otherRule == OtherInFileName::Omitted) {
         fileName = replaceNoCase(fileName, "<OTHER>_", "");
-    } else if (formKey == "TPINFO" || formKey == "SS_ITIN" || formKey == "DL") {
+    } else if (otherRule == OtherInFileName::LastName) {
         const std::vector<std::string> others =
             text::split(formatTaxpayerName(other), std::string(1, text::kFieldSeparator));
         fileName = replaceNoCase(fileName, "<OTHER>", piece(others, 1));
@@ -234,7 +183,7 @@ void saveFile(int& FocusIndex) {
 
     if (!writeRecord(path, g().FormRecord, kSaveLabel)) return;
 
-    if (text::startsWithNoCase(g().FormRecord, "TPINFO") && taxpayerStoreSave()) taxpayerStoreSave()();
+    if (auto* saved = dynamic_cast<CatalogueForm*>(loadedCurrentForm())) saved->afterSaved();
 
     if (Form* form = loadedCurrentForm()) {
         if (Control* status = form->find("labelMisc")) {

@@ -111,6 +111,12 @@ void CardsForm::styleTextBox(Control& box) {
         setTextFont(box, "Tahoma", 11, true);
 }
 
+std::optional<std::string> CardsForm::ownFileName() const {
+    std::string name = "SS_ITIN_" + at("Text1", 1).text;
+    if (const std::string& second = at("Text1", 3).text; !second.empty()) name += "_" + second;
+    return name + "_000";
+}
+
 void registerCardsForm() {
     registerForm("F2_SS_ITIN", [] { return std::make_unique<CardsForm>(); });
 }

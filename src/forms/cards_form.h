@@ -20,6 +20,8 @@ public:
     void giveOwnLook() override;
     // Numbers in Tahoma 14 bold, names in Tahoma 11 bold.
     void styleTextBox(Control& box) override;
+    // The cards are named after the first two people on them, as typed.
+    std::optional<std::string> ownFileName() const override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;

@@ -19,6 +19,8 @@ public:
     void refillAfterClear() override;
     // The payee's block in Tahoma 9; the other fields keep their drawn fonts.
     void styleTextBox(Control& box) override;
+    // The bank is no part of the file name.
+    OtherInFileName otherInFileName() const override { return OtherInFileName::Omitted; }
 };
 
 void registerCheckForm();

@@ -22,7 +22,9 @@ const std::vector<K1Design>& designs() {
          {6, 13, 13, 12, 12},
          K1HelpKeys::F1Only,
          K1HelpKeys::F1ToF12,
-         4},
+         4,
+         {"Shareholder's SSN REQUIRED", 801, 0},
+         {"Shareholder's Name and Address Required.", 801, 0}},
         {"TF_K11120S",
          "K1-1120S-",
          {{12, 16, "Box10"}, {18, 25, "Box12"}},
@@ -30,7 +32,9 @@ const std::vector<K1Design>& designs() {
          {7, 13, 13, 13, 13},
          K1HelpKeys::F1Only,
          K1HelpKeys::F1Only,
-         5},
+         5,
+         {"Shareholder's SSN REQUIRED", 801, 0},
+         {"Shareholder's Name and Address Required.", 801, 1}},
         {"TF_K11041",
          "K1-1041-",
          {{11, 13, "Box9"}},
@@ -38,7 +42,9 @@ const std::vector<K1Design>& designs() {
          {5, 13, 13, 13, 13},
          K1HelpKeys::AnyKey,
          K1HelpKeys::AnyKey,
-         -1},
+         -1,
+         {"Beneficiary's SSN/ITIN REQUIRED", 800, 1},
+         {"Beneficiary's Name and Address Required.", 800, 1}},
     };
     return table;
 }

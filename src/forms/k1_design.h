@@ -16,6 +16,13 @@ struct K1CodedRows {
     const char* box;  // "Box11"
 };
 
+// What naming a K-1 says of a required field left blank: the message, its number, and the page turned to.
+struct K1RequiredField {
+    const char* message;
+    int number;
+    int tab;
+};
+
 enum class K1HelpKeys {
     F1Only,   // only F1 opens the list
     F1ToF12,  // any function key opens it
@@ -30,7 +37,9 @@ struct K1Design {
     int limits[5];  // Text1 to Text5: a field with an index above this stands on the second page
     K1HelpKeys text2Keys;
     K1HelpKeys text4Keys;
-    int checkBoxField;  // the Text5 index of the amount that is a check mark, -1 when none
+    int checkBoxField;               // the Text5 index of the amount that is a check mark, -1 when none
+    K1RequiredField numberRequired;  // the recipient's number, asked for first
+    K1RequiredField nameRequired;    // the recipient's name and address
 };
 
 // nullptr for a form that is no Schedule K-1.

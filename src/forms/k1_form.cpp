@@ -2,12 +2,17 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 
+#include "catalogue/form_info.h"
+#include "diagnostics/message_box.h"
 #include "fields/control_setup.h"
 #include "fields/edit_ctl.h"
 #include "forms/k1_help.h"
 #include "model/containers.h"
 #include "model/keys.h"
+#include "model/program.h"
 #include "shell/form_registry.h"
 #include "text/case.h"
 #include "text/cp1252.h"
@@ -138,6 +143,24 @@ void K1Form::styleTextBox(Control& box) {
 }
 
 void K1Form::refillAfterClear() { restoreK1DesignValues(*this); }
+
+bool K1Form::requiredFieldsFilled(int& focusIndex) {
+    const Globals& g = program().g;
+    const std::pair<std::optional<int>, const K1RequiredField*> required[] = {
+        {firstFieldIndex(g.SSNIndex), &design_.numberRequired},
+        {firstFieldIndex(g.NameAddrIndex), &design_.nameRequired}};
+    for (const auto& [index, rule] : required) {
+        if (!index || !at("Text1", *index).text.empty()) continue;
+        MA_MBX("M4_FileCode:Build_FileName", rule->number, rule->message, "OK", false, "", "", "", 1);
+        at("SSTab1").listIndex = rule->tab;
+        // The save's last step focuses focusIndex: it must land on the same field.
+        focusIndex = *index;
+        setFocus(at("Text1", *index));
+        program().ui.refresh();
+        return false;
+    }
+    return true;
+}
 
 void registerK1Forms() {
     for (const char* name : {"TF_K11041", "TF_K11065", "TF_K11120S"}) {

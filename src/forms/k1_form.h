@@ -22,6 +22,8 @@ public:
     void styleTextBox(Control& box) override;
     // The code fields get their box numbers back and the amounts their money checks.
     void refillAfterClear() override;
+    // A K-1 is named only with its recipient's number and name, number first.
+    bool requiredFieldsFilled(int& focusIndex) override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.
     void SetTabOrder();

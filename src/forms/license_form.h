@@ -19,6 +19,8 @@ public:
     void refillAfterClear() override;
     // On the screen the portraits to choose from show below the licenses, and the form grows to them.
     void giveOwnLook() override;
+    // The second license's holder stands in the file name by last name.
+    OtherInFileName otherInFileName() const override { return OtherInFileName::LastName; }
 
     int& chosenPicture(int which) override {
         return which == 1 ? license1PictureIndex : license2PictureIndex;

@@ -24,7 +24,6 @@
 #include "shell/form_registry.h"
 #include "shell/frame_command_hooks.h"
 #include "taxpayer/load_tp.h"
-#include "taxpayer/tpinfo_sheet.h"
 
 namespace lw {
 
@@ -57,9 +56,8 @@ void registerAllForms() {
     register1095AForm();
     register1095BCForms();
     registerK1Forms();
-    // The people of the case: the sheet fills the store, the Load TP buttons read it.
+    // The Load TP buttons read the people of the case from the store that the sheet fills.
     frameCommandHooks().loadTaxpayer = [](const std::string& Who) { readTaxpayers(Who); };
-    taxpayerStoreSave() = [] { saveTaxpayerSheet(); };
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

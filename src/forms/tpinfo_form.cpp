@@ -72,6 +72,8 @@ void TaxpayerSheetForm::giveOwnLook() {
     if (Control* printer = find("lblPrinter")) printer->opaque = true;
 }
 
+void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(); }
+
 void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     if (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV || keyAscii == keys::kCtrlX) return;

@@ -3,11 +3,19 @@
 // lifecycle. Forms with handlers of their own derive from it. Its virtual steps are where a form keeps
 // its own rules: the shared steps call them, and a form that says nothing gets the common rule.
 
+#include <optional>
 #include <string>
 
 #include "model/form.h"
 
 namespace lw {
+
+// How the other information of a document (the OTHER of the file name template) stands in its name.
+enum class OtherInFileName {
+    AsTyped,   // the first line of the field
+    LastName,  // a person's name, last name first
+    Omitted,
+};
 
 class CatalogueForm : public Form {
 public:
@@ -46,6 +54,15 @@ public:
     virtual std::string outputRefusal() const { return {}; }
     // Run as the program ends with the form on the screen.
     virtual void beforeProgramEnds() {}
+
+    // Naming and saving the document. A name of the form's own, in place of the template's.
+    virtual std::optional<std::string> ownFileName() const { return std::nullopt; }
+    // Before naming: false when a field the form requires is blank, once the operator has been told and
+    // the focus sent there; focusIndex then names that field of Text1.
+    virtual bool requiredFieldsFilled(int& /*focusIndex*/) { return true; }
+    virtual OtherInFileName otherInFileName() const { return OtherInFileName::AsTyped; }
+    // Run once the document's line is written.
+    virtual void afterSaved() {}
 
     // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
     // print or clip the form.
