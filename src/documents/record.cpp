@@ -7,9 +7,9 @@
 #include "documents/file_dialogs.h"
 #include "model/app_error.h"
 #include "model/program.h"
+#include "shell/catalogue_form.h"
 #include "shell/form_lifecycle.h"
 #include "store/record_line.h"
-#include "taxpayer/tpinfo_sheet.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 
@@ -27,23 +27,6 @@ Globals& g() { return program().g; }
 bool isCheckLabel(const Control& c) {
     return (c.kind == ControlKind::CheckLabel || c.kind == ControlKind::Label) &&
            text::equalsNoCase(c.name, "Check");
-}
-
-// The nine cards pair a number Text1(n) with a name Text1(n+1); the first bad pair stops the check.
-void checkCardPairs(const Form& form) {
-    bool anyFilled = false;
-    for (int n = 0; n <= 16; n += 2) {
-        const Control* number = form.find("Text1", n);
-        const Control* name = form.find("Text1", n + 1);
-        const bool hasNumber = number && !number->text.empty();
-        const bool hasName = name && !name->text.empty();
-        if (hasNumber && !hasName)
-            throw AppError(801, "One or more SS or ITIN cards has a Number without a Name", kBuildLabel);
-        if (hasName && !hasNumber)
-            throw AppError(802, "One or more SS or ITIN cards has a Name without a Number", kBuildLabel);
-        anyFilled = anyFilled || hasNumber;
-    }
-    if (!anyFilled) throw AppError(803, "All SS/ITIN cards are blank, They WILL NOT be saved.", kBuildLabel);
 }
 
 std::vector<store::RecordField> filledControls(const Form& form) {
@@ -65,16 +48,10 @@ std::vector<store::RecordField> filledControls(const Form& form) {
     return fields;
 }
 
-int chosenPictureOf(Form& form, int which) {
-    if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) return pictures->chosenPicture(which);
-    return 0;
-}
-
-// The ages of the taxpayer sheet follow the birth dates just read; only the sheet has them.
-void fillAges() {
-    Form* sheet = program().desktop.findForm("F5_TPInfo");
-    if (!sheet || sheet != g().CurrentForm) return;
-    UpdateAllAges(*sheet);
+// The form just read has its say once the Open command is done with it.
+void afterFileOpened() {
+    auto* form = dynamic_cast<CatalogueForm*>(g().CurrentForm);
+    if (form && form->isLoaded()) form->afterFileOpened();
 }
 
 }  // namespace
@@ -86,14 +63,16 @@ std::string buildRecord() {
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
         if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
-        if (g().FormKey == "SS_ITIN") {
+        if (auto* rules = dynamic_cast<CatalogueForm*>(form)) {
+            // What a refused check leaves behind (only the cards refuse).
             line = kCardsError;
-            checkCardPairs(*form);
+            rules->checkBeforeRecord();
+            line.clear();
         }
         std::vector<store::RecordField> fields = filledControls(*form);
-        if (g().FormKey == "DL") {
-            fields.push_back({"PIC1", std::to_string(chosenPictureOf(*form, 1))});
-            fields.push_back({"PIC2", std::to_string(chosenPictureOf(*form, 2))});
+        if (auto* pictures = dynamic_cast<ChosenPictures*>(form)) {
+            fields.push_back({"PIC1", std::to_string(pictures->chosenPicture(1))});
+            fields.push_back({"PIC2", std::to_string(pictures->chosenPicture(2))});
         }
         line = store::buildRecordLine(g().RecordPrefix, year, fields);
     });
@@ -115,7 +94,7 @@ void openDataFile() {
         g().CurrentFileName = OpenOrSaveFile(0, "");
         if (g().CurrentFileName == kCancel) return;
         readDataFile();
-        fillAges();
+        afterFileOpened();
         program().ui.refresh();
     });
 }

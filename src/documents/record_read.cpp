@@ -8,9 +8,9 @@
 #include "fields/edit_date.h"
 #include "model/app_error.h"
 #include "model/program.h"
+#include "shell/catalogue_form.h"
 #include "shell/form_lifecycle.h"
 #include "shell/paths.h"
-#include "shell/startup.h"
 #include "store/atomic_file.h"
 #include "store/file_bytes.h"
 #include "store/record_line.h"
@@ -27,7 +27,6 @@ constexpr int kNoSuchForm = 851;
 constexpr int kFileAccessError = 75;
 // A data file is one line of a few kilobytes; anything this large is something else.
 constexpr std::uintmax_t kLargestRecordFile = 1024 * 1024;
-constexpr Color kYellow = 65535;
 
 Globals& g() { return program().g; }
 
@@ -112,17 +111,10 @@ void showPicture(Form& form, const char* pictureBox, int which, const std::strin
 void setField(Form& form, const std::string& field0, const store::RecordField& field) {
     const std::optional<int> index = store::recordKeyIndex(field.key);
     if (!index) return;
-    const store::KeyTarget where = store::recordKeyTarget(field.key);
-    const bool otherTextArray = where.target == store::RecordTarget::TextArray && where.array > 1;
-    // The benefit statement puts every key but Text2..Text9 into Text1, and shows a negative
-    // amount of its three amount boxes in red.
-    if (field0 == "SSA" && !otherTextArray) {
-        Control& ctl = form.at("Text1", *index);
-        ctl.text = field.value;
-        if ((*index == 4 || *index == 5 || *index == 8) && !field.value.empty() && field.value[0] == '-')
-            ctl.foreColor = kRed;
+    if (auto* rules = dynamic_cast<CatalogueForm*>(&form);
+        rules && rules->readRecordField(field0, field, *index))
         return;
-    }
+    const store::KeyTarget where = store::recordKeyTarget(field.key);
     switch (where.target) {
         case store::RecordTarget::TextArray:
             form.at("Text" + std::to_string(where.array), *index).text = field.value;
@@ -156,27 +148,6 @@ void readField(Form& form, const std::string& field0, const std::string& text) {
     }
 }
 
-// The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
-void refreshTaxpayerStore(Form& sheet) {
-    auto text = [&](int index) { return sheet.at("Text1", index).text; };
-    writeUserInf("TP1NameAddr", store::recordValue(text(0)));
-    writeUserInf("TP1DOB", text(2));
-    writeUserInf("TP1SSN", text(1));
-    writeUserInf("TP2NameAddr", store::recordValue(text(3)));
-    writeUserInf("TP2DOB", text(5));
-    writeUserInf("TP2SSN", text(4));
-}
-
-// Each card with a number shows the card of its kind: an ITIN starts with 9.
-void showCardPictures(Form& cards) {
-    for (const auto& owned : cards.controls()) {
-        const Control& c = *owned;
-        if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
-        cards.at("Image1", c.index / 2).picture =
-            joinPath(g().PicturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
-    }
-}
-
 }  // namespace
 
 // An opened file's dates go through the same walk as after a change of year.
@@ -206,10 +177,7 @@ std::string readDataFile() {
             status->foreColor = kRed;
             status->caption = path;
         }
-        if (opened.name() == "F5_TPInfo") {
-            if (Control* label = opened.find("Label1")) label->backColor = kYellow;
-            program().ui.refresh();
-        }
+        if (auto* rules = dynamic_cast<CatalogueForm*>(&opened)) rules->beforeFileRead();
         if (fields.size() > 2) readField(opened, fields[0], fields[2]);
         form = &opened;
     });
@@ -223,8 +191,7 @@ std::string readDataFile() {
         status->foreColor = kRed;
         status->caption = g().CurrentFileName;
     }
-    if (form->name() == "F5_TPInfo") refreshTaxpayerStore(*form);
-    if (form->name() == "F2_SS_ITIN") showCardPictures(*form);
+    if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->afterFileRead();
     return g().FormTitle;
 }
 

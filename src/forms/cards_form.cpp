@@ -2,6 +2,7 @@
 
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
+#include "model/app_error.h"
 #include "model/keys.h"
 #include "model/program.h"
 #include "shell/form_lifecycle.h"
@@ -115,6 +116,34 @@ std::optional<std::string> CardsForm::ownFileName() const {
     std::string name = "SS_ITIN_" + at("Text1", 1).text;
     if (const std::string& second = at("Text1", 3).text; !second.empty()) name += "_" + second;
     return name + "_000";
+}
+
+// The nine cards pair a number Text1(n) with a name Text1(n+1); the first bad pair stops the check.
+void CardsForm::checkBeforeRecord() const {
+    constexpr const char* kBuildLabel = "M4_FileCode:Build_Record";
+    bool anyFilled = false;
+    for (int n = 0; n <= 16; n += 2) {
+        const Control* number = find("Text1", n);
+        const Control* name = find("Text1", n + 1);
+        const bool hasNumber = number && !number->text.empty();
+        const bool hasName = name && !name->text.empty();
+        if (hasNumber && !hasName)
+            throw AppError(801, "One or more SS or ITIN cards has a Number without a Name", kBuildLabel);
+        if (hasName && !hasNumber)
+            throw AppError(802, "One or more SS or ITIN cards has a Name without a Number", kBuildLabel);
+        anyFilled = anyFilled || hasNumber;
+    }
+    if (!anyFilled) throw AppError(803, "All SS/ITIN cards are blank, They WILL NOT be saved.", kBuildLabel);
+}
+
+// An ITIN starts with 9.
+void CardsForm::afterFileRead() {
+    for (const auto& owned : controls()) {
+        const Control& c = *owned;
+        if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
+        at("Image1", c.index / 2).picture =
+            joinPath(program().g.PicturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+    }
 }
 
 void registerCardsForm() {

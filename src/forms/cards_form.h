@@ -22,6 +22,10 @@ public:
     void styleTextBox(Control& box) override;
     // The cards are named after the first two people on them, as typed.
     std::optional<std::string> ownFileName() const override;
+    // Every card needs both its number and its name, and at least one card must be filled.
+    void checkBeforeRecord() const override;
+    // Each card read with a number shows the card of its kind.
+    void afterFileRead() override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;

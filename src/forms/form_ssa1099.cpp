@@ -58,6 +58,19 @@ std::string FormSsa1099::outputRefusal() const {
     return ssaError ? "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping" : "";
 }
 
+bool FormSsa1099::readRecordField(const std::string& recordPrefix, const store::RecordField& record,
+                                  int index) {
+    // A line under another spelling of the prefix is read the common way.
+    if (recordPrefix != "SSA") return false;
+    const store::KeyTarget where = store::recordKeyTarget(record.key);
+    if (where.target == store::RecordTarget::TextArray && where.array > 1) return false;
+    Control& box = field(index);
+    box.text = record.value;
+    const bool computedBox = index == kNetBenefits || index == kPaidByCheck || index == kBenefitsForYear;
+    if (computedBox && !record.value.empty() && record.value[0] == '-') box.foreColor = kRed;
+    return true;
+}
+
 bool FormSsa1099::isComputed(int index) const {
     const Control* ctl = find("Text1", index);
     return ctl && hasComputedTag(*ctl);

@@ -22,6 +22,10 @@ public:
     void onValidate(Control& ctl, bool& Cancel) override;
     // While a computed amount is below zero the statement may not be saved, printed or clipped.
     std::string outputRefusal() const override;
+    // A file of the statement puts every key but Text2 to Text9 into Text1, and shows a negative amount
+    // of its three computed boxes in red.
+    bool readRecordField(const std::string& recordPrefix, const store::RecordField& field,
+                         int index) override;
 
     // The Part B premium of the year in force, over whatever the field held, then a computation.
     void onActivateForm();

@@ -7,6 +7,8 @@
 #include "model/program.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
+#include "shell/startup.h"
+#include "store/record_line.h"
 #include "taxpayer/tpinfo_sheet.h"
 #include "text/pieces.h"
 
@@ -73,6 +75,26 @@ void TaxpayerSheetForm::giveOwnLook() {
 }
 
 void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(); }
+
+void TaxpayerSheetForm::beforeFileRead() {
+    constexpr Color kYellow = 65535;
+    if (Control* banner = find("Label1")) banner->backColor = kYellow;
+    program().ui.refresh();
+}
+
+// The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
+void TaxpayerSheetForm::afterFileRead() {
+    auto text = [&](int index) { return at("Text1", index).text; };
+    writeUserInf("TP1NameAddr", store::recordValue(text(0)));
+    writeUserInf("TP1DOB", text(2));
+    writeUserInf("TP1SSN", text(1));
+    writeUserInf("TP2NameAddr", store::recordValue(text(3)));
+    writeUserInf("TP2DOB", text(5));
+    writeUserInf("TP2SSN", text(4));
+}
+
+// The ages follow the birth dates just read.
+void TaxpayerSheetForm::afterFileOpened() { UpdateAllAges(*this); }
 
 void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;

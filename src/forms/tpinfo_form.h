@@ -25,6 +25,10 @@ public:
     OtherInFileName otherInFileName() const override { return OtherInFileName::LastName; }
     // A saved sheet fills the store that Load TP reads.
     void afterSaved() override;
+    // An opened sheet shows its banner in yellow, refills the store and counts its ages again.
+    void beforeFileRead() override;
+    void afterFileRead() override;
+    void afterFileOpened() override;
 
 private:
     void showAgeYear();

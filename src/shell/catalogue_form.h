@@ -7,6 +7,7 @@
 #include <string>
 
 #include "model/form.h"
+#include "store/record_line.h"
 
 namespace lw {
 
@@ -63,6 +64,22 @@ public:
     virtual OtherInFileName otherInFileName() const { return OtherInFileName::AsTyped; }
     // Run once the document's line is written.
     virtual void afterSaved() {}
+    // Before the document's line is built: throws a Data Error when the fields make no document.
+    virtual void checkBeforeRecord() const {}
+
+    // Reading a file into the form. The form's own reading of one key field of a line that stands
+    // under recordPrefix, index being the key's: true when it has placed the value, false for the
+    // common reading.
+    virtual bool readRecordField(const std::string& /*recordPrefix*/, const store::RecordField& /*field*/,
+                                 int /*index*/) {
+        return false;
+    }
+    // Once the form is placed for a file, before the file's fields are read.
+    virtual void beforeFileRead() {}
+    // Once the file's fields are read and its dates checked.
+    virtual void afterFileRead() {}
+    // After the Open command has read a file into the form.
+    virtual void afterFileOpened() {}
 
     // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
     // print or clip the form.
