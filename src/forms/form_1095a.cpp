@@ -33,7 +33,7 @@ MonthColumn monthColumnOf(int Index) {
     return {};
 }
 
-Form1095A::Form1095A() : TaxForm("TF_1095A") {}
+Form1095A::Form1095A() : TaxForm("TF_1095A") { sizesBorder_ = false; }
 
 void Form1095A::onGotFocus(Control& ctl) {
     TaxForm::onGotFocus(ctl);

@@ -8,7 +8,7 @@
 
 namespace lw {
 
-EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) {}
+EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) { sizesBorder_ = false; }
 
 void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (isFieldArray(ctl) && keyAscii == keys::kEnter) {

@@ -37,7 +37,7 @@ int fieldIndexOf(const std::string& item) {
 
 }  // namespace
 
-FormRrb1099::FormRrb1099() : TaxForm("TF_RRB1099") {}
+FormRrb1099::FormRrb1099() : TaxForm("TF_RRB1099") { sizesBorder_ = false; }
 
 void FormRrb1099::onLoad() {
     TaxForm::onLoad();

@@ -31,7 +31,7 @@ bool hasComputedTag(const Control& ctl) { return text::equalsNoCase(ctl.tag, "CO
 
 }  // namespace
 
-FormSsa1099::FormSsa1099() : TaxForm("TF_SSA1099") {}
+FormSsa1099::FormSsa1099() : TaxForm("TF_SSA1099") { sizesBorder_ = false; }
 
 void FormSsa1099::onLoad() {
     TaxForm::onLoad();

@@ -27,7 +27,7 @@ bool isArray(const Control& ctl, char number) { return isFieldArray(ctl) && ctl.
 
 }  // namespace
 
-K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {}
+K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) { sizesBorder_ = false; }
 
 void K1Form::onLoad() {
     SetTabOrder();

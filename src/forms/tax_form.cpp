@@ -17,18 +17,7 @@ bool isFieldArray(const Control& ctl) {
            text::startsWithNoCase(ctl.name, "Text") && ctl.name[4] >= '1' && ctl.name[4] <= '5';
 }
 
-namespace {
-// These forms keep their border as drawn; every other form fits it to its drawing when it loads.
-bool keepsDrawnBorder(const std::string& name) {
-    static const char* const forms[] = {"TF_1095A",   "TF_1095B",  "TF_1095C",  "TF_SSA1099",
-                                        "TF_RRB1099", "TF_K11041", "TF_K11065", "TF_K11120S"};
-    for (const char* form : forms)
-        if (text::equalsNoCase(name, form)) return true;
-    return false;
-}
-}  // namespace
-
-TaxForm::TaxForm(const std::string& name) : CatalogueForm(name), sizesBorder_(!keepsDrawnBorder(name)) {}
+TaxForm::TaxForm(const std::string& name) : CatalogueForm(name) {}
 
 void TaxForm::onLoad() {
     initCatalogueForm(*this);

@@ -23,7 +23,8 @@ public:
     void onCheckClick(int Index);
 
 protected:
-    // Most forms size their border to their drawing when they load; a few keep it as drawn.
+    // Most forms size their border to their drawing when they load; a form that keeps it as drawn clears
+    // this in its constructor.
     bool sizesBorder_ = true;
 };
 

@@ -8,6 +8,7 @@
 #include "forms/form_rrb1099.h"
 #include "forms/k1_form.h"
 #include "forms/license_form.h"
+#include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
 #include "opened_form.h"
 #include "shell/form_lifecycle.h"
@@ -89,6 +90,19 @@ TEST_F(FormLooks, AnyOtherFormWritesInTahomaTen) {
     EXPECT_EQ(w2.at("Text1", 0).fontName, "Tahoma");
     EXPECT_DOUBLE_EQ(w2.at("Text1", 0).fontSize, 10);
     EXPECT_FALSE(w2.at("Text1", 0).fontBold);
+}
+
+TEST_F(FormLooks, TheLongStatementsKeepTheirBorderAsDrawn) {
+    for (const char* menuItem : {"mnu1095A", "mnu1095B", "mnu1095C", "mnuSSA1099", "mnuRRB1099"}) {
+        SCOPED_TRACE(menuItem);
+        const Control& border = opened(test, menuItem).at("myBorder");
+        const TaxForm drawn(border.form->name());
+        const Control& asDrawn = drawn.at("myBorder");
+        EXPECT_EQ(border.left, asDrawn.left);
+        EXPECT_EQ(border.top, asDrawn.top);
+        EXPECT_EQ(border.width, asDrawn.width);
+        EXPECT_EQ(border.height, asDrawn.height);
+    }
 }
 
 TEST_F(FormLooks, TheRailroadStatementsBothShowTheYear) {
