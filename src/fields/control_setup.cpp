@@ -1,6 +1,7 @@
 #include "fields/control_setup.h"
 
 #include "model/app_error.h"
+#include "model/form.h"
 #include "model/program.h"
 #include "text/case.h"
 #include "text/cp1252.h"
@@ -55,15 +56,10 @@ const std::vector<AlignmentRow>& alignmentRows() {
 
 bool isMoneyTag(const std::string& tag) { return tag == "MONEY" || tag == "SMONEY" || tag == "-MONEY"; }
 
-// The money tip of the 1095-A names its F12 copy, and only on the monthly amounts.
-void setMoneyTip(Control& ctl) {
-    if (!text::equalsNoCase(g().FormTitle, "TF_1095A")) {
-        ctl.toolTipText = kMoneyTip;
-        return;
-    }
-    if (ctl.index >= 38 && ctl.index <= 76)
-        ctl.toolTipText =
-            "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+const FieldRules& rulesOfTheFormOf(const Control& ctl) {
+    static const FieldRules common;
+    const auto* rules = dynamic_cast<const FieldRules*>(ctl.form);
+    return rules ? *rules : common;
 }
 
 }  // namespace
@@ -93,12 +89,12 @@ void setUpAlignment(Control& ctl) {
         if (match) break;
     }
     if (!match) {
-        ctl.alignment = g().FormKey == "SS_ITIN" ? 2 : 0;
+        ctl.alignment = rulesOfTheFormOf(ctl).untypedFieldAlignment();
     } else {
         if (match->alignment >= 0) ctl.alignment = match->alignment;
         if (match->maxLength > 0) ctl.maxLength = match->maxLength;
         if (isMoneyTag(tag))
-            setMoneyTip(ctl);
+            rulesOfTheFormOf(ctl).giveMoneyTip(ctl);
         else if (match->tip)
             ctl.toolTipText = match->tip;
         if (tag == "COMPUTED") ctl.backColor = legendColor(7);

@@ -20,6 +20,8 @@ public:
     void giveOwnLook() override;
     // Numbers in Tahoma 14 bold, names in Tahoma 11 bold.
     void styleTextBox(Control& box) override;
+    // A field whose type aligns nothing stands centred on its card.
+    int untypedFieldAlignment() const override { return 2; }
     // The cards are named after the first two people on them, as typed.
     std::optional<std::string> ownFileName() const override;
     // Every card needs both its number and its name, and at least one card must be filled.

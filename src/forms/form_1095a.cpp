@@ -35,6 +35,12 @@ MonthColumn monthColumnOf(int Index) {
 
 Form1095A::Form1095A() : TaxForm("TF_1095A") { sizesBorder_ = false; }
 
+void Form1095A::giveMoneyTip(Control& field) const {
+    if (field.index >= kColumnA.first && field.index <= kColumnC.total)
+        field.toolTipText =
+            "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+}
+
 void Form1095A::onGotFocus(Control& ctl) {
     TaxForm::onGotFocus(ctl);
     if (isText1(ctl)) iLastIndex = ctl.index;

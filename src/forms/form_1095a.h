@@ -22,6 +22,8 @@ public:
     void onKeyDown(Control& ctl, int& keyCode, int shift) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
     void onValidate(Control& ctl, bool& Cancel) override;
+    // The monthly amounts' tip names the F12 copy; the other amounts keep the tips they are drawn with.
+    void giveMoneyTip(Control& field) const override;
 
     // The handlers by field index, as the key and focus events reach them.
     void onText1KeyPress(int Index, int& keyAscii);

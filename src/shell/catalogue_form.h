@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "fields/control_setup.h"
 #include "model/form.h"
 #include "store/record_line.h"
 
@@ -18,7 +19,7 @@ enum class OtherInFileName {
     Omitted,
 };
 
-class CatalogueForm : public Form {
+class CatalogueForm : public Form, public FieldRules {
 public:
     explicit CatalogueForm(const std::string& name);
 

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "fields/control_setup.h"
 #include "model/app_error.h"
 #include "model/keys.h"
 #include "opened_form.h"
@@ -15,6 +16,18 @@ namespace {
 struct Form1095ATotals : testing::OpenedForm<Form1095A> {
     Form1095ATotals() : OpenedForm("mnu1095A", "TF_1095A") {}
 };
+
+TEST_F(Form1095ATotals, TheMonthlyAmountsAloneNameTheF12Copy) {
+    const std::string hint =
+        "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
+    for (int index : {36, 37, 38, 50, 76}) {
+        Control& money = field(index);
+        money.tag = "MONEY";
+        money.toolTipText = "as designed";
+        setUpControl(money, true);
+        EXPECT_EQ(money.toolTipText, index >= 38 ? hint : "as designed") << index;
+    }
+}
 
 TEST_F(Form1095ATotals, TheColumnsAreTheMonthsOfPartThree) {
     EXPECT_EQ(monthColumnOf(38).total, 50);

@@ -68,6 +68,20 @@ TEST_F(FormLooks, TheCardsWriteNumbersLargerThanNames) {
     EXPECT_TRUE(name.fontBold);
 }
 
+TEST_F(FormLooks, TheCardsCentreTheNamesTheirTypeLeavesAlone) {
+    Form& cards = opened(test, "mnuIDFormsSSITIN");
+    Control& name = cards.at("Text1", 1);
+    ASSERT_EQ(name.tag, "TPNAME");
+    name.alignment = 0;
+    resetFormLook();
+    EXPECT_EQ(name.alignment, 2);
+    Form& w2 = opened(test, "mnuW2");
+    Control& employer = w2.at("Text1", 4);
+    employer.alignment = 2;
+    resetFormLook();
+    EXPECT_EQ(employer.alignment, 0) << w2.at("Text1", 4).tag;
+}
+
 TEST_F(FormLooks, TheCheckSetsOnlyThePayeeInTahoma) {
     Form& check = opened(test, "mnuIDFormsCHK");
     ASSERT_NE(dynamic_cast<CheckForm*>(&check), nullptr);

@@ -119,23 +119,36 @@ TEST_F(FieldSetup, SetUpGivesAlignmentTipAndLength) {
     EXPECT_EQ(phone.toolTipText, "designer's tip") << "a type without a tip keeps the designed one";
 }
 
-TEST_F(FieldSetup, OtherFieldsAreCentredOnTheCards) {
-    test.program->g.FormKey = "SS_ITIN";
-    Control& name = field("TPNAME");
-    setUpControl(name, true);
-    EXPECT_EQ(name.alignment, 2);
+// A form with rules of its own for its fields, as the cards and the 1095-A have.
+class OwnRulesForm : public Form, public FieldRules {
+public:
+    OwnRulesForm() : Form("TF_OWN") {}
+    int untypedFieldAlignment() const override { return 2; }
+    void giveMoneyTip(Control& field) const override { field.toolTipText = "own tip"; }
+};
+
+TEST_F(FieldSetup, AFieldWhoseTypeAlignsNothingTakesTheFormsAlignment) {
+    Control& common = field("TPNAME");
+    common.alignment = 2;
+    setUpControl(common, true);
+    EXPECT_EQ(common.alignment, 0);
+    OwnRulesForm own;
+    Control& centred = own.add(ControlKind::TextBox, "Text1", 0);
+    centred.tag = "TPNAME";
+    setUpControl(centred, true);
+    EXPECT_EQ(centred.alignment, 2);
 }
 
-TEST_F(FieldSetup, TheMonthlyAmountsOfThe1095AAloneNameTheF12Copy) {
-    test.program->g.FormTitle = "tf_1095a";
-    const std::string hint =
-        "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
-    for (int index : {37, 38, 76, 77}) {
-        Control& money = field("MONEY", index);
-        money.toolTipText = "as designed";
-        setUpControl(money, true);
-        EXPECT_EQ(money.toolTipText, index == 38 || index == 76 ? hint : "as designed") << index;
-    }
+TEST_F(FieldSetup, AMoneyFieldTakesTheTipOfItsForm) {
+    Control& common = field("MONEY");
+    setUpControl(common, true);
+    EXPECT_EQ(common.toolTipText, kMoneyTip);
+    OwnRulesForm own;
+    Control& money = own.add(ControlKind::TextBox, "Text1", 0);
+    money.tag = "MONEY";
+    setUpControl(money, true);
+    EXPECT_EQ(money.toolTipText, "own tip");
+    EXPECT_EQ(money.alignment, 1) << "the type's own alignment stands";
 }
 
 TEST_F(FieldSetup, TakingTheFocusPutsTheTipOnTheStatusLineAndNotesTheField) {
