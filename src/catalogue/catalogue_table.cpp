@@ -13,7 +13,7 @@ const std::vector<CatalogueEntry>& catalogue() {
          "Taxpayer Information",
          {{"Text1", 36}, {"Text2", 9}},
          0},
-        {"F3_DL", "DL", "DL", "mnuIDFormsDL", "Driver's License", {{"Text1", 10}}, 0, false},
+        {"F3_DL", "DL", "DL", "mnuIDFormsDL", "Driver's License", {{"Text1", 10}}, 0, kNoTaxYear},
         {"F2_SS_ITIN",
          "SS_ITIN",
          "SS_ITIN",
@@ -21,8 +21,8 @@ const std::vector<CatalogueEntry>& catalogue() {
          "Social Security/ITIN Card(s)",
          {{"Text1", 18}},
          0,
-         false},
-        {"F4_CHK", "CHK", "CHK", "mnuIDFormsCHK", "Blank Check", {{"Text1", 4}}, 0, false},
+         kNoTaxYear},
+        {"F4_CHK", "CHK", "CHK", "mnuIDFormsCHK", "Blank Check", {{"Text1", 4}}, 0, kNoTaxYear},
         {"TF_W2", "W2", "W2", "mnuW2", "W-2 (Wage and Tax Statement)", {{"Text1", 46}}, 3},
         {"TF_W2G", "W2G", "W2G", "mnuW2G", "W2-G (Certain Gambling Winnings)", {{"Text1", 22}}, 1},
         {"TF_1099A", "1099A", "1099A", "mnu1099A", "1099-A (Abandonment of Property)", {{"Text1", 9}}, 2},
@@ -32,7 +32,8 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnu1099B",
          "1099-B (Proceeds from Broker and Barter Exchange Transactions)",
          {{"Text1", 26}},
-         12},
+         12,
+         kWholeOnPaper},
         {"TF_1099C", "1099C", "1099C", "mnu1099C", "1099-C (Cancellation of Debt)", {{"Text1", 11}}, 2},
         {"TF_1099DIV", "1099DIV", "1099DIV", "mnu1099Div", "1099-DIV (Dividend Income)", {{"Text1", 29}}, 2},
         {"TF_1099G", "1099G", "1099G", "mnu1099G", "", {{"Text1", 19}}, 2},
@@ -72,7 +73,8 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnu1099R",
          "1099-R (Distributons from Pensions, Annuities, etc.)",
          {{"Text1", 30}},
-         5},
+         5,
+         kWholeOnPaper},
         {"TF_1099SA",
          "1099SA",
          "1099SA",
@@ -81,8 +83,22 @@ const std::vector<CatalogueEntry>& catalogue() {
          {{"Text1", 9}},
          4},
         {"TF_1098", "1098", "1098", "mnu1098", "1098 (Mortgage Interest Statement)", {{"Text1", 15}}, 2},
-        {"TF_1098E", "1098E", "1098E", "mnu1098E", "1098-E (Student Loan Interest)", {{"Text1", 6}}, 2},
-        {"TF_1098T", "1098T", "1098T", "mnu1098T", "1098-T (Tuition Statement)", {{"Text1", 11}}, 4},
+        {"TF_1098E",
+         "1098E",
+         "1098E",
+         "mnu1098E",
+         "1098-E (Student Loan Interest)",
+         {{"Text1", 6}},
+         2,
+         kWholeOnPaper},
+        {"TF_1098T",
+         "1098T",
+         "1098T",
+         "mnu1098T",
+         "1098-T (Tuition Statement)",
+         {{"Text1", 11}},
+         4,
+         kWholeOnPaper},
         {"TF_SSA1099",
          "SSA1099",
          "SSA1099",
@@ -164,8 +180,13 @@ std::string formKeyOf(std::string_view formName) {
 
 bool formKeyHasTaxYear(std::string_view formKey) {
     for (const CatalogueEntry& entry : catalogue())
-        if (entry.formKey == formKey) return entry.hasTaxYear;
+        if (entry.formKey == formKey) return (entry.traits & kNoTaxYear) == 0;
     return true;
+}
+
+bool formHasTrait(std::string_view formName, FormTrait trait) {
+    const CatalogueEntry* entry = findCatalogueEntry(formName);
+    return entry && (entry->traits & trait) != 0;
 }
 
 }  // namespace lw

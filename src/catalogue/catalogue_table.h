@@ -12,6 +12,12 @@ struct TextArray {
     int count;
 };
 
+// Facts about a form that its drawing does not tell, as bits of CatalogueEntry::traits.
+enum FormTrait : unsigned {
+    kNoTaxYear = 1,     // the form shows no tax year (no TaxYear(0) and TaxYear(1))
+    kWholeOnPaper = 2,  // clipped and printed whole, not cut at its border; its copy header turns white
+};
+
 struct CatalogueEntry {
     const char* form;     // the form's name, e.g. FormW2
     const char* formKey;  // the name from its fourth character on, upper-cased
@@ -20,7 +26,7 @@ struct CatalogueEntry {
     const char* caption;
     std::vector<TextArray> textArrays;
     int checkCount;
-    bool hasTaxYear = true;  // the form shows the tax year in TaxYear(0) and TaxYear(1)
+    unsigned traits = 0;  // FormTrait bits
 };
 
 const std::vector<CatalogueEntry>& catalogue();
@@ -29,5 +35,7 @@ const CatalogueEntry* findCatalogueEntry(std::string_view formName);
 std::string formKeyOf(std::string_view formName);
 // Whether the form of this key shows the tax year; a form outside the catalogue does.
 bool formKeyHasTaxYear(std::string_view formKey);
+// Whether the form of this name has the trait; a form outside the catalogue has none.
+bool formHasTrait(std::string_view formName, FormTrait trait);
 
 }  // namespace lw

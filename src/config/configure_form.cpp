@@ -285,6 +285,16 @@ void ConfigureForm::clearCommand(bool fromMenu) {
 
 void ConfigureForm::beforeProgramEnds() { offerToSaveChangedRates(); }
 
+bool ConfigureForm::cutToDocument() {
+    height = Frame6.top + Frame6.height;
+    return true;
+}
+
+bool ConfigureForm::putBackAfterClip() {
+    afterPrinted();
+    return true;
+}
+
 void registerConfigureForm() {
     registerForm("F1_Configure", [] { return std::make_unique<ConfigureForm>(); });
 }

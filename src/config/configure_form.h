@@ -63,6 +63,9 @@ public:
     bool takesTaxpayers() const override { return false; }
     // Changed figures are offered for saving.
     void beforeProgramEnds() override;
+    // On paper the panel alone; after a clip the figures count as kept, as after Print.
+    bool cutToDocument() override;
+    bool putBackAfterClip() override;
     void afterYearChange() override;
 
     void onPrinterChosen();

@@ -146,6 +146,32 @@ void CardsForm::afterFileRead() {
     }
 }
 
+bool CardsForm::cutToDocument() {
+    auto card = [&](int n) -> Control& { return at("Frame1", n); };
+    const int t0 = card(0).top, t3 = card(3).top, t6 = card(6).top;
+    const int l0 = card(0).left, l1 = card(1).left, l2 = card(2).left;
+    const int h = card(0).height, w = card(1).width;
+    int hidden = 0;
+    for (int n = 0; n <= 16; n += 2) {
+        if (!at("Text1", n).text.empty()) continue;
+        card(n / 2).visible = false;
+        ++hidden;
+    }
+    if (hidden == 0) return true;
+    auto anyShown = [&](int a, int b, int c) {
+        return card(a).visible || card(b).visible || card(c).visible;
+    };
+    height = anyShown(6, 7, 8) ? t6 + h : anyShown(3, 4, 5) ? t3 + h : t0 + h;
+    width = anyShown(2, 5, 8) ? l2 + w : anyShown(1, 4, 7) ? l1 + w : l0 + w;
+    program().ui.refresh();
+    return true;
+}
+
+bool CardsForm::putBackAfterClip() {
+    for (Control* card : arrayOf("Frame1")) card->visible = true;
+    return true;
+}
+
 void registerCardsForm() {
     registerForm("F2_SS_ITIN", [] { return std::make_unique<CardsForm>(); });
 }

@@ -28,6 +28,10 @@ public:
     void checkBeforeRecord() const override;
     // Each card read with a number shows the card of its kind.
     void afterFileRead() override;
+    // On paper no card moves: the empty ones are hidden and the form is cut to the rows and columns
+    // still in use; after a clip every card shows again.
+    bool cutToDocument() override;
+    bool putBackAfterClip() override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;

@@ -33,7 +33,10 @@ MonthColumn monthColumnOf(int Index) {
     return {};
 }
 
-Form1095A::Form1095A() : TaxForm("TF_1095A") { sizesBorder_ = false; }
+Form1095A::Form1095A() : TaxForm("TF_1095A") {
+    sizesBorder_ = false;
+    shadesPartLabels_ = true;
+}
 
 void Form1095A::giveMoneyTip(Control& field) const {
     if (field.index >= kColumnA.first && field.index <= kColumnC.total)

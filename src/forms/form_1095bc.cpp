@@ -8,7 +8,10 @@
 
 namespace lw {
 
-EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) { sizesBorder_ = false; }
+EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) {
+    sizesBorder_ = false;
+    shadesPartLabels_ = true;
+}
 
 void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (isFieldArray(ctl) && keyAscii == keys::kEnter) {

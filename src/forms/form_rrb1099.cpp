@@ -58,6 +58,12 @@ std::string FormRrb1099::outputRefusal() const {
     return rrbError ? "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping" : "";
 }
 
+bool FormRrb1099::cutToDocument() {
+    const Control& last = at("LabelForm", 3);
+    height = last.top + last.height;
+    return true;
+}
+
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     setUpControl(ctl, false);

@@ -20,6 +20,9 @@ public:
     void showYearDigits(const std::string& digits) override;
     // While the net amount falls short the statement may not be saved, printed or clipped.
     std::string outputRefusal() const override;
+    // A clip takes both statements, down to the last label of the lower one.
+    void beforeClip() override { height = 9560; }
+    bool cutToDocument() override;
 
     // Works the net amount of the upper statement out; Index is the field being left.
     void ComputeRRB(int Index);

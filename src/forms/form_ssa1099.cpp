@@ -71,6 +71,12 @@ bool FormSsa1099::readRecordField(const std::string& recordPrefix, const store::
     return true;
 }
 
+bool FormSsa1099::cutToDocument() {
+    const Control& last = at("Label1", 33);
+    height = last.top + last.height;
+    return true;
+}
+
 bool FormSsa1099::isComputed(int index) const {
     const Control* ctl = find("Text1", index);
     return ctl && hasComputedTag(*ctl);

@@ -24,6 +24,9 @@ public:
     std::string outputRefusal() const override;
     // A file of the statement puts every key but Text2 to Text9 into Text1, and shows a negative amount
     // of its three computed boxes in red.
+    // A clip takes the statement down to its last label.
+    void beforeClip() override { height = 8500; }
+    bool cutToDocument() override;
     bool readRecordField(const std::string& recordPrefix, const store::RecordField& field,
                          int index) override;
 

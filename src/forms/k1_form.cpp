@@ -27,7 +27,10 @@ bool isArray(const Control& ctl, char number) { return isFieldArray(ctl) && ctl.
 
 }  // namespace
 
-K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) { sizesBorder_ = false; }
+K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {
+    sizesBorder_ = false;
+    shadesPartLabels_ = true;
+}
 
 void K1Form::onLoad() {
     SetTabOrder();
@@ -159,6 +162,24 @@ bool K1Form::requiredFieldsFilled(int& focusIndex) {
         program().ui.refresh();
         return false;
     }
+    return true;
+}
+
+void K1Form::beforeClip() {
+    clipTabs_ = K1Tabs{};
+    clipTabs_ = liftShownHalf(*this);
+}
+
+bool K1Form::cutToDocument() {
+    const std::string half = shownHalf(*this);
+    const Control& left = at("Pic" + half + "L");
+    height = half == "1" ? left.top + left.height : left.top + at("Pic2R").height;
+    return true;
+}
+
+// The status line and the focus stay as the clip left them.
+bool K1Form::putBackAfterClip() {
+    putBackTabs(*this, clipTabs_);
     return true;
 }
 

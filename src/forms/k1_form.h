@@ -4,6 +4,7 @@
 // from the list of its box. The page on show follows the field in focus.
 
 #include "forms/k1_design.h"
+#include "forms/k1_paper.h"
 #include "forms/tax_form.h"
 
 namespace lw {
@@ -24,6 +25,10 @@ public:
     void refillAfterClear() override;
     // A K-1 is named only with its recipient's number and name, number first.
     bool requiredFieldsFilled(int& focusIndex) override;
+    // A clip takes the half on show, lifted to the top without the tab strip, and gives the strip back.
+    void beforeClip() override;
+    bool cutToDocument() override;
+    bool putBackAfterClip() override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.
     void SetTabOrder();
@@ -44,6 +49,7 @@ private:
     bool isCheckBoxField(const Control& ctl) const;
 
     const K1Design& design_;
+    K1Tabs clipTabs_;  // the tab strip as the clip found it
 };
 
 // Makes TF_K11041, TF_K11065 and TF_K11120S known by name.

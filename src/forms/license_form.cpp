@@ -76,6 +76,15 @@ void LicenseForm::giveOwnLook() {
         if (owned->kind == ControlKind::Picture) owned->visible = true;
 }
 
+bool LicenseForm::cutToDocument() {
+    at("Frame1").visible = false;
+    const Control& status = at("labelMisc");
+    height = status.top + 300;
+    if (at("Text1", 4).text.empty()) at("Picture3").visible = false;
+    setFocus(at("Text1", 0));
+    return true;
+}
+
 void LicenseForm::refillAfterClear() {
     license1PictureIndex = 0;
     license2PictureIndex = 0;

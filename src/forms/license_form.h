@@ -21,6 +21,9 @@ public:
     void giveOwnLook() override;
     // The second license's holder stands in the file name by last name.
     OtherInFileName otherInFileName() const override { return OtherInFileName::LastName; }
+    // On paper the two licenses alone: no portraits to choose from, and no second portrait unless the
+    // second license has a holder.
+    bool cutToDocument() override;
 
     int& chosenPicture(int which) override {
         return which == 1 ? license1PictureIndex : license2PictureIndex;

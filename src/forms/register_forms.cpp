@@ -10,6 +10,7 @@
 #include "forms/check_form.h"
 #include "forms/form_1095a.h"
 #include "forms/form_1095bc.h"
+#include "forms/form_1099a.h"
 #include "forms/form_1099b.h"
 #include "forms/form_1099g.h"
 #include "forms/form_rrb1099.h"
@@ -45,6 +46,7 @@ void registerAllForms() {
     frameCommandHooks().saveFile = [] { saveDataFile(); };
     // Forms with handlers of their own.
     registerW2Form();
+    register1099AForm();
     register1099BForm();
     register1099GForm();
     registerTPInfoForm();

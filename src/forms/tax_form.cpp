@@ -49,6 +49,10 @@ void TaxForm::onClick(Control& ctl, MouseButton) {
     if (ctl.index != kNoIndex && text::equalsNoCase(ctl.name, "Check")) onCheckClick(ctl.index);
 }
 
+void TaxForm::paintLabelAsPaper(Control& label) {
+    label.opaque = shadesPartLabels_ && label.name == "LabelPart";
+}
+
 void TaxForm::onCheckClick(int Index) {
     Control& clicked = at("Check", Index);
     const CheckRules& rules = checkRulesOf(name());

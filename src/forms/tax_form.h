@@ -22,10 +22,15 @@ public:
     // The Check labels of this form answer clicks by the form's own rule.
     void onCheckClick(int Index);
 
+    // On paper no label keeps a background, but the shaded part headings of a form that keeps them.
+    void paintLabelAsPaper(Control& label) override;
+
 protected:
     // Most forms size their border to their drawing when they load; a form that keeps it as drawn clears
     // this in its constructor.
     bool sizesBorder_ = true;
+    // Set by a form whose part headings (LabelPart) keep their shading on paper.
+    bool shadesPartLabels_ = false;
 };
 
 // The typed text arrays of the forms: Text1 to Text5.

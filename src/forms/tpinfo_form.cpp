@@ -96,6 +96,15 @@ void TaxpayerSheetForm::afterFileRead() {
 // The ages follow the birth dates just read.
 void TaxpayerSheetForm::afterFileOpened() { UpdateAllAges(*this); }
 
+bool TaxpayerSheetForm::cutToDocument() {
+    bool secondBlockUsed = false;
+    for (int i = 6; i <= 24 && !secondBlockUsed; i += 3) secondBlockUsed = !at("Text1", i).text.empty();
+    const Control& block = at(secondBlockUsed ? "Shape2" : "Shape1");
+    height = block.top + block.height;
+    setFocus(at("Text1", 0));
+    return true;
+}
+
 void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     if (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV || keyAscii == keys::kCtrlX) return;

@@ -29,6 +29,8 @@ public:
     void beforeFileRead() override;
     void afterFileRead() override;
     void afterFileOpened() override;
+    // On paper the sheet ends below the first block of people when the rows of the second are unused.
+    bool cutToDocument() override;
 
 private:
     void showAgeYear();

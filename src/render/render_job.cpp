@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 
+#include "forms/k1_paper.h"
 #include "model/app_error.h"
 #include "model/containers.h"
 #include "model/program.h"

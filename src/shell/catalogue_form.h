@@ -82,6 +82,17 @@ public:
     // After the Open command has read a file into the form.
     virtual void afterFileOpened() {}
 
+    // Clip and print. Before a clip's picture is taken; the size the operator left is put back after.
+    virtual void beforeClip() {}
+    // The form cut to its document for a clip or a print: true when it has cut itself, false for the
+    // common cut at its border.
+    virtual bool cutToDocument() { return false; }
+    // A label as it stands on paper: no background of its own.
+    virtual void paintLabelAsPaper(Control& label) { label.opaque = false; }
+    // The form as the operator left it after a clip, once its looks are given again: true when it has
+    // put itself back, false for the common return to its first field and status line.
+    virtual bool putBackAfterClip() { return false; }
+
     // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
     // print or clip the form.
     bool ssaError = false;
