@@ -8,6 +8,7 @@
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/paths.h"
+#include "taxpayer/tin_cards.h"
 #include "text/case.h"
 #include "text/masks.h"
 #include "text/pieces.h"
@@ -169,6 +170,11 @@ bool CardsForm::cutToDocument() {
 
 bool CardsForm::putBackAfterClip() {
     for (Control* card : arrayOf("Frame1")) card->visible = true;
+    return true;
+}
+
+bool CardsForm::fillTaxpayers(const std::string& who, const TPInfoRec&, const TPInfoRec&) {
+    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1);
     return true;
 }
 

@@ -32,6 +32,8 @@ public:
     // still in use; after a clip every card shows again.
     bool cutToDocument() override;
     bool putBackAfterClip() override;
+    // Load TP makes a card for every person of the store with a number, the button's person first.
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 
     // The last message of the key and leave rules, shown or not.
     std::string CardMessage;

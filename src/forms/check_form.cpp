@@ -29,6 +29,13 @@ void CheckForm::styleTextBox(Control& box) {
     if (box.index == 0) setTextFont(box, "Tahoma", 9);
 }
 
+bool CheckForm::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec& b) {
+    Control& payer = at("Text1", 0);
+    payer.fontSize = 9;
+    payer.text = a.Name + "\r\n" + b.Name + "\r\n" + a.Address;
+    return true;
+}
+
 void registerCheckForm() {
     registerForm("F4_CHK", [] { return std::make_unique<CheckForm>(); });
 }

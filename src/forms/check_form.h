@@ -21,6 +21,8 @@ public:
     void styleTextBox(Control& box) override;
     // The bank is no part of the file name.
     OtherInFileName otherInFileName() const override { return OtherInFileName::Omitted; }
+    // Load TP draws the check to both people of the household, at the address of the button's person.
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 };
 
 void registerCheckForm();

@@ -12,6 +12,7 @@
 #include "model/app_error.h"
 #include "model/keys.h"
 #include "shell/form_registry.h"
+#include "taxpayer/load_tp.h"
 #include "text/case.h"
 #include "text/currency_text.h"
 #include "text/masks.h"
@@ -36,6 +37,11 @@ MonthColumn monthColumnOf(int Index) {
 Form1095A::Form1095A() : TaxForm("TF_1095A") {
     sizesBorder_ = false;
     shadesPartLabels_ = true;
+}
+
+bool Form1095A::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec& b) {
+    fillTaxpayers1095A(*this, a, b);
+    return true;
 }
 
 void Form1095A::giveMoneyTip(Control& field) const {

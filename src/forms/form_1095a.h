@@ -24,6 +24,8 @@ public:
     void onValidate(Control& ctl, bool& Cancel) override;
     // The monthly amounts' tip names the F12 copy; the other amounts keep the tips they are drawn with.
     void giveMoneyTip(Control& field) const override;
+    // Load TP puts both people in as recipient and spouse and again among the covered individuals.
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 
     // The handlers by field index, as the key and focus events reach them.
     void onText1KeyPress(int Index, int& keyAscii);

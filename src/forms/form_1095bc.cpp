@@ -5,6 +5,7 @@
 #include "fields/key_press.h"
 #include "model/keys.h"
 #include "shell/form_registry.h"
+#include "taxpayer/load_tp.h"
 
 namespace lw {
 
@@ -21,7 +22,19 @@ void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     TaxForm::onKeyPress(ctl, keyAscii);
 }
 
+Form1095B::Form1095B() : EnterMovesOnForm("TF_1095B") {}
+
+bool Form1095B::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec&) {
+    fillTaxpayers1095B(*this, a);
+    return true;
+}
+
 Form1095C::Form1095C() : EnterMovesOnForm("TF_1095C") {}
+
+bool Form1095C::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec&) {
+    fillTaxpayers1095C(*this, a);
+    return true;
+}
 
 void Form1095C::styleTextBox(Control& box) {
     // The gaps at 35 and 48 to 78 are the form's own.
@@ -35,7 +48,7 @@ void Form1095C::styleTextBox(Control& box) {
 }
 
 void register1095BCForms() {
-    registerForm("TF_1095B", [] { return std::make_unique<EnterMovesOnForm>("TF_1095B"); });
+    registerForm("TF_1095B", [] { return std::make_unique<Form1095B>(); });
     registerForm("TF_1095C", [] { return std::make_unique<Form1095C>(); });
 }
 

@@ -15,6 +15,14 @@ public:
     void onKeyPress(Control& ctl, int& keyAscii) override;
 };
 
+// The provider's statement: Load TP fills the responsible individual.
+class Form1095B : public EnterMovesOnForm {
+public:
+    Form1095B();
+
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
+};
+
 // The employer's statement: the narrow columns of its monthly grid in Arial Narrow 9, the rest in
 // Tahoma 11.
 class Form1095C : public EnterMovesOnForm {
@@ -22,6 +30,8 @@ public:
     Form1095C();
 
     void styleTextBox(Control& box) override;
+    // Load TP fills the employee.
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 };
 
 // Makes TF_1095B and TF_1095C known by name.

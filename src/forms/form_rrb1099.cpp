@@ -64,6 +64,11 @@ bool FormRrb1099::cutToDocument() {
     return true;
 }
 
+void FormRrb1099::afterTaxpayerFill() {
+    field(15).text = field(2).text;
+    field(16).text = field(3).text;
+}
+
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     setUpControl(ctl, false);

@@ -23,6 +23,8 @@ public:
     // A clip takes both statements, down to the last label of the lower one.
     void beforeClip() override { height = 9560; }
     bool cutToDocument() override;
+    // After Load TP the lower statement repeats the payee's number; the focus stays where it is.
+    void afterTaxpayerFill() override;
 
     // Works the net amount of the upper statement out; Index is the field being left.
     void ComputeRRB(int Index);

@@ -10,6 +10,7 @@
 #include "model/app_error.h"
 #include "model/desktop.h"
 #include "shell/form_registry.h"
+#include "taxpayer/load_tp.h"
 #include "text/case.h"
 
 namespace lw {
@@ -74,6 +75,11 @@ bool FormSsa1099::readRecordField(const std::string& recordPrefix, const store::
 bool FormSsa1099::cutToDocument() {
     const Control& last = at("Label1", 33);
     height = last.top + last.height;
+    return true;
+}
+
+bool FormSsa1099::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec&) {
+    fillTaxpayersSsa1099(*this, a);
     return true;
 }
 

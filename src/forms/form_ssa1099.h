@@ -27,6 +27,7 @@ public:
     // A clip takes the statement down to its last label.
     void beforeClip() override { height = 8500; }
     bool cutToDocument() override;
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
     bool readRecordField(const std::string& recordPrefix, const store::RecordField& field,
                          int index) override;
 

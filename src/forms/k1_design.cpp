@@ -24,7 +24,8 @@ const std::vector<K1Design>& designs() {
          K1HelpKeys::F1ToF12,
          4,
          {"Shareholder's SSN REQUIRED", 801, 0},
-         {"Shareholder's Name and Address Required.", 801, 0}},
+         {"Shareholder's Name and Address Required.", 801, 0},
+         K1FillShows::FirstHalf},
         {"TF_K11120S",
          "K1-1120S-",
          {{12, 16, "Box10"}, {18, 25, "Box12"}},
@@ -34,7 +35,8 @@ const std::vector<K1Design>& designs() {
          K1HelpKeys::F1Only,
          5,
          {"Shareholder's SSN REQUIRED", 801, 0},
-         {"Shareholder's Name and Address Required.", 801, 1}},
+         {"Shareholder's Name and Address Required.", 801, 1},
+         K1FillShows::OtherHalf},
         {"TF_K11041",
          "K1-1041-",
          {{11, 13, "Box9"}},
@@ -44,7 +46,8 @@ const std::vector<K1Design>& designs() {
          K1HelpKeys::AnyKey,
          -1,
          {"Beneficiary's SSN/ITIN REQUIRED", 800, 1},
-         {"Beneficiary's Name and Address Required.", 800, 1}},
+         {"Beneficiary's Name and Address Required.", 800, 1},
+         K1FillShows::OtherHalf},
     };
     return table;
 }

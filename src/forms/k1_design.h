@@ -23,6 +23,12 @@ struct K1RequiredField {
     int tab;
 };
 
+// What Load TP shows of a K-1 for a second, as the people it fills may stand on the other half.
+enum class K1FillShows {
+    OtherHalf,  // the half not on show
+    FirstHalf,  // the first half, when it is not on show
+};
+
 enum class K1HelpKeys {
     F1Only,   // only F1 opens the list
     F1ToF12,  // any function key opens it
@@ -40,6 +46,7 @@ struct K1Design {
     int checkBoxField;               // the Text5 index of the amount that is a check mark, -1 when none
     K1RequiredField numberRequired;  // the recipient's number, asked for first
     K1RequiredField nameRequired;    // the recipient's name and address
+    K1FillShows fillShows;
 };
 
 // nullptr for a form that is no Schedule K-1.

@@ -183,6 +183,25 @@ bool K1Form::putBackAfterClip() {
     return true;
 }
 
+void K1Form::afterTaxpayerFill() {
+    Control& tabs = at("SSTab1");
+    const int noted = tabOf(tabs);
+    bool shown = true;
+    if (design_.fillShows == K1FillShows::FirstHalf) {
+        if (noted == 1) setTab(tabs, 0);
+        program().ui.refresh();
+        shown = tabOf(tabs) != noted;
+    } else {
+        setTab(tabs, noted == 0 ? 1 : 0);
+        program().ui.refresh();
+    }
+    if (shown) {
+        program().platform.sleep(1000);
+        setTab(tabs, noted);
+    }
+    TaxForm::afterTaxpayerFill();
+}
+
 void registerK1Forms() {
     for (const char* name : {"TF_K11041", "TF_K11065", "TF_K11120S"}) {
         const K1Design* design = k1DesignOf(name);

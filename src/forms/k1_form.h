@@ -29,6 +29,8 @@ public:
     void beforeClip() override;
     bool cutToDocument() override;
     bool putBackAfterClip() override;
+    // The half the people went to is shown for a second, then the focus goes back.
+    void afterTaxpayerFill() override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.
     void SetTabOrder();

@@ -7,6 +7,7 @@
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/paths.h"
+#include "taxpayer/load_tp.h"
 #include "text/case.h"
 
 namespace lw {
@@ -82,6 +83,19 @@ bool LicenseForm::cutToDocument() {
     height = status.top + 300;
     if (at("Text1", 4).text.empty()) at("Picture3").visible = false;
     setFocus(at("Text1", 0));
+    return true;
+}
+
+bool LicenseForm::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec& b) {
+    fillTaxpayersLicense(*this, a, b);
+    // A license runs out on the birthday five years on.
+    const DateTime now = program().platform.now();
+    auto text = [&](int index) -> std::string& { return at("Text1", index).text; };
+    const std::string inFiveYears = std::to_string(now.year + 5);
+    text(2) = now.toStampText();
+    text(3) = text(1).substr(0, 6) + inFiveYears;
+    if (!text(4).empty()) text(6) = program().platform.now().toStampText();
+    if (!text(5).empty()) text(7) = text(5).substr(0, 6) + inFiveYears;
     return true;
 }
 

@@ -24,6 +24,8 @@ public:
     // On paper the two licenses alone: no portraits to choose from, and no second portrait unless the
     // second license has a holder.
     bool cutToDocument() override;
+    // Load TP fills both licenses, then gives them their numbers and expiry dates.
+    bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 
     int& chosenPicture(int which) override {
         return which == 1 ? license1PictureIndex : license2PictureIndex;

@@ -21,6 +21,7 @@ public:
     void giveOwnLook() override;
     // The sheet is where the people come from: Load TP does not fill it.
     bool takesTaxpayers() const override { return false; }
+    bool fillTaxpayers(const std::string&, const TPInfoRec&, const TPInfoRec&) override { return true; }
     // The second taxpayer stands in the file name by last name.
     OtherInFileName otherInFileName() const override { return OtherInFileName::LastName; }
     // A saved sheet fills the store that Load TP reads.

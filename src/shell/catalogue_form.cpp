@@ -25,6 +25,8 @@ void CatalogueForm::afterPrinted() { focusFirstFieldAfterPrint(*this); }
 
 void CatalogueForm::clearCommand(bool) { clearAndFocusFirstField(*this); }
 
+void CatalogueForm::afterTaxpayerFill() { refocusAfterTaxpayerFill(); }
+
 void saveAsDocument() {
     if (frameCommandHooks().saveFile) frameCommandHooks().saveFile();
 }

@@ -8,6 +8,7 @@
 
 #include "fields/control_setup.h"
 #include "model/form.h"
+#include "model/tp_info_rec.h"
 #include "store/record_line.h"
 
 namespace lw {
@@ -52,6 +53,14 @@ public:
     virtual void clearCommand(bool fromMenu);
     // Whether Load TP fills the form with the people of the case.
     virtual bool takesTaxpayers() const { return true; }
+    // Load TP's fill: who is "TP 1" or "TP 2", a the person of that button and b the other. True when the
+    // form has filled itself, false for the common fill (the block to the first name field, the number to
+    // the first number field).
+    virtual bool fillTaxpayers(const std::string& /*who*/, const TPInfoRec& /*a*/, const TPInfoRec& /*b*/) {
+        return false;
+    }
+    // After Load TP's fill: the focus goes back where the operator left it.
+    virtual void afterTaxpayerFill();
     // Why the form may not be saved, printed or clipped as it stands; empty when it may.
     virtual std::string outputRefusal() const { return {}; }
     // Run as the program ends with the form on the screen.

@@ -1,16 +1,14 @@
-// [Load TP 1] and [Load TP 2]: reads both taxpayers from the store and fills the form on the screen by
-// its record prefix; afterwards the focus goes back where the operator left it.
+// [Load TP 1] and [Load TP 2]: reads both taxpayers from the store and fills the form on the screen, by
+// its own fill or the general one; afterwards the focus goes back where the operator left it.
 #include "taxpayer/load_tp.h"
 
 #include <vector>
 
 #include "diagnostics/error_tail.h"
 #include "fields/control_setup.h"
-#include "model/containers.h"
 #include "model/program.h"
+#include "shell/catalogue_form.h"
 #include "shell/startup.h"
-#include "taxpayer/tin_cards.h"
-#include "text/case.h"
 #include "text/pieces.h"
 
 namespace lw {
@@ -44,57 +42,6 @@ void fillGeneral(Form& form, const TPInfoRec& A) {
     if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.SSN;
 }
 
-// The check is drawn to both persons of the button's household, at the address of the first.
-void fillCheck(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
-    Control& payer = form.at("Text1", 0);
-    payer.fontSize = 9;
-    payer.text = A.Name + "\r\n" + B.Name + "\r\n" + A.Address;
-}
-
-// Numbers and expiry of the licenses just filled: a license runs out on the birthday five years on.
-void stampLicenses(Form& form) {
-    const DateTime now = program().platform.now();
-    auto text = [&](int index) -> std::string& { return form.at("Text1", index).text; };
-    const std::string inFiveYears = std::to_string(now.year + 5);
-    text(2) = now.toStampText();
-    text(3) = text(1).substr(0, 6) + inFiveYears;
-    if (!text(4).empty()) text(6) = program().platform.now().toStampText();
-    if (!text(5).empty()) text(7) = text(5).substr(0, 6) + inFiveYears;
-}
-
-void fillByPrefix(Form& form, const std::string& prefix, const std::string& Who, const TPInfoRec& A,
-                  const TPInfoRec& B) {
-    if (prefix == "ss_itin") return fillTaxpayersCard(form, Who == "TP 2" ? 2 : 1);
-    if (prefix == "dl" || prefix == "drvlic") {
-        fillTaxpayersLicense(form, A, B);
-        return stampLicenses(form);
-    }
-    if (prefix == "chk" || prefix == "check") return fillCheck(form, A, B);
-    if (prefix == "1095-a") return fillTaxpayers1095A(form, A, B);
-    if (prefix == "tpinfo") return;
-    if (prefix == "1095b") return fillTaxpayers1095B(form, A);
-    if (prefix == "1095c") return fillTaxpayers1095C(form, A);
-    if (prefix == "ssa") return fillTaxpayersSsa1099(form, A);
-    fillGeneral(form, A);
-}
-
-// The filled fields of a K-1 may stand on the half that is not on show: that half is shown for a second,
-// then the operator's half comes back.
-void showOtherHalfAWhile(Form& form, const std::string& prefix) {
-    Control& tabs = form.at("SSTab1");
-    const int noted = tabOf(tabs);
-    if (prefix == "K11065") {
-        if (noted == 1) setTab(tabs, 0);
-        program().ui.refresh();
-        if (tabOf(tabs) == noted) return;
-    } else {
-        setTab(tabs, noted == 0 ? 1 : 0);
-        program().ui.refresh();
-    }
-    program().platform.sleep(1000);
-    setTab(tabs, noted);
-}
-
 }  // namespace
 
 void readTaxpayers(const std::string& Who) {
@@ -106,18 +53,13 @@ void readTaxpayers(const std::string& Who) {
         const bool second = Who == "TP 2";
         const TPInfoRec& A = second ? g().TP2Info : g().TP1Info;
         const TPInfoRec& B = second ? g().TP1Info : g().TP2Info;
-        fillByPrefix(*form, text::toLower(g().RecordPrefix), Who, A, B);
-
-        const std::string prefix = text::toUpper(g().RecordPrefix);
-        if (prefix == "RRB") {
-            // The lower statement repeats the payee's number; the focus stays where it is.
-            form->at("Text1", 15).text = form->at("Text1", 2).text;
-            form->at("Text1", 16).text = form->at("Text1", 3).text;
-        } else {
-            if (prefix == "K11041" || prefix == "K11120S" || prefix == "K11065")
-                showOtherHalfAWhile(*form, prefix);
+        // A form that fills itself or goes on in its own way says so; any other has the common rules.
+        auto* rules = dynamic_cast<CatalogueForm*>(form);
+        if (!rules || !rules->fillTaxpayers(Who, A, B)) fillGeneral(*form, A);
+        if (rules)
+            rules->afterTaxpayerFill();
+        else
             refocusAfterTaxpayerFill();
-        }
         program().ui.refresh();
     });
 }

@@ -6,9 +6,11 @@
 #include "forms/form_rrb1099.h"
 #include "forms/form_ssa1099.h"
 #include "forms/tpinfo_form.h"
+#include "model/containers.h"
 #include "opened_form.h"
 #include "shell/form_lifecycle.h"
 #include "store/inf_store.h"
+#include "taxpayer/load_tp.h"
 
 namespace lw {
 namespace {
@@ -81,6 +83,26 @@ TEST_F(FormCommands, LoadTPFillsEveryFormButTheSheetAndTheConfiguration) {
     EXPECT_TRUE(open("mnuIDFormsSSITIN").takesTaxpayers());
     EXPECT_FALSE(open("mnuIDFormsTP").takesTaxpayers());
     EXPECT_FALSE(open("mnuControlConfigure").takesTaxpayers());
+}
+
+TEST_F(FormCommands, LoadTPOnAK1ShowsTheHalfThePeopleWentToForASecond) {
+    CatalogueForm& estate = open("mnuK11041");
+    Control& estateTabs = estate.at("SSTab1");
+    ASSERT_EQ(tabOf(estateTabs), 0);
+    test.platform.sleeps.clear();
+    readTaxpayers("TP 1");
+    EXPECT_EQ(test.platform.sleeps, std::vector<int>{1000}) << "the other half, for a second";
+    EXPECT_EQ(tabOf(estateTabs), 0);
+
+    CatalogueForm& partnership = open("mnuK11065");
+    Control& tabs = partnership.at("SSTab1");
+    test.platform.sleeps.clear();
+    readTaxpayers("TP 1");
+    EXPECT_TRUE(test.platform.sleeps.empty()) << "the first half is on show already";
+    setTab(tabs, 1);
+    readTaxpayers("TP 1");
+    EXPECT_EQ(test.platform.sleeps, std::vector<int>{1000});
+    EXPECT_EQ(tabOf(tabs), 1);
 }
 
 TEST_F(FormCommands, ABenefitStatementWithAnAmountBelowZeroRefusesOutputUntilMended) {
