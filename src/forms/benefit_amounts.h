@@ -10,6 +10,11 @@
 
 namespace lw {
 
+// Box 5 of both statements, the net benefits: the benefits paid less the benefits repaid.
+text::Currency netBenefits(text::Currency paid, text::Currency repaid);
+// Whether the net benefits fall below nought: the first check of both statements.
+bool netBenefitsFallShort(text::Currency net);
+
 // SSA-1099: amount(i) belongs to Text1(i); amount(0) and amount(17) are sums that no field shows.
 using SsaAmounts = std::array<text::Currency, 18>;
 

@@ -1,19 +1,14 @@
 #include "forms/form_rrb1099.h"
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "diagnostics/error_tail.h"
-#include "diagnostics/message_box.h"
 #include "fields/control_setup.h"
-#include "fields/edit_ctl.h"
 #include "model/app_error.h"
-#include "model/desktop.h"
 #include "model/program.h"
 #include "shell/form_registry.h"
-#include "text/case.h"
 #include "text/pieces.h"
 
 namespace lw {
@@ -21,11 +16,6 @@ namespace lw {
 namespace {
 
 constexpr const char* kComputeLabel = "TF_RRB1099:ComputeRRB";
-constexpr int kOverflow = 6;
-
-bool isText1(const Control& ctl) { return ctl.index != kNoIndex && text::equalsNoCase(ctl.name, "Text1"); }
-
-bool hasComputedTag(const Control& ctl) { return text::equalsNoCase(ctl.tag, "COMPUTED"); }
 
 // A field index of a catalogue list; anything else is a fault of the catalogue.
 int fieldIndexOf(const std::string& item) {
@@ -37,25 +27,17 @@ int fieldIndexOf(const std::string& item) {
 
 }  // namespace
 
-FormRrb1099::FormRrb1099() : TaxForm("TF_RRB1099") { sizesBorder_ = false; }
+FormRrb1099::FormRrb1099() : BenefitStatementForm("TF_RRB1099", "RRB1099", "RRB-1099", kComputeLabel) {}
 
 void FormRrb1099::onLoad() {
-    TaxForm::onLoad();
+    BenefitStatementForm::onLoad();
     // Filled once: the form computes nothing here, and a later change of year leaves the field alone.
     field(kPremium).text = partBPremiumOfYearInForce();
-    at("Label6").caption =
-        "As you move through the fields on the RRB-1099 related to Social Security Payments Received, "
-        "Deductions, etc., computations will be performed. If an error is detected a message will be "
-        "displayed.";
 }
 
 void FormRrb1099::showYearDigits(const std::string& digits) {
     TaxForm::showYearDigits(digits);
     at("TaxYear", 3).caption = digits;
-}
-
-std::string FormRrb1099::outputRefusal() const {
-    return rrbError ? "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping" : "";
 }
 
 bool FormRrb1099::cutToDocument() {
@@ -72,60 +54,40 @@ void FormRrb1099::afterTaxpayerFill() {
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
     setUpControl(ctl, false);
-    if (hasComputedTag(ctl)) {
-        if (Control* next = find("Text1", ctl.index + 1))
-            setFocus(*next);
-        else if (Control* following = desktop()->nextInTabOrder(ctl, false))
-            setFocus(*following);
-    }
+    passComputedField(ctl);
     myIndex = ctl.index;
 }
 
 void FormRrb1099::onLostFocus(Control& ctl) {
-    if (!isText1(ctl)) return;
-    if (!hasComputedTag(ctl)) ctl.backColor = kWhite;
-    ctl.foreColor = kBlack;
+    if (isText1(ctl)) showAsLeft(ctl);
 }
 
-void FormRrb1099::onValidate(Control& ctl, bool& Cancel) {
-    if (isText1(ctl)) onText1Validate(ctl.index, Cancel);
-}
-
-void FormRrb1099::onText1Validate(int Index, bool& Cancel) {
-    runGuarded("TF_RRB1099:Text1_Validate", [&] {
-        if (!EditCtl(field(Index))) {
-            Cancel = true;
+void FormRrb1099::afterFieldStands(int index) {
+    if (index >= 4 && index <= 12) {
+        computeUnlessJustReported(index);
+        if (myIndex < 13) {
+            // The computed values go on the screen now, and the operator's own move of the focus goes
+            // on when this event ends; the copies below wait for a field of the identity.
+            program().ui.refresh();
             return;
         }
-        if (Index >= 4 && Index <= 12) {
-            if (rrbError)
-                rrbError = false;
-            else
-                ComputeRRB(Index);
-            if (myIndex < 13) {
-                // The computed values go on the screen now, and the operator's own move of the focus
-                // goes on when this event ends; the copies below wait for a field of the identity.
-                program().ui.refresh();
-                return;
-            }
-        } else if (Index >= 18 && Index <= 20) {
-            totalGrossPaid();
-        }
-        copyIdentity();
-        // The field being left holds the focus until the event ends: asking for it again would only
-        // undo the operator's move.
-        Control& last = field(myIndex);
-        if (&last != &field(Index)) setFocus(last);
-    });
+    } else if (index >= 18 && index <= 20) {
+        totalGrossPaid();
+    }
+    copyIdentity();
+    // The field being left holds the focus until the event ends: asking for it again would only undo
+    // the operator's move.
+    Control& last = field(myIndex);
+    if (&last != &field(index)) setFocus(last);
 }
 
 void FormRrb1099::totalGrossPaid() {
     grossPaid_ = text::Currency{};
-    try {
-        for (int i : {18, 19, 20}) grossPaid_ += amountOfText(field(i).text);
-    } catch (const std::overflow_error&) {
-        throw AppError(kOverflow, "Overflow", "TF_RRB1099:Text1_Validate");
-    }
+    countWithoutOverflow(
+        [&] {
+            for (int i : {18, 19, 20}) grossPaid_ += amountOfText(field(i).text);
+        },
+        validateLabel());
     // Shown even at nought, as $.00.
     field(kTotalGrossPaid).text = benefitAmountText(grossPaid_);
 }
@@ -150,14 +112,11 @@ void FormRrb1099::ComputeRRB(int /*Index*/) {
         if (field(kGross).text.empty()) return;
         amount_ = RrbAmounts{};
         RrbShortfall shortfall = RrbShortfall::None;
-        // An amount too large to count is the same overflow whether it is typed or worked out.
-        try {
+        countWithoutOverflow([&] {
             for (int i = 4; i <= 12; ++i) amount_[static_cast<std::size_t>(i)] = amountOfText(field(i).text);
             workOutRrbAmounts(amount_);
             shortfall = firstRrbShortfall(amount_);
-        } catch (const std::overflow_error&) {
-            throw AppError(kOverflow, "Overflow", kComputeLabel);
-        }
+        });
         // A nought leaves the field's text as it was: a net amount that falls to nought goes on
         // showing its last figure.
         for (int i = 4; i <= 12; ++i) {
@@ -167,10 +126,7 @@ void FormRrb1099::ComputeRRB(int /*Index*/) {
         field(kNet).foreColor = kBlack;
         // No step here ever clears the flag: only the skipped pass of a later validation does.
         if (shortfall == RrbShortfall::None) return;
-        field(kNet).foreColor = kRed;
-        MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "",
-               "", 1);
-        rrbError = true;
+        reportShortfall(kNet, 801, rrbShortfallReason(shortfall));
     });
 }
 

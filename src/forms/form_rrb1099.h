@@ -4,22 +4,19 @@
 #pragma once
 
 #include "forms/benefit_amounts.h"
-#include "forms/tax_form.h"
+#include "forms/benefit_statement.h"
 
 namespace lw {
 
-class FormRrb1099 : public TaxForm {
+class FormRrb1099 : public BenefitStatementForm {
 public:
     FormRrb1099();
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
-    void onValidate(Control& ctl, bool& Cancel) override;
     // The year stands on both statements.
     void showYearDigits(const std::string& digits) override;
-    // While the net amount falls short the statement may not be saved, printed or clipped.
-    std::string outputRefusal() const override;
     // A clip takes both statements, down to the last label of the lower one.
     void beforeClip() override { height = 9560; }
     bool cutToDocument() override;
@@ -29,17 +26,18 @@ public:
     // Works the net amount of the upper statement out; Index is the field being left.
     void ComputeRRB(int Index);
 
-    // The field that last took the focus, a computed one included.
-    int myIndex = 0;
-
     static constexpr int kGross = 4;     // box 3
     static constexpr int kNet = 6;       // box 5
     static constexpr int kPremium = 12;  // box 11
     static constexpr int kTotalGrossPaid = 21;
 
+protected:
+    void compute(int index) override { ComputeRRB(index); }
+    // Leaving an amount of the upper statement computes, one of the lower sums it; then the identity
+    // is copied below.
+    void afterFieldStands(int index) override;
+
 private:
-    Control& field(int index) const { return at("Text1", index); }
-    void onText1Validate(int Index, bool& Cancel);
     // Sums boxes 4, 5 and 6 of the lower statement into its box 7.
     void totalGrossPaid();
     // The identity fields of the upper statement to their places on the lower one.

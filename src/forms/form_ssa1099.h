@@ -5,29 +5,25 @@
 #pragma once
 
 #include "forms/benefit_amounts.h"
-#include "forms/tax_form.h"
+#include "forms/benefit_statement.h"
 
 namespace lw {
 
-class FormSsa1099 : public TaxForm {
+class FormSsa1099 : public BenefitStatementForm {
 public:
     FormSsa1099();
 
-    void onLoad() override;
     void onActivate() override;
     void afterYearChange() override;
     void refillAfterClear() override;
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
-    void onValidate(Control& ctl, bool& Cancel) override;
-    // While a computed amount is below zero the statement may not be saved, printed or clipped.
-    std::string outputRefusal() const override;
-    // A file of the statement puts every key but Text2 to Text9 into Text1, and shows a negative amount
-    // of its three computed boxes in red.
     // A clip takes the statement down to its last label.
     void beforeClip() override { height = 8500; }
     bool cutToDocument() override;
     bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
+    // A file of the statement puts every key but Text2 to Text9 into Text1, and shows a negative amount
+    // of its three computed boxes in red.
     bool readRecordField(const std::string& recordPrefix, const store::RecordField& field,
                          int index) override;
 
@@ -37,9 +33,6 @@ public:
     void ComputeSSA(int Index);
     // Every typed field back to white; the computed ones keep their own colour.
     void ResetBackColor();
-
-    // The field that last took the focus; the computation moves it on past a computed field.
-    int myIndex = 0;
 
     static constexpr int kBox3 = 2;
     static constexpr int kNetBenefits = 4;  // box 5
@@ -51,11 +44,14 @@ public:
     static constexpr int kAddress = 14;      // box 7
     static constexpr int kClaimNumber = 15;  // box 8
 
+protected:
+    void compute(int index) override { ComputeSSA(index); }
+    // The claim number follows the number; leaving an amount computes.
+    void afterFieldStands(int index) override;
+
 private:
-    Control& field(int index) const { return at("Text1", index); }
     bool isComputed(int index) const;
     void onText1GotFocus(int Index);
-    void onText1Validate(int Index, bool& Cancel);
 
     SsaAmounts amount_{};
 };

@@ -101,11 +101,6 @@ public:
     // The form as the operator left it after a clip, once its looks are given again: true when it has
     // put itself back, false for the common return to its first field and status line.
     virtual bool putBackAfterClip() { return false; }
-
-    // Set by the benefit statements while a computed amount is wrong; the frame then refuses to save,
-    // print or clip the form.
-    bool ssaError = false;
-    bool rrbError = false;
 };
 
 // The font of a text box as a form chooses it.

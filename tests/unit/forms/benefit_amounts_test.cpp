@@ -19,6 +19,34 @@ constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 Currency dollars(const char* amount) { return text::currencyFromText(amount); }
 Currency raw(std::int64_t count) { return Currency::fromRaw(count); }
 
+// ---- Both statements
+
+TEST(NetBenefits, ArePaidLessRepaidAndFallShortOnlyBelowNought) {
+    EXPECT_EQ(netBenefits(dollars("18,000.00"), dollars("1,000.50")), dollars("16999.50"));
+    EXPECT_EQ(netBenefits(dollars("100"), dollars("100.0001")).raw(), -1);
+    EXPECT_TRUE(netBenefitsFallShort(raw(-1)));
+    EXPECT_FALSE(netBenefitsFallShort(Currency{}));
+    EXPECT_FALSE(netBenefitsFallShort(raw(1)));
+    EXPECT_THROW(netBenefits(raw(kMin), raw(1)), std::overflow_error);
+}
+
+TEST(NetBenefits, AreBoxFiveOfBothStatementsAndTheirFirstCheck) {
+    SsaAmounts ssa{};
+    ssa[2] = dollars("500");
+    ssa[3] = dollars("700");
+    workOutSsaAmounts(ssa);
+    EXPECT_EQ(ssa[4], netBenefits(dollars("500"), dollars("700")));
+    EXPECT_EQ(firstSsaShortfall(ssa), SsaShortfall::NetBenefits);
+    RrbAmounts rrb{};
+    rrb[4] = dollars("500");
+    rrb[5] = dollars("700");
+    workOutRrbAmounts(rrb);
+    EXPECT_EQ(rrb[6], ssa[4]);
+    EXPECT_EQ(firstRrbShortfall(rrb), RrbShortfall::NetBenefits);
+    EXPECT_EQ(ssaShortfallReason(SsaShortfall::NetBenefits, "box 3"),
+              rrbShortfallReason(RrbShortfall::NetBenefits));
+}
+
 // ---- SSA-1099
 
 TEST(SsaAmounts, WorkedExample) {
@@ -26,10 +54,10 @@ TEST(SsaAmounts, WorkedExample) {
     a[2] = dollars("18,000.00");
     a[6] = dollars("2,000.00");
     workOutSsaAmounts(a);
-    EXPECT_EQ(a[4], dollars("18000"));   // net benefits
-    EXPECT_EQ(a[16], dollars("2000"));   // total additions
-    EXPECT_EQ(a[5], dollars("16000"));   // paid by check
-    EXPECT_EQ(a[8], dollars("18000"));   // benefits for the tax year
+    EXPECT_EQ(a[4], dollars("18000"));  // net benefits
+    EXPECT_EQ(a[16], dollars("2000"));  // total additions
+    EXPECT_EQ(a[5], dollars("16000"));  // paid by check
+    EXPECT_EQ(a[8], dollars("18000"));  // benefits for the tax year
     EXPECT_EQ(a[17], Currency{});
     EXPECT_EQ(a[0], dollars("18000"));
     EXPECT_EQ(firstSsaShortfall(a), SsaShortfall::None);
@@ -87,7 +115,8 @@ TEST(SsaAmounts, ShortfallsInTheirOrder) {
     a[6] = dollars("500");
     a[9] = dollars("900");
     workOutSsaAmounts(a);
-    EXPECT_EQ(firstSsaShortfall(a), SsaShortfall::NetBenefits) << "all three are below nought; the first wins";
+    EXPECT_EQ(firstSsaShortfall(a), SsaShortfall::NetBenefits)
+        << "all three are below nought; the first wins";
 
     a = SsaAmounts{};
     a[2] = dollars("100");
@@ -152,8 +181,9 @@ TEST(SsaAmounts, Reasons) {
               "Paid by Check or Direct Deposit is LESS THAN ZERO");
     EXPECT_EQ(ssaShortfallReason(SsaShortfall::BenefitsForYear, " Box 3. Benefits Paid in 2025"),
               " Box 3. Benefits Paid in 2025 is LESS THAN ZERO");
-    EXPECT_EQ(benefitErrorMessage("WHY"),
-              "SSA1099 - Error in Social Security Computations\r\nWHY\r\nMake corrections before continuing.");
+    EXPECT_EQ(
+        benefitErrorMessage("WHY"),
+        "SSA1099 - Error in Social Security Computations\r\nWHY\r\nMake corrections before continuing.");
 }
 
 // ---- RRB-1099

@@ -108,12 +108,12 @@ TEST_F(FormCommands, LoadTPOnAK1ShowsTheHalfThePeopleWentToForASecond) {
 TEST_F(FormCommands, ABenefitStatementWithAnAmountBelowZeroRefusesOutputUntilMended) {
     auto& ssa = dynamic_cast<FormSsa1099&>(open("mnuSSA1099"));
     EXPECT_EQ(ssa.outputRefusal(), "");
-    ssa.ssaError = true;
+    ssa.computationFailed = true;
     EXPECT_EQ(ssa.outputRefusal(), "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping");
 
     auto& rrb = dynamic_cast<FormRrb1099&>(open("mnuRRB1099"));
     EXPECT_EQ(rrb.outputRefusal(), "");
-    rrb.rrbError = true;
+    rrb.computationFailed = true;
     EXPECT_EQ(rrb.outputRefusal(), "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping");
     EXPECT_EQ(open("mnuW2").outputRefusal(), "");
 }

@@ -38,7 +38,7 @@ TEST_F(RrbForm, WorkedExampleThenTheSecondMessage) {
     EXPECT_EQ(box(6).text, "$4,000.00");
     EXPECT_EQ(box(12).text, "$170.00");
     EXPECT_TRUE(test.ui.boxes.empty());
-    EXPECT_FALSE(form->rrbError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_EQ(focus(), &box(17));
 
     typeInto(11, "5000");
@@ -54,7 +54,7 @@ TEST_F(RrbForm, WorkedExampleThenTheSecondMessage) {
     EXPECT_EQ(shown->buttons[0], "OK");
     EXPECT_EQ(shown->buttons[1], "");
     EXPECT_EQ(box(6).foreColor, kRed);
-    EXPECT_TRUE(form->rrbError);
+    EXPECT_TRUE(form->computationFailed);
     EXPECT_EQ(focus(), &box(12)) << "the operator's move is kept";
 }
 
@@ -70,11 +70,11 @@ TEST_F(RrbForm, NetBelowNoughtIsTheFirstMessage) {
     EXPECT_EQ(box(6).foreColor, kRed);
     // The next field of 4 to 12 left clears the flag and computes nothing; the one after computes.
     desktop().setFocus(box(8));
-    EXPECT_FALSE(form->rrbError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_EQ(test.ui.boxes.size(), 1u);
     desktop().setFocus(box(9));
     EXPECT_EQ(test.ui.boxes.size(), 2u);
-    EXPECT_TRUE(form->rrbError);
+    EXPECT_TRUE(form->computationFailed);
 }
 
 TEST_F(RrbForm, ANetFallingToNoughtKeepsItsLastFigure) {

@@ -24,7 +24,7 @@ TEST_F(SsaForm, OpensWithThePremiumOfTheYearAndNothingComputed) {
     EXPECT_EQ(box(6).text, "2220.00") << "box 3 is empty, so the premium stays as the rates file has it";
     EXPECT_EQ(box(4).text, "");
     EXPECT_EQ(box(16).text, "");
-    EXPECT_FALSE(form->ssaError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_TRUE(test.ui.boxes.empty());
 }
 
@@ -65,7 +65,7 @@ TEST_F(SsaForm, TheMessageIsTheWholeTextWithItsNumberAndOneButton) {
     EXPECT_EQ(shown->defaultButton, 1);
     EXPECT_EQ(box(4).text, "-$150.50");
     EXPECT_EQ(box(4).foreColor, kRed);
-    EXPECT_TRUE(form->ssaError);
+    EXPECT_TRUE(form->computationFailed);
     EXPECT_EQ(focus(), &box(6)) << "the focus moves on: the error does not keep it";
 }
 
@@ -82,7 +82,7 @@ TEST_F(SsaForm, PaidByCheckBelowNoughtIsMessage802) {
     EXPECT_EQ(box(5).text, "-$4,900.00");
     EXPECT_EQ(box(5).foreColor, kRed);
     EXPECT_EQ(box(4).foreColor, kBlack);
-    EXPECT_TRUE(form->ssaError);
+    EXPECT_TRUE(form->computationFailed);
 }
 
 TEST_F(SsaForm, BenefitsOfTheYearBelowNoughtIsMessage803NamingBox3) {
@@ -106,15 +106,15 @@ TEST_F(SsaForm, TheFlagSkipsOnePassAndAComputationThatEndsCleanClearsIt) {
     tab();
     typeInto(3, "200");
     tab();
-    ASSERT_TRUE(form->ssaError);
+    ASSERT_TRUE(form->computationFailed);
     // On the way back to box 4 the field left computes nothing, and no second message comes.
     desktop().setFocus(box(3));
-    EXPECT_FALSE(form->ssaError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_EQ(test.ui.boxes.size(), 1u);
     for (char ch : std::string("50")) desktop().typeCharacter(ch);
     tab();
     EXPECT_EQ(test.ui.boxes.size(), 1u);
-    EXPECT_FALSE(form->ssaError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_EQ(box(4).text, "$50.00");
     EXPECT_EQ(box(4).foreColor, kBlack);
 }
@@ -129,7 +129,7 @@ TEST_F(SsaForm, AnErrorLeftStandingIsReportedAgainAfterTheSkippedPass) {
     EXPECT_EQ(test.ui.boxes.size(), 1u);
     desktop().setFocus(box(9));  // computes: box 5 is still below nought
     EXPECT_EQ(test.ui.boxes.size(), 2u);
-    EXPECT_TRUE(form->ssaError);
+    EXPECT_TRUE(form->computationFailed);
 }
 
 TEST_F(SsaForm, ComputedFieldsPassTheFocusOn) {
@@ -160,7 +160,7 @@ TEST_F(SsaForm, AFaultInTheComputationIsReportedAndChangesNothing) {
     EXPECT_EQ(box(7).text, "$1.00");
     EXPECT_EQ(box(16).text, "$922,337,203,685,477.00") << "nothing was written";
     EXPECT_TRUE(test.ui.boxes.empty());
-    EXPECT_FALSE(form->ssaError);
+    EXPECT_FALSE(form->computationFailed);
     EXPECT_EQ(focus(), &box(9));
 }
 
