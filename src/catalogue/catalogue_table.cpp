@@ -33,7 +33,8 @@ const std::vector<CatalogueEntry>& catalogue() {
          "1099-B (Proceeds from Broker and Barter Exchange Transactions)",
          {{"Text1", 26}},
          12,
-         kWholeOnPaper},
+         kWholeOnPaper,
+         {{{2, 3}, {6, 7}, {11, 12}}, {}}},
         {"TF_1099C", "1099C", "1099C", "mnu1099C", "1099-C (Cancellation of Debt)", {{"Text1", 11}}, 2},
         {"TF_1099DIV", "1099DIV", "1099DIV", "mnu1099Div", "1099-DIV (Dividend Income)", {{"Text1", 29}}, 2},
         {"TF_1099G", "1099G", "1099G", "mnu1099G", "", {{"Text1", 19}}, 2},
@@ -44,8 +45,18 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnu1099K",
          "1099-K (Payment Card and Third Party Network Transactions)",
          {{"Text1", 29}},
-         5},
-        {"TF_1099LTC", "1099LTC", "1099LTC", "mnu1099LTC", "1099-LTC (Long Term Care)", {{"Text1", 10}}, 6},
+         5,
+         0,
+         {{{3, 4}, {5, 6}}, {}}},
+        {"TF_1099LTC",
+         "1099LTC",
+         "1099LTC",
+         "mnu1099LTC",
+         "1099-LTC (Long Term Care)",
+         {{"Text1", 10}},
+         6,
+         0,
+         {{{1, 2}, {4, 5}}, {}}},
         {"TF_1099MISC",
          "1099MISC",
          "1099MISC",
@@ -66,7 +77,9 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnu1099Q",
          "1099-Q (Qualified Education Programs)",
          {{"Text1", 9}},
-         6},
+         6,
+         0,
+         {{}, {1, 2, 3}}},
         {"TF_1099R",
          "1099R",
          "1099R",
@@ -81,7 +94,9 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnu1099SA",
          "1099-SA (Health Savings Accounts)",
          {{"Text1", 9}},
-         4},
+         4,
+         0,
+         {{}, {2, 3, 4}}},
         {"TF_1098", "1098", "1098", "mnu1098", "1098 (Mortgage Interest Statement)", {{"Text1", 15}}, 2},
         {"TF_1098E",
          "1098E",
@@ -133,14 +148,18 @@ const std::vector<CatalogueEntry>& catalogue() {
          "mnuK11041",
          "Schedule K-1 (Form 1041) Beneficiary's Share of Income, Deductions, Credits. etc.",
          {{"Text1", 8}, {"Text2", 15}, {"Text3", 15}, {"Text4", 19}, {"Text5", 19}},
-         6},
+         6,
+         0,
+         {{{4, 5}}, {}}},
         {"TF_K11065",
          "K11065",
          "K11065",
          "mnuK11065",
          "Schedule K-1 (Form 1065) Partner's Share of Income, Deductions, Credits. etc.",
          {{"Text1", 30}, {"Text2", 24}, {"Text3", 24}, {"Text4", 20}, {"Text5", 20}},
-         17},
+         17,
+         0,
+         {{{3, 4}, {5, 6}, {9, 10}, {13, 14}}, {}}},
         {"TF_K11120S",
          "K11120S",
          "K11120S",
@@ -182,6 +201,12 @@ bool formKeyHasTaxYear(std::string_view formKey) {
     for (const CatalogueEntry& entry : catalogue())
         if (entry.formKey == formKey) return (entry.traits & kNoTaxYear) == 0;
     return true;
+}
+
+const CheckRules& checkRulesOf(std::string_view formName) {
+    static const CheckRules toggleOnly;
+    const CatalogueEntry* entry = findCatalogueEntry(formName);
+    return entry ? entry->checks : toggleOnly;
 }
 
 bool formHasTrait(std::string_view formName, FormTrait trait) {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lw {
@@ -18,6 +19,13 @@ enum FormTrait : unsigned {
     kWholeOnPaper = 2,  // clipped and printed whole, not cut at its border; its copy header turns white
 };
 
+// How the check boxes of a form answer a click: most toggle, some come in pairs where marking one clears
+// the other, and one group may admit one mark at most.
+struct CheckRules {
+    std::vector<std::pair<int, int>> pairs;
+    std::vector<int> exclusiveGroup;  // the indexes of the one group whose boxes exclude each other
+};
+
 struct CatalogueEntry {
     const char* form;     // the form's name, e.g. FormW2
     const char* formKey;  // the name from its fourth character on, upper-cased
@@ -27,6 +35,7 @@ struct CatalogueEntry {
     std::vector<TextArray> textArrays;
     int checkCount;
     unsigned traits = 0;  // FormTrait bits
+    CheckRules checks = {};
 };
 
 const std::vector<CatalogueEntry>& catalogue();
@@ -37,5 +46,7 @@ std::string formKeyOf(std::string_view formName);
 bool formKeyHasTaxYear(std::string_view formKey);
 // Whether the form of this name has the trait; a form outside the catalogue has none.
 bool formHasTrait(std::string_view formName, FormTrait trait);
+// The check rules of the form of this name; a form outside the catalogue only toggles.
+const CheckRules& checkRulesOf(std::string_view formName);
 
 }  // namespace lw

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "catalogue/catalogue_table.h"
 #include "fields/control_setup.h"
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
-#include "forms/check_rules.h"
 #include "model/keys.h"
 #include "shell/form_lifecycle.h"
 #include "text/case.h"

@@ -71,6 +71,28 @@ TEST(ShippedCatalogue, EveryDrawingHasTheFieldsOfItsForm) {
     }
 }
 
+// The check rules of a form name only check boxes its drawing has, each box in one rule at most.
+TEST(ShippedCatalogue, CheckRulesNameTheFormsOwnBoxes) {
+    int formsWithRules = 0;
+    for (const CatalogueEntry& entry : catalogue()) {
+        SCOPED_TRACE(entry.form);
+        const CheckRules& rules = checkRulesOf(entry.form);
+        EXPECT_EQ(&rules, &entry.checks);
+        std::set<int> boxes;
+        for (const auto& [a, b] : rules.pairs)
+            for (int box : {a, b}) EXPECT_TRUE(boxes.insert(box).second) << box;
+        for (int box : rules.exclusiveGroup) EXPECT_TRUE(boxes.insert(box).second) << box;
+        std::set<int> drawn;
+        if (const FormDefinition* definition = findDefinition(entry.form))
+            for (const ControlDefinition& c : definition->controls)
+                if (c.control.name == "Check") drawn.insert(c.control.index);
+        for (int box : boxes) EXPECT_EQ(drawn.count(box), 1u) << "Check(" << box << ") is not drawn";
+        formsWithRules += !boxes.empty();
+    }
+    EXPECT_EQ(formsWithRules, 7);
+    EXPECT_TRUE(checkRulesOf("TF_SAMPLE").pairs.empty()) << "a form outside the catalogue only toggles";
+}
+
 // The catalogue says which forms show the tax year: those, and only those, whose drawing has its labels.
 TEST(ShippedCatalogue, AFormShowsTheTaxYearWhenItsDrawingHasTheLabels) {
     for (const EmbeddedDefinition& embedded : embeddedDefinitions()) {
