@@ -97,7 +97,7 @@ std::string rateChangeRow(const std::string& Item, const std::string& Original, 
 void offerToSaveChangedRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
         Form& form = configureFormInUse();
-        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+        const std::string year = g().taxYear.text();
         struct Item {
             const char* caption;
             const char* key;

@@ -33,10 +33,10 @@ bool editByTag(Control& ctl) {
     if (tag == "MONEY" || tag == "SMONEY") return editMoney(ctl);
     if (tag == "AMONEY") return editUnknownAmount(ctl);
     if (tag == "-MONEY") return editMoneyNegativeOk(ctl);
-    if (tag == "DATE") return editDate(ctl, "");
+    if (tag == "DATE") return editDate(ctl, program().g.taxYear, "");
     if (tag == "DATEX") {
         if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
-        return editDate(ctl, formTaxYear());
+        return editDate(ctl, program().g.taxYear, formTaxYear());
     }
     if (tag == "YEAR") return editYear(ctl);
     if (tag == "VERIFICATION") return editVerificationCode(ctl);

@@ -27,11 +27,10 @@ bool placeholderDateStands(const std::string& month, const std::string& day) {
 
 std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.size() - 4) : s; }
 
-std::string formTaxYear() {
+std::string formTaxYear(const TaxYearChoice& inForce) {
     const Globals& g = program().g;
     const std::string key = g.FormKey;
-    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.CurrentForm)
-        return g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
+    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.CurrentForm) return inForce.text();
     return g.CurrentForm->at("TaxYear", 0).caption + g.CurrentForm->at("TaxYear", 1).caption;
 }
 
@@ -67,11 +66,11 @@ bool formatDateText(Control& ctl) {
     return result;
 }
 
-bool editDate(Control& ctl, const std::string& sRequiredYear) {
+bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& sRequiredYear) {
     bool result = true;
     try {
         clearStatusLine();
-        const std::string taxYear = formTaxYear();
+        const std::string taxYear = formTaxYear(inForce);
         if (!formatDateText(ctl))
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);

@@ -42,8 +42,8 @@ text::CalendarDay dateOrFault(const std::string& mmddyyyy) {
 
 }  // namespace
 
-void buildLicenseHolidays() {
-    const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+void buildLicenseHolidays(const TaxYearChoice& taxYear) {
+    const std::string year = taxYear.text();
     addMovingHoliday(year, "01", "Mon", 14);
     addMovingHoliday(year, "09", "Mon", 0);
     addMovingHoliday(year, "11", "Thu", 21);

@@ -18,7 +18,7 @@ void LicenseForm::onLoad() {
     for (Control* portrait : arrayOf("picDL"))
         portrait->picture = portraitFile(program().g.PicturesFolder, portrait->index + 1);
     program().g.DL_HolidayList = kFixedHolidays;
-    buildLicenseHolidays();
+    buildLicenseHolidays(program().g.taxYear);
 }
 
 void LicenseForm::onClick(Control& ctl, MouseButton button) {

@@ -56,9 +56,8 @@ void TaxpayerSheetForm::onLoad() {
 }
 
 void TaxpayerSheetForm::showAgeYear() {
-    const std::string& year = program().g.TaxYears[static_cast<std::size_t>(program().g.TaxYearIndex)];
     Control& yearDigits = at("TaxYear", 1);
-    yearDigits.caption = year.size() >= 2 ? year.substr(year.size() - 2) : year;
+    yearDigits.caption = program().g.taxYear.digits();
     const std::string caption = "Age as of 12/31/20" + yearDigits.caption;
     at("LabelTPAge", 0).caption = caption;
     at("LabelTPAge", 1).caption = caption;

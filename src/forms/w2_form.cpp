@@ -11,7 +11,6 @@
 #include "model/app_error.h"
 #include "model/program.h"
 #include "shell/form_registry.h"
-#include "shell/tax_year.h"
 #include "text/case.h"
 #include "text/currency.h"
 #include "text/masks.h"
@@ -72,7 +71,7 @@ void FormW2::onLoad() {
     TaxForm::onLoad();
     // The form is activated as soon as it is loaded, before its placing writes the year into it; the
     // year's digits are given here already, so that box 9 is decided by the year in force.
-    at("TaxYear", 1).caption = taxYearDigits();
+    at("TaxYear", 1).caption = g().taxYear.digits();
 }
 
 void FormW2::onValidate(Control& ctl, bool& Cancel) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/color.h"
+#include "model/tax_year_choice.h"
 #include "model/tp_info_rec.h"
 
 namespace lw {
@@ -81,9 +82,8 @@ struct Globals {
     std::vector<std::string> DL_Holidays;
     std::string FileNameFormat;
 
-    // The tax year: Last Year, This Year, Next Year and "20XX".
-    std::array<std::string, 4> TaxYears{};
-    int TaxYearIndex = 1;
+    // The tax year in force, and the cycle the operator changes it in.
+    TaxYearChoice taxYear;
 
     // Rates of the tax year in force, as text.
     std::string FilingStatus;

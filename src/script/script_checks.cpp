@@ -247,7 +247,7 @@ std::string ScriptRunner::global(const std::string& name) const {
         std::string digits = name.substr(9, name.size() - 10);
         if (digits.size() != 1 || digits[0] < '0' || digits[0] > '3')
             throw ScriptError("bad index in " + name);
-        return utf8(g.TaxYears[digits[0] - '0']);
+        return utf8(g.taxYear.textOf(static_cast<TaxYearChoice::Slot>(digits[0] - '0')));
     }
     if (text::startsWithNoCase(name, "LegendColors(") && name.back() == ')') {
         std::string digits = name.substr(13, name.size() - 14);
@@ -257,7 +257,7 @@ std::string ScriptRunner::global(const std::string& name) const {
     }
     if (is("FormKey")) return utf8(g.FormKey);
     if (is("CurrentFileName")) return utf8(g.CurrentFileName);
-    if (is("TaxYearIndex")) return std::to_string(g.TaxYearIndex);
+    if (is("TaxYearIndex")) return std::to_string(g.taxYear.index());
     if (is("SSRate")) return utf8(g.SSRate);
     if (is("SSMax")) return utf8(g.SSMax);
     if (is("MCInitRate")) return utf8(g.MCInitRate);

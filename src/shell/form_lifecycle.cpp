@@ -11,7 +11,6 @@
 #include "shell/form_registry.h"
 #include "shell/rates_check.h"
 #include "shell/startup.h"
-#include "shell/tax_year.h"
 #include "text/case.h"
 #include "text/pieces.h"
 
@@ -82,7 +81,7 @@ int frameInnerHeight() {
 }
 
 void showYearDigits(Form& frm) {
-    const std::string digits = taxYearDigits();
+    const std::string digits = g().taxYear.digits();
     frm.at("TaxYear", 1).caption = digits;
     if (frm.name() == "TF_RRB1099") frm.at("TaxYear", 3).caption = digits;
 }
@@ -128,7 +127,7 @@ void initCatalogueForm(Form& frm) {
     loadFormInfo();
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
     resetFormLook();
-    writeYearCaptions();
+    writeYearCaptions(g().taxYear);
 }
 
 void resetFormLook() {
@@ -193,9 +192,9 @@ void resetFormLook() {
     });
 }
 
-void writeYearCaptions() {
-    runGuarded("M3_Ledgerwick:Form_Init_Captions", [] {
-        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+void writeYearCaptions(const TaxYearChoice& taxYear) {
+    runGuarded("M3_Ledgerwick:Form_Init_Captions", [&taxYear] {
+        const std::string year = taxYear.text();
         if (year.empty() || !g().CurrentForm) return;
         Form& form = *g().CurrentForm;
         for (const auto& owned : form.controls()) {
@@ -282,9 +281,9 @@ Form* openCatalogueForm(const std::string& formName) {
 
 void changeTaxYear(Form& frm) {
     runGuarded("M3_Ledgerwick:Year_Change", [&] {
-        g().TaxYearIndex = nextTaxYearIndex(g().TaxYearIndex);
-        writeYearCaptions();
-        writeUserInf("LastTaxYear", g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)]);
+        g().taxYear = g().taxYear.next();
+        writeYearCaptions(g().taxYear);
+        writeUserInf("LastTaxYear", g().taxYear.text());
         if (formHasTaxYear()) showYearDigits(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
         recheckYearDates();
@@ -299,9 +298,10 @@ void recheckYearDates() {
         if (!c.isTextBox()) continue;
         bool stands = true;
         if (c.tag == "DATE")
-            stands = editDate(c, "");
+            stands = editDate(c, g().taxYear, "");
         else if (c.tag == "DATEX")
-            stands = editDate(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+            stands =
+                editDate(c, g().taxYear, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
         if (!stands) return;
     }
 }

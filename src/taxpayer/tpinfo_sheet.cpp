@@ -1,5 +1,6 @@
 #include "taxpayer/tpinfo_sheet.h"
 
+#include <optional>
 #include <vector>
 
 #include "diagnostics/error_tail.h"
@@ -27,17 +28,17 @@ bool endsIn20XX(const std::string& s) {
 
 }  // namespace
 
-std::string ageAtYearEnd(Form& form, const std::string& DOB) {
-    const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-    if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
+std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice& taxYear) {
+    if (taxYear.isPlaceholder()) return "N/A";
     const std::vector<std::string> parts = text::split(DOB, "/");
     bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) &&
                   isYearDigits(parts[1]) && isYearDigits(parts[2]);
     const int born = isDate ? std::stoi(parts[2]) : 0;
     isDate = isDate && text::isCalendarDate(born, std::stoi(parts[0]), std::stoi(parts[1]));
     // A birth date that is no date cannot be aged, as the classic date conversion refuses it.
-    if (!isDate || !isYearDigits(year)) throw AppError(err::kTypeMismatch, "Type mismatch");
-    const int age = std::stoi(year) - born;
+    const std::optional<int> year = taxYear.number();
+    if (!isDate || !year) throw AppError(err::kTypeMismatch, "Type mismatch");
+    const int age = *year - born;
     if (age < 0) {
         if (Control* status = form.find("labelMisc")) {
             status->foreColor = kRed;
@@ -51,7 +52,7 @@ void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeI
     const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
     Control& age = sheet.at("Text2", std::stoi(AgeIndex));
     if (dob.text.empty()) return;
-    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text);
+    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text, g().taxYear);
 }
 
 void UpdateAllAges(Form& sheet) {

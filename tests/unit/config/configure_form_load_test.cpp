@@ -11,8 +11,8 @@ namespace {
 TEST_F(ConfigureFormTest, JanuaryAndFebruaryStillBelongToTheYearBefore) {
     platform.clock = DateTime{2026, 2, 28, 9, 0, 0};
     open();
-    EXPECT_EQ(g().TaxYears[1], "2025");
-    EXPECT_EQ(g().TaxYearIndex, 1);
+    EXPECT_EQ(g().taxYear.textOf(TaxYearChoice::Slot::ThisYear), "2025");
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::ThisYear);
     EXPECT_EQ(form->TaxYear0.caption, "20");
     EXPECT_EQ(form->TaxYear1.caption, "25");
     EXPECT_EQ(userInf("LastTaxYear"), "2025");
@@ -29,7 +29,7 @@ TEST_F(ConfigureFormTest, TheYearReadsAsOneNumber) {
 TEST_F(ConfigureFormTest, MarchStartsTheNewTaxYear) {
     platform.clock = DateTime{2026, 3, 1, 9, 0, 0};
     open();
-    EXPECT_EQ(g().TaxYears[1], "2026");
+    EXPECT_EQ(g().taxYear.textOf(TaxYearChoice::Slot::ThisYear), "2026");
     EXPECT_EQ(form->TaxYear1.caption, "26");
     EXPECT_EQ(form->txtSSMax.text, "184,500.00");
     EXPECT_EQ(form->txtMCPartBPremiums.text, "2434.80");
@@ -38,7 +38,7 @@ TEST_F(ConfigureFormTest, MarchStartsTheNewTaxYear) {
 TEST_F(ConfigureFormTest, ARemembered20XXSelectsIndex3) {
     setUserInf("LastTaxYear", "20XX");
     open();
-    EXPECT_EQ(g().TaxYearIndex, 3);
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::Placeholder);
     EXPECT_EQ(form->TaxYear1.caption, "XX");
     EXPECT_EQ(form->txtSSRate.text, "7.65");
     EXPECT_EQ(form->Frame3.caption, "Social Security Withholding 20XX");
@@ -48,7 +48,7 @@ TEST_F(ConfigureFormTest, ARemembered20XXSelectsIndex3) {
 TEST_F(ConfigureFormTest, ARememberedYearOutOfTheWindowShowsItsDigitsAndIsOverwritten) {
     setUserInf("LastTaxYear", "2015");
     open();
-    EXPECT_EQ(g().TaxYearIndex, 1);
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::ThisYear);
     EXPECT_EQ(form->TaxYear1.caption, "15");
     EXPECT_EQ(form->txtSSRate.text, "");
     EXPECT_EQ(userInf("LastTaxYear"), "2025");

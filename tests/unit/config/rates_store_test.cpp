@@ -16,8 +16,7 @@ protected:
         ConfigTest::SetUp();
         form = std::make_unique<ConfigureForm>();
         g().CurrentForm = form.get();
-        g().TaxYears = {"2024", "2025", "2026", "20XX"};
-        g().TaxYearIndex = 1;
+        g().taxYear = TaxYearChoice(2025);
     }
 
     void showYear(const char* digits) { form->TaxYear1.caption = digits; }
@@ -229,7 +228,7 @@ TEST_F(CheckChangesTest, TheChangePointIsComparedWithTheOneSavedValue) {
 TEST_F(CheckChangesTest, TheStoredYearIsTheOneInForce) {
     // The form shows 2025, but 2026 is in force: its stored figures are the originals.
     loadYear("25", "Single");
-    g().TaxYearIndex = 2;
+    g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::NextYear);
     ui.queueAnswer("No");
     offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);

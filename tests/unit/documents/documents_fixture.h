@@ -110,8 +110,7 @@ struct Documents : ::testing::Test {
     void SetUp() override {
         registerSmallForms();
         test.start();
-        g.TaxYears = {"2024", "2025", "2026", "20XX"};
-        g.TaxYearIndex = 1;
+        g.taxYear = TaxYearChoice(2025);
         files = test.root / "cases";
         std::filesystem::create_directories(files);
         test.ui.boxes.clear();

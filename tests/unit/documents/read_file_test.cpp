@@ -246,7 +246,7 @@ TEST_F(ReadFile, TheTaxpayerSheetRefreshesTheStoreAndTheAges) {
 }
 
 TEST_F(ReadFile, AgesReadNotApplicableInThePlaceholderYear) {
-    g.TaxYearIndex = 3;
+    g.taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
     openFile(write("tp.venturo", "TPINFO" + D + "20XX" + D + "TXT2=01/15/1980\r\n"));
     EXPECT_EQ(field("Text2", 0).text, "N/A");
 }

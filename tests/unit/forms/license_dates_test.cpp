@@ -21,11 +21,9 @@ struct LicenseDates : ::testing::Test {
     void SetUp() override { setYears(2024, 2023); }
     void setYears(int today, int taxYear) {
         test.platform.clock = DateTime{today, 6, 10, 9, 0, 0};
-        g.TaxYears = {std::to_string(taxYear), std::to_string(taxYear + 1), std::to_string(taxYear + 2),
-                      "20XX"};
-        g.TaxYearIndex = 0;
+        g.taxYear = TaxYearChoice(taxYear + 1, TaxYearChoice::Slot::LastYear);
         g.DL_HolidayList = kFixedHolidays;
-        buildLicenseHolidays();
+        buildLicenseHolidays(g.taxYear);
     }
     std::string issued(const std::string& license, const std::string& birth) {
         fillLicenseDates(license, birth, issue, expire);
@@ -42,9 +40,9 @@ TEST_F(LicenseDates, TheMovingHolidaysOfTheTaxYearJoinTheFixedOnes) {
 }
 
 TEST_F(LicenseDates, ThePlaceholderYearAddsNoMovingHoliday) {
-    g.TaxYearIndex = 3;
+    g.taxYear = TaxYearChoice(2024, TaxYearChoice::Slot::Placeholder);
     g.DL_HolidayList = kFixedHolidays;
-    buildLicenseHolidays();
+    buildLicenseHolidays(g.taxYear);
     EXPECT_EQ(g.DL_HolidayList, kFixedHolidays);
     EXPECT_EQ(g.DL_Holidays.size(), 7u);
 }

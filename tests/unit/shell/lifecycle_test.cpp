@@ -51,8 +51,7 @@ struct Lifecycle : ::testing::Test {
         std::string path = (test.root / "Forms.inf").string();
         std::ofstream(path, std::ios::binary) << "[SAMPLE]\r\nFormName=TF_SAMPLE\r\nFocusOnStartup=2\r\n";
         test.program->g.FormsInfFile = path;
-        test.program->g.TaxYears = {"2024", "2025", "2026", "20XX"};
-        test.program->g.TaxYearIndex = 1;
+        test.program->g.taxYear = TaxYearChoice(2025);
     }
     Form& open() {
         Form* form = openCatalogueForm("TF_SAMPLE");
@@ -127,7 +126,7 @@ TEST_F(Lifecycle, ClearEmptiesFieldsChecksStatusAndTheFileName) {
 TEST_F(Lifecycle, ChangingTheYearCyclesRemembersAndRedatesTheForm) {
     Form& form = open();
     changeTaxYear(form);
-    EXPECT_EQ(test.program->g.TaxYearIndex, 2);
+    EXPECT_EQ(test.program->g.taxYear, TaxYearChoice(2025, TaxYearChoice::Slot::NextYear));
     EXPECT_EQ(form.at("TaxYear", 1).caption, "26");
     EXPECT_EQ(store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.UserInfFile), "2026");
     changeTaxYear(form);
