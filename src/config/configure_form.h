@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "model/year_rates.h"
 #include "shell/catalogue_form.h"
 
 namespace lw {
@@ -57,8 +58,9 @@ public:
     void onFileNameOption(int Index);
     void onStatusOption(int Index);
 
-    // One of the six figure fields.
+    // One of the six figure fields, and the figure it shows.
     bool isFigureField(const Control& control) const;
+    RateItem figureItemOf(const Control& figureField) const;
 
 private:
     void loadForm();

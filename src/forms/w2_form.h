@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/tax_form.h"
+#include "model/year_rates.h"
 
 namespace lw {
 
@@ -19,9 +20,9 @@ public:
     void afterYearChange() override;
 
     // Social security tax withheld (box 4) from Social security wages (box 3).
-    void computeSocialSecurityTax();
+    void computeSocialSecurityTax(const Rates& rates);
     // Medicare tax withheld (box 6) from Medicare wages and tips (box 5).
-    void computeMedicareTax();
+    void computeMedicareTax(const Rates& rates);
 };
 
 // Makes TF_W2 known by name, in place of the standard tax form.

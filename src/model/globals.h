@@ -7,6 +7,7 @@
 
 #include "model/color.h"
 #include "model/tax_year_choice.h"
+#include "model/year_rates.h"
 #include "model/tp_info_rec.h"
 
 namespace lw {
@@ -85,15 +86,8 @@ struct Globals {
     // The tax year in force, and the cycle the operator changes it in.
     TaxYearChoice taxYear;
 
-    // Rates of the tax year in force, as text.
-    std::string FilingStatus;
-    std::string SSRate;
-    std::string SSMax;
-    std::string MCInitRate;
-    std::string MCChgRateAfter;
-    std::string MCRateAfter;
-    std::string MCPartBPremium;
-    std::string MCPartBIncome;
+    // The figures of the tax year on the configuration form, and its filing status.
+    Rates rates;
 };
 
 }  // namespace lw

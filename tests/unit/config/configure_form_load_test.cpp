@@ -56,7 +56,8 @@ TEST_F(ConfigureFormTest, ARememberedYearOutOfTheWindowShowsItsDigitsAndIsOverwr
 
 TEST_F(ConfigureFormTest, LoadStartsFromSingleAndWritesTheChangePointIntoTheCaptions) {
     open();
-    EXPECT_EQ(g().FilingStatus, "Single");
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::Single);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "Single");
     EXPECT_EQ(g().CurrentForm, form);
     EXPECT_EQ(g().FormKey, "CONFIGURE");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "200,000.00");
@@ -75,7 +76,7 @@ TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
     owned->lblMC[2]->caption = "over <<wage>>:";
     owned->TaxYear1.caption = "25";
     g().CurrentForm = owned.get();
-    g().FilingStatus = "MFS";
+    g().rates.filingStatus = FilingStatus::MarriedSeparately;
     configureFormCommonInit(*owned);
     EXPECT_EQ(owned->lblMC[0]->caption, "up to 125,000.00 and 125,000.00");
     EXPECT_EQ(owned->lblMC[2]->caption, "over 125,000.00:");
