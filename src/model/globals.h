@@ -7,8 +7,8 @@
 
 #include "model/color.h"
 #include "model/tax_year_choice.h"
-#include "model/year_rates.h"
 #include "model/tp_info_rec.h"
+#include "model/year_rates.h"
 
 namespace lw {
 
