@@ -57,9 +57,7 @@ int lineCount(const std::string& text) {
     return lines;
 }
 
-void tell(const std::string& source, const std::string& message) {
-    MA_MBX(source, 800, message, "OK", false, "", "", "", 1);
-}
+void tell(const std::string& source, const std::string& message) { showMessageBox({source, message}); }
 
 }  // namespace
 

@@ -98,7 +98,7 @@ bool k1RequiredFieldsFilled(Form& form, int& FocusIndex) {
     for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
         if (!index || !fieldText(form, *index).empty()) continue;
         const K1Rule& rule = k1Rule(g().FormKey, numberMissing);
-        MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
+        showMessageBox({kNameLabel, rule.message, rule.number});
         if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
         // saveDataFile's last step focuses FocusIndex: it must land on the same field.
         FocusIndex = *index;
