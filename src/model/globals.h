@@ -2,10 +2,12 @@
 // The process-wide values of the program: what outlives a form, under the names the program knows them by.
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "model/color.h"
+#include "model/save_outcome.h"
 #include "model/tp_info_rec.h"
 
 namespace lw {
@@ -54,7 +56,8 @@ struct Globals {
     std::string FormKey;
     std::string CurrentFileName;
     std::string FormRecord;
-    std::string SaveResult;
+    // How the form for an existing file ended the last save that showed it.
+    std::optional<SaveOutcome> lastSaveOutcome;
 
     // Values of the catalogue for the form on the screen, refreshed whenever a form opens.
     std::string FormTitle;

@@ -289,7 +289,8 @@ std::string ScriptRunner::global(const std::string& name) const {
     if (is("bQuitting")) return flag(g.bQuitting);
     if (is("CommandWords")) return utf8(g.CommandWords);
     if (is("FormRecord")) return utf8(g.FormRecord);
-    if (is("SaveResult")) return utf8(g.SaveResult);
+    if (is("SaveResult"))
+        return g.lastSaveOutcome ? std::to_string(static_cast<int>(*g.lastSaveOutcome)) : "";
     if (is("CurrentForm")) return g.CurrentForm ? g.CurrentForm->name() : "";
     if (auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame())) {
         if (is("VersionMajor")) return frame->VersionMajor;
