@@ -244,6 +244,15 @@ TEST_F(Saving, OneCardNamesOnePerson) {
     EXPECT_EQ(name(), "SS_ITIN_MARY A SAMPLE_000");
 }
 
+TEST_F(Saving, CardsThatDoNotPairUpProposeNoName) {
+    Form& form = open("F2_SS_ITIN");
+    set(form, 0, "123-45-6789");
+    EXPECT_EQ(name(), std::nullopt);
+    EXPECT_EQ(g.FormRecord, "Error SS_ITIN");
+    ASSERT_EQ(test.ui.boxes.size(), 1u);
+    EXPECT_NE(lastBox().find("One or more SS or ITIN cards has a Number without a Name"), std::string::npos);
+}
+
 TEST_F(Saving, NameIsMandatory) {
     Form& form = w2("");
     set(form, 0, "");
