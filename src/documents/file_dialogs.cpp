@@ -48,14 +48,15 @@ std::optional<std::string> OpenOrSaveFile(FileDialogMode mode, const std::string
             const bool save = mode == FileDialogMode::Save;
             const std::string key = rememberedFolderKey(mode);
             std::string startFolder = readUserInf(key);
-            if (startFolder.empty()) startFolder = store::ReadINF("TaxForms", "Folder", "", g.UserInfFile);
+            if (startFolder.empty())
+                startFolder = store::ReadINF("TaxForms", "Folder", "", g.edition.userInfFile);
 
             FileDialogRequest request;
             request.save = save;
             request.title = save ? kSaveTitle : kOpenTitle;
             request.startFolder = startFolder;
             if (save) request.proposedName = beforeNul(FileName).substr(0, kOfferedName);
-            putFilter(g.FileFilter, request);
+            putFilter(g.edition.fileFilter, request);
 
             std::optional<std::string> answer = program().ui.fileDialog(request);
             if (!answer) return std::nullopt;
@@ -63,7 +64,7 @@ std::optional<std::string> OpenOrSaveFile(FileDialogMode mode, const std::string
             const std::string folder = folderOf(path);
             if (folder != startFolder) {
                 writeUserInf(key, folder);
-                (save ? g.LastSaveFolder : g.LastOpenFolder) = folder;
+                (save ? g.choices.lastSaveFolder : g.choices.lastOpenFolder) = folder;
             }
             return path;
         });
@@ -73,9 +74,9 @@ void verifyRememberedFolder(FileDialogMode mode) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
         const std::string key = rememberedFolderKey(mode);
         const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.UserNameUC, key, "", g.UserInfFile);
+        const std::string folder = store::ReadINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.UserNameUC, key, "", g.UserInfFile);
+        if (!folderExists(folder)) store::SaveINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
     });
 }
 

@@ -73,7 +73,7 @@ int chosenPictureOf(Form& form, int which) {
 // The ages of the taxpayer sheet follow the birth dates just read; only the sheet has them.
 void fillAges() {
     Form* sheet = program().desktop.findForm("F5_TPInfo");
-    if (!sheet || sheet != g().CurrentForm) return;
+    if (!sheet || sheet != g().document.currentForm) return;
     UpdateAllAges(*sheet);
 }
 
@@ -82,17 +82,17 @@ void fillAges() {
 std::optional<std::string> buildRecord() {
     std::optional<std::string> line;
     runGuarded(kBuildLabel, [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
         if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
-        if (g().FormKey == "SS_ITIN") checkCardPairs(*form);
+        if (g().document.formKey == "SS_ITIN") checkCardPairs(*form);
         std::vector<store::RecordField> fields = filledControls(*form);
-        if (g().FormKey == "DL") {
+        if (g().document.formKey == "DL") {
             fields.push_back({"PIC1", std::to_string(chosenPictureOf(*form, 1))});
             fields.push_back({"PIC2", std::to_string(chosenPictureOf(*form, 2))});
         }
-        line = store::buildRecordLine(g().RecordPrefix, year, fields);
+        line = store::buildRecordLine(g().document.catalogue.recordPrefix, year, fields);
     });
     return line;
 }
@@ -100,7 +100,7 @@ std::optional<std::string> buildRecord() {
 void openDataFile() {
     runGuarded(kOpenLabel, [] {
         try {
-            if (Form* current = g().CurrentForm; current && current->isLoaded() && current->isChild)
+            if (Form* current = g().document.currentForm; current && current->isLoaded() && current->isChild)
                 current->unload();
         } catch (const ProgramEnded&) {
             throw;
@@ -111,7 +111,7 @@ void openDataFile() {
         verifyRememberedFolder(FileDialogMode::Open);
         const std::optional<std::string> chosen = OpenOrSaveFile(FileDialogMode::Open, "");
         // The mark stands as the file name until the next open or save chooses one.
-        g().CurrentFileName = chosen.value_or(kCancelMark);
+        g().document.currentFileName = chosen.value_or(kCancelMark);
         if (!chosen) return;
         readDataFile();
         fillAges();

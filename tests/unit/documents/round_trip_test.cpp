@@ -28,13 +28,13 @@ struct StartedProgram : ::testing::TestWithParam<std::string> {
         const std::string path = (test.root / fileName).string();
         std::ofstream(path, std::ios::binary) << buildRecord().value_or("") << "\r\n";
         form.unload();
-        test.program->g.CurrentFileName = path;
+        test.program->g.document.currentFileName = path;
         const Form* read = readDataFile();
         EXPECT_NE(read, nullptr);
         if (read) {
             EXPECT_EQ(read->name(), GetParam());
         }
-        EXPECT_EQ(test.program->g.FormTitle, GetParam());
+        EXPECT_EQ(test.program->g.document.catalogue.formTitle, GetParam());
         EXPECT_EQ(read, test.program->desktop.activeChild());
         return test.program->desktop.activeChild();
     }
