@@ -41,7 +41,7 @@ void CardsForm::refuse(int& keyAscii, const std::string& message) {
 }
 
 void CardsForm::showCard(int Index, const char* pictureName) {
-    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.PicturesFolder, pictureName);
+    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
 }
 
 void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
