@@ -12,7 +12,7 @@ namespace lw {
 
 namespace {
 
-constexpr const char* kLabel = "M8_CommonDialogReplacement:OpenOrSaveFile";
+constexpr const char* kLabel = "M8_CommonDialogReplacement:chooseFileToOpenOrSave";
 constexpr const char* kOpenTitle = "Select File, Press OPEN button -OR - Press Delete Key to DELETE the File";
 constexpr const char* kSaveTitle =
     "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
@@ -41,7 +41,7 @@ const char* rememberedFolderKey(FileDialogMode mode) {
 
 }  // namespace
 
-std::optional<std::string> OpenOrSaveFile(FileDialogMode mode, const std::string& FileName) {
+std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName) {
     return runGuardedOr<std::optional<std::string>>(
         kLabel, std::string(), [&]() -> std::optional<std::string> {
             Globals& g = program().g;
@@ -49,13 +49,13 @@ std::optional<std::string> OpenOrSaveFile(FileDialogMode mode, const std::string
             const std::string key = rememberedFolderKey(mode);
             std::string startFolder = readUserInf(key);
             if (startFolder.empty())
-                startFolder = store::ReadINF("TaxForms", "Folder", "", g.edition.userInfFile);
+                startFolder = store::readInfValue("TaxForms", "Folder", "", g.edition.userInfFile);
 
             FileDialogRequest request;
             request.save = save;
             request.title = save ? kSaveTitle : kOpenTitle;
             request.startFolder = startFolder;
-            if (save) request.proposedName = beforeNul(FileName).substr(0, kOfferedName);
+            if (save) request.proposedName = beforeNul(fileName).substr(0, kOfferedName);
             putFilter(g.edition.fileFilter, request);
 
             std::optional<std::string> answer = program().ui.fileDialog(request);
@@ -74,9 +74,11 @@ void verifyRememberedFolder(FileDialogMode mode) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
         const std::string key = rememberedFolderKey(mode);
         const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        const std::string folder =
+            store::readInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        if (!folderExists(folder))
+            store::writeInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
     });
 }
 

@@ -8,9 +8,9 @@ namespace lw {
 
 enum class FileDialogMode { Open, Save };
 
-// Asks for a path; FileName is the name proposed in save mode. Returns the full path, or nothing when
+// Asks for a path; fileName is the name proposed in save mode. Returns the full path, or nothing when
 // the operator cancels. A fault is logged and gives an empty path, which the write or read then refuses.
-std::optional<std::string> OpenOrSaveFile(FileDialogMode mode, const std::string& FileName);
+std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName);
 
 // Runs just before each dialog: the remembered folder of that dialog is emptied in the user INF file
 // when it no longer exists.

@@ -74,7 +74,7 @@ int chosenPictureOf(Form& form, int which) {
 void fillAges() {
     Form* sheet = program().desktop.findForm("F5_TPInfo");
     if (!sheet || sheet != g().document.currentForm) return;
-    UpdateAllAges(*sheet);
+    updateAllAges(*sheet);
 }
 
 }  // namespace
@@ -109,7 +109,7 @@ void openDataFile() {
         }
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder(FileDialogMode::Open);
-        const std::optional<std::string> chosen = OpenOrSaveFile(FileDialogMode::Open, "");
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Open, "");
         // The mark stands as the file name until the next open or save chooses one.
         g().document.currentFileName = chosen.value_or(kCancelMark);
         if (!chosen) return;

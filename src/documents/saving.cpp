@@ -216,7 +216,7 @@ void saveFile(int& FocusIndex) {
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder(FileDialogMode::Save);
         // The path chosen is not kept: the next Save of a new form asks again.
-        const std::optional<std::string> chosen = OpenOrSaveFile(FileDialogMode::Save, name);
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Save, name);
         if (!chosen) return;
         path = *chosen;
     }

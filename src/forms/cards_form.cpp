@@ -49,7 +49,7 @@ void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); 
 void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (keyAscii == keys::kEnter) SendTabKey();
+    if (keyAscii == keys::kEnter) sendTabKey(*this);
     if (!isNumberField(ctl)) {
         if (keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 32;
         return;
@@ -92,7 +92,7 @@ void CardsForm::onValidate(Control& ctl, bool& Cancel) {
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (Index % 2 == 0 && DuplicateTinCheck(kNumberFields, Index) != 99) Cancel = true;
+    if (Index % 2 == 0 && checkDuplicateNumbers(kNumberFields, Index) != 99) Cancel = true;
 }
 
 void registerCardsForm() {

@@ -68,7 +68,8 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     }
     if (what == "ini") {
         need(words, 6, "expect ini PATH SECTION KEY \"VALUE\"");
-        std::string value = utf8(store::ReadINF(codePage(words[3]), codePage(words[4]), "", path(words[2])));
+        std::string value =
+            utf8(store::readInfValue(codePage(words[3]), codePage(words[4]), "", path(words[2])));
         return expectThat(value == words[5], "\"" + value + "\"");
     }
     if (what == "any-message") {
