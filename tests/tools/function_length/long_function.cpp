@@ -15,10 +15,13 @@ public:
 };
 
 // Eighty-one lines from its opening brace to its closing one, the lambda inside it included.
-int Ledger::addUp(int first, int second) const {
+int Ledger::addUp(int first,
+                  int second) const {
     int total = first + second;
     const std::string closing = "} }";  // a closing brace here does not end it }
-    auto add = [&](int n) { total += n; };
+    auto add = [&](int n) {
+        total += n;
+    };
     total += 1;
     total += 2;
     total += 3;
