@@ -97,7 +97,8 @@ std::string whatWentWrong(const std::string& played) {
 
 std::string userRootFolder() {
     if (const char* root = std::getenv("LEDGERWICK_ROOT"); root && *root) return root;
-    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data) return std::string(data) + "/ledgerwick";
+    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data)
+        return std::string(data) + "/ledgerwick";
     const char* home = std::getenv("HOME");
     return std::string(home ? home : ".") + "/.local/share/ledgerwick";
 }
@@ -170,7 +171,8 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
     // Cases half made by a set that was stopped are no cases.
     for (const auto& entry : fs::directory_iterator(out, gone)) {
         const std::string name = entry.path().filename().string();
-        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial") fs::remove_all(entry.path(), gone);
+        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial")
+            fs::remove_all(entry.path(), gone);
     }
     {
         BatchedDisk batched;

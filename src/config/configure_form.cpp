@@ -95,7 +95,7 @@ void ConfigureForm::loadForm() {
     }
     Frame1.height = lblNote.height;
 
-    const std::string& extension = g().FileExtension;
+    const std::string& extension = g().edition.fileExtension;
     FileNameFormats = {
         "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
         "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
@@ -194,7 +194,7 @@ void ConfigureForm::onClick(Control& control, MouseButton) {
 
 void ConfigureForm::onPrinterChosen() {
     runGuarded("F1_Configure:cbxPrinters_Click", [this] {
-        g().PrinterName = cbxPrinters.text;
+        g().choices.printerName = cbxPrinters.text;
         writeUserInf("Printer", cbxPrinters.text);
     });
 }
@@ -202,7 +202,7 @@ void ConfigureForm::onPrinterChosen() {
 void ConfigureForm::onFileNameOption(int Index) {
     runGuarded("F1_Configure:optFileName_Click", [this, Index] {
         writeUserInf("FileNameFmt", std::to_string(Index));
-        g().FileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
+        g().choices.fileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
     });
 }
 
@@ -255,13 +255,16 @@ void ConfigureForm::onValidate(Control& control, bool& cancel) {
 void ConfigureForm::onUnload(bool&) {
     runGuarded("F1_Configure:Form_Unload", [this] {
         if (g().rates.filingStatus != FilingStatus::NotChosen) return;
-        const std::string answer =
-            MA_MBX(name(), 800, "Filing Status not chosen - Choose Now", "Married Filing Single - MFS", false,
-                   "Single - S", "Married Filing Joint - MFJ", "", 1);
-        const std::size_t dash = answer.find('-');
-        g().rates.filingStatus = dash == std::string::npos
-                                     ? FilingStatus::NotChosen
-                                     : filingStatusOfWord(text::trim(answer.substr(dash + 1)));
+        const MessageBoxRequest ask{
+            name(),
+            "Filing Status not chosen - Choose Now",
+            kNoMessageNumber,
+            {"Married Filing Single - MFS", "Single - S", "Married Filing Joint - MFJ", ""}};
+        // Each button names its status after the dash; a box closed without one leaves none.
+        static const FilingStatus statuses[] = {FilingStatus::NotChosen, FilingStatus::MarriedSeparately,
+                                                FilingStatus::SingleOnClosing, FilingStatus::MarriedJointly,
+                                                FilingStatus::NotChosen};
+        g().rates.filingStatus = statuses[static_cast<int>(showMessageBox(ask).button)];
         program().ui.quit();
     });
 }

@@ -22,7 +22,7 @@ std::string formYear(const Form& form) {
 }
 
 std::string readRate(const std::string& year, const char* key) {
-    return store::ReadINF(year, key, "", g().SSMCInfFile);
+    return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
 }
 
 // The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
@@ -59,15 +59,16 @@ Rates readYearRates(const std::string& year, const std::string& ssmcFile, Filing
     };
     Rates rates;
     rates.filingStatus = status;
-    for (const Entry& entry : entries) rates.set(entry.item, store::ReadINF(year, entry.key, "", ssmcFile));
+    for (const Entry& entry : entries)
+        rates.set(entry.item, store::readInfValue(year, entry.key, "", ssmcFile));
     return rates;
 }
 
 void loadRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
-        Form& form = *g().CurrentForm;
+        Form& form = *g().document.currentForm;
         const std::string year = formYear(form);
-        g().rates = readYearRates(year, g().SSMCInfFile, g().rates.filingStatus);
+        g().rates = readYearRates(year, g().edition.ssmcInfFile, g().rates.filingStatus);
         const Rates& rates = g().rates;
 
         form.at("Frame3").caption = text::replaceAll("Social Security Withholding ????", "????", year);
@@ -94,7 +95,7 @@ void storeRates() {
         const std::string year = formYear(form);
         if (!validateAllRates(form)) return;
         auto write = [&](const char* key, const std::string& value, RateItem item) {
-            store::SaveINF(year, key, value, g().SSMCInfFile);
+            store::writeInfValue(year, key, value, g().edition.ssmcInfFile);
             g().rates.set(item, value);
         };
         write("SSRate", form.at("txtSSRate").text, RateItem::SocialSecurityRate);
@@ -143,11 +144,11 @@ void offerToSaveChangedRates() {
                 table += rateChangeRow(items[i].caption, stored[i], items[i].current);
             const std::string message =
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
-            if (MA_MBX("M3_Ledgerwick:SS_MC_Check_Changes", 800, message, "Yes", false, "No", "", "", 1) ==
-                "Yes")
-                storeRates();
+            const MessageBoxRequest ask{
+                "M3_Ledgerwick:SS_MC_Check_Changes", message, kNoMessageNumber, {"Yes", "No"}};
+            if (showMessageBox(ask).button == MessageBoxButton::First) storeRates();
         }
-        if (g().bQuitting) program().ui.quit();
+        if (g().process.quitting) program().ui.quit();
     });
 }
 

@@ -29,16 +29,17 @@ std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.s
 
 std::string formTaxYear(const TaxYearChoice& inForce) {
     const Globals& g = program().g;
-    const std::string key = g.FormKey;
-    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.CurrentForm) return inForce.text();
-    return g.CurrentForm->at("TaxYear", 0).caption + g.CurrentForm->at("TaxYear", 1).caption;
+    const std::string key = g.document.formKey;
+    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.document.currentForm) return inForce.text();
+    return g.document.currentForm->at("TaxYear", 0).caption +
+           g.document.currentForm->at("TaxYear", 1).caption;
 }
 
 void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
     const std::string old = ctl.text;
     ctl.text = old.substr(0, 6) + year;
-    MA_MBX(kSource, number, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---",
-           "OK", false, "", "", "", 1);
+    showMessageBox(
+        {kSource, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---", number});
 }
 
 }  // namespace
@@ -82,7 +83,7 @@ bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& sRe
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, 6, "");
-        if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
+        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }
     return result;

@@ -73,7 +73,7 @@ void FormRrb1099::onValidate(Control& ctl, bool& Cancel) {
 
 void FormRrb1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_RRB1099:Text1_Validate", [&] {
-        if (!EditCtl(field(Index))) {
+        if (!editField(field(Index))) {
             Cancel = true;
             return;
         }
@@ -112,7 +112,9 @@ void FormRrb1099::totalGrossPaid() {
 
 void FormRrb1099::copyIdentity() {
     const Globals& g = program().g;
-    for (const std::string* list : {&g.SSNIndex, &g.NameAddrIndex, &g.MedicareClaimNoIndex, &g.EINIndex}) {
+    for (const std::string* list :
+         {&g.document.catalogue.ssnIndex, &g.document.catalogue.nameAddrIndex,
+          &g.document.catalogue.medicareClaimNoIndex, &g.document.catalogue.einIndex}) {
         // A form whose catalogue names no such pair has nothing to copy.
         if (list->empty()) continue;
         const std::vector<std::string> items = text::split(*list, ",");
@@ -148,8 +150,7 @@ void FormRrb1099::ComputeRRB(int /*Index*/) {
         // No step here ever clears the flag: only the skipped pass of a later validation does.
         if (shortfall == RrbShortfall::None) return;
         field(kNet).foreColor = kRed;
-        MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "",
-               "", 1);
+        showMessageBox({kComputeLabel, benefitErrorMessage(rrbShortfallReason(shortfall)), 801});
         rrbError = true;
     });
 }

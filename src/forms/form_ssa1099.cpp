@@ -102,7 +102,7 @@ void FormSsa1099::onValidate(Control& ctl, bool& Cancel) {
 
 void FormSsa1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_SSA1099:Text1_Validate", [&] {
-        if (!EditCtl(field(Index))) {
+        if (!editField(field(Index))) {
             Cancel = true;
             return;
         }
@@ -152,7 +152,7 @@ void FormSsa1099::ComputeSSA(int Index) {
         }
         field(red).foreColor = kRed;
         const std::string reason = ssaShortfallReason(shortfall, at("RTB3").caption);
-        MA_MBX(kComputeLabel, number, benefitErrorMessage(reason), "OK", false, "", "", "", 1);
+        showMessageBox({kComputeLabel, benefitErrorMessage(reason), number});
         ssaError = true;
     });
 }

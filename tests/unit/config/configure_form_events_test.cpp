@@ -125,7 +125,8 @@ TEST_F(ConfigureFormTest, ClosingWithNoStatusAsksForOneAndEndsTheProgram) {
     EXPECT_EQ(boxes[0].buttons[1], "Single - S");
     EXPECT_EQ(boxes[0].buttons[2], "Married Filing Joint - MFJ");
     EXPECT_EQ(boxes[0].buttons[3], "");
-    EXPECT_EQ(boxes[0].defaultButton, 1);
+    EXPECT_EQ(boxes[0].defaultButton, MessageBoxButton::First);
+    EXPECT_EQ(boxes[0].answer, MessageBoxButton::Second);
     EXPECT_EQ(g().rates.filingStatus, FilingStatus::SingleOnClosing);
     EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "S");
     EXPECT_EQ(ui.quitCalls, 1);
@@ -137,6 +138,15 @@ TEST_F(ConfigureFormTest, TheDefaultAnswerToTheClosingQuestionIsMFS) {
     form->unload();
     EXPECT_EQ(g().rates.filingStatus, FilingStatus::MarriedSeparately);
     EXPECT_EQ(ui.quitCalls, 1);
+}
+
+TEST_F(ConfigureFormTest, TheThirdAnswerToTheClosingQuestionIsMFJ) {
+    open();
+    g().rates.filingStatus = FilingStatus::NotChosen;
+    ui.queueAnswer("Married Filing Joint - MFJ");
+    form->unload();
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::MarriedJointly);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "MFJ");
 }
 
 TEST_F(ConfigureFormTest, RegisteringMakesTheFormAndItsRatesCheckKnown) {

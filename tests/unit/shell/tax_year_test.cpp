@@ -35,7 +35,7 @@ struct YearSetup : ::testing::Test {
         test.start();
     }
     std::string remembered() {
-        return store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.UserInfFile);
+        return store::readInfValue("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile);
     }
     const TaxYearChoice& taxYear() { return test.program->g.taxYear; }
 };

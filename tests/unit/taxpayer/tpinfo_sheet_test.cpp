@@ -37,7 +37,7 @@ TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
     g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
     form->at("Text2", 0).text = "41";
     form->at("Text1", 2).text = "03/15/1980";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "N/A") << "the sheet ages by the year in force";
 }
 
@@ -52,15 +52,15 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
     form->at("Text2", 0).text = "41";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "41");
     form->at("Text1", 2).text = "05/05/20XX";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
 TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFields) {
-    g().FormRecord =
+    g().document.formRecord =
         "TPINFO\xB7"
         "2025\xB7TXT0=ANN LEE\xBB"
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
