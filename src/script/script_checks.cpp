@@ -37,7 +37,7 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     }
     if (what == "clipboard-pixel" || what == "printed-pixel") {
         need(words, 5, "expect clipboard-pixel|printed-pixel X Y \"#RRGGBB\"");
-        const std::shared_ptr<const FormPicture>& picture =
+        const std::shared_ptr<const headless::FormPicture>& picture =
             what == "clipboard-pixel" ? session_.clipboardPicture : session_.printedPicture;
         const int x = std::atoi(words[2].c_str());
         const int y = std::atoi(words[3].c_str());
@@ -104,14 +104,14 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     if (what == "k1list") {
         need(words, 3, "expect k1list \"PART\"");
         if (!session_.lastK1List) return expectThat(false, "no list");
-        const ShownK1List& list = *session_.lastK1List;
+        const headless::ShownK1List& list = *session_.lastK1List;
         bool held = contains(list.caption, words[2]);
         for (const std::string& row : list.rows) held = held || contains(row, words[2]);
         return expectThat(held, "\"" + list.caption + "\" with " + std::to_string(list.rows.size()) +
                                     " rows, none with that text");
     }
     if (what == "report" || what == "no-report") {
-        auto shown = [](const ShownReport& r) {
+        auto shown = [](const headless::ShownReport& r) {
             return utf8(r.module) + " " + utf8(r.number) + " " + utf8(r.description);
         };
         if (what == "report") need(words, 3, "expect report \"PART\"");
@@ -126,7 +126,7 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
         // Any report since the start may hold the text, not only those since the last check.
         if (session_.reports.empty()) return expectThat(false, "no report");
         std::string all;
-        for (const ShownReport& r : session_.reports) {
+        for (const headless::ShownReport& r : session_.reports) {
             if (contains(utf8(r.module), words[2]) || contains(utf8(r.number), words[2]) ||
                 contains(utf8(r.description), words[2]))
                 return expectThat(true, "");

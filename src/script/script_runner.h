@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script_session.h"
+#include "headless/session.h"
 #include "script/script_words.h"
 
 namespace lw {
@@ -16,9 +16,11 @@ struct Control;
 class Form;
 }  // namespace lw
 
-namespace lw::script {
-
+namespace lw::headless {
 class HeadlessProgram;
+}  // namespace lw::headless
+
+namespace lw::script {
 
 class ScriptRunner {
 public:
@@ -54,8 +56,8 @@ private:
     void requireRunning(const std::string& what) const;
 
     std::ostream& out_;
-    Session session_;
-    std::unique_ptr<HeadlessProgram> headless_;
+    headless::Session session_;
+    std::unique_ptr<headless::HeadlessProgram> headless_;
     Program* program_ = nullptr;
     bool started_ = false;
     int line_ = 0;
