@@ -31,6 +31,8 @@ public:
     int run(std::istream& script);
 
 private:
+    class Checks;  // the kinds of `expect`, in script_checks.cpp
+
     void execute(const std::vector<std::string>& words);
     void setUp(const std::vector<std::string>& words);
     void start();
