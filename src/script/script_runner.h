@@ -39,6 +39,8 @@ private:
     void ensureRoot();
     void prepareFile(const std::vector<std::string>& words);
     void act(const std::vector<std::string>& words);
+    void chooseMenuItem(const std::vector<std::string>& words);
+    void pressFrameButton(const std::vector<std::string>& words);
     void clickTab(Control& tabs, const std::string& which);
     void queueAnswer(const std::vector<std::string>& words);
     void check(const std::vector<std::string>& words);
