@@ -136,7 +136,7 @@ void ReadFile(benchmark::State& state) {
         state.SkipWithError(error.c_str());
         return;
     }
-    opened.bench.program->g.CurrentFileName = path.string();
+    opened.bench.program->g.document.currentFileName = path.string();
     for (auto _ : state) {
         const std::string title = readDataFile();
         if (title != "TF_W2") {

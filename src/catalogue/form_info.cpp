@@ -17,7 +17,7 @@ std::string GetFormInfo(const std::string& Section, const std::string& Key) {
         section = underscore == std::string::npos ? Section : Section.substr(underscore + 1);
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
-    return store::ReadINF(section, Key, "", program().g.FormsInfFile);
+    return store::ReadINF(section, Key, "", program().g.edition.formsInfFile);
 }
 
 namespace {
@@ -31,19 +31,19 @@ void keepNumber(const std::string& text, int& target) {
 
 void loadFormInfo() {
     Globals& g = program().g;
-    const std::string name = g.CurrentForm ? g.CurrentForm->name() : std::string();
-    g.FormTitle = GetFormInfo(name, "FormName");
-    g.RecordPrefix = GetFormInfo(name, "RecordPrefix");
-    g.SSNIndex = GetFormInfo(name, "SSNIndex");
-    g.NameAddrIndex = GetFormInfo(name, "NameAddrIndex");
-    g.NameOnlyIndex = GetFormInfo(name, "NameOnlyIndex");
-    g.DOBIndex = GetFormInfo(name, "DOBIndex");
-    g.MedicareClaimNoIndex = GetFormInfo(name, "MedicareClaimNoIndex");
-    g.MedicareNoIndex = GetFormInfo(name, "MedicareNoIndex");
-    g.EINIndex = GetFormInfo(name, "EINIndex");
-    g.OtherInfo = GetFormInfo(name, "OtherInfo");
-    keepNumber(GetFormInfo(name, "FocusOnStartup"), g.FocusOnStartup);
-    keepNumber(GetFormInfo(name, "FocusAfterTPButton"), g.FocusAfterTPButton);
+    const std::string name = g.document.currentForm ? g.document.currentForm->name() : std::string();
+    g.document.catalogue.formTitle = GetFormInfo(name, "FormName");
+    g.document.catalogue.recordPrefix = GetFormInfo(name, "RecordPrefix");
+    g.document.catalogue.ssnIndex = GetFormInfo(name, "SSNIndex");
+    g.document.catalogue.nameAddrIndex = GetFormInfo(name, "NameAddrIndex");
+    g.document.catalogue.nameOnlyIndex = GetFormInfo(name, "NameOnlyIndex");
+    g.document.catalogue.dobIndex = GetFormInfo(name, "DOBIndex");
+    g.document.catalogue.medicareClaimNoIndex = GetFormInfo(name, "MedicareClaimNoIndex");
+    g.document.catalogue.medicareNoIndex = GetFormInfo(name, "MedicareNoIndex");
+    g.document.catalogue.einIndex = GetFormInfo(name, "EINIndex");
+    g.document.catalogue.otherInfo = GetFormInfo(name, "OtherInfo");
+    keepNumber(GetFormInfo(name, "FocusOnStartup"), g.document.catalogue.focusOnStartup);
+    keepNumber(GetFormInfo(name, "FocusAfterTPButton"), g.document.catalogue.focusAfterTaxpayerButton);
 }
 
 }  // namespace lw

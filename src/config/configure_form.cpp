@@ -86,7 +86,7 @@ void ConfigureForm::loadForm() {
     }
     Frame1.height = lblNote.height;
 
-    const std::string& extension = g().FileExtension;
+    const std::string& extension = g().edition.fileExtension;
     FileNameFormats = {
         "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
         "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
@@ -185,7 +185,7 @@ void ConfigureForm::onClick(Control& control, MouseButton) {
 
 void ConfigureForm::onPrinterChosen() {
     runGuarded("F1_Configure:cbxPrinters_Click", [this] {
-        g().PrinterName = cbxPrinters.text;
+        g().choices.printerName = cbxPrinters.text;
         writeUserInf("Printer", cbxPrinters.text);
     });
 }
@@ -193,7 +193,7 @@ void ConfigureForm::onPrinterChosen() {
 void ConfigureForm::onFileNameOption(int Index) {
     runGuarded("F1_Configure:optFileName_Click", [this, Index] {
         writeUserInf("FileNameFmt", std::to_string(Index));
-        g().FileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
+        g().choices.fileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
     });
 }
 

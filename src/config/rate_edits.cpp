@@ -125,7 +125,7 @@ bool ratesInForce() {
 
 Form& configureFormInUse() {
     if (Form* loaded = program().desktop.findForm("F1_Configure")) return *loaded;
-    Form* current = program().g.CurrentForm;
+    Form* current = program().g.document.currentForm;
     if (!current) throw AppError(err::kObjectRequired, "Object required: F1_Configure");
     return *current;
 }

@@ -22,7 +22,7 @@ std::string formYear(const Form& form) {
 }
 
 std::string readRate(const std::string& year, const char* key) {
-    return store::ReadINF(year, key, "", g().SSMCInfFile);
+    return store::ReadINF(year, key, "", g().edition.ssmcInfFile);
 }
 
 // The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
@@ -45,7 +45,7 @@ std::string padLeft(const std::string& text, std::size_t width) {
 
 void loadRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
-        Form& form = *g().CurrentForm;
+        Form& form = *g().document.currentForm;
         const std::string year = formYear(form);
         g().SSRate = readRate(year, "SSRate");
         g().SSMax = readRate(year, "SSMax");
@@ -77,7 +77,7 @@ void storeRates() {
         const std::string year = formYear(form);
         if (!validateAllRates(form)) return;
         auto write = [&](const char* key, const std::string& value, std::string& global) {
-            store::SaveINF(year, key, value, g().SSMCInfFile);
+            store::SaveINF(year, key, value, g().edition.ssmcInfFile);
             global = value;
         };
         write("SSRate", form.at("txtSSRate").text, g().SSRate);
@@ -129,7 +129,7 @@ void offerToSaveChangedRates() {
                 "Yes")
                 storeRates();
         }
-        if (g().bQuitting) program().ui.quit();
+        if (g().process.quitting) program().ui.quit();
     });
 }
 

@@ -45,14 +45,15 @@ std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
         const bool save = SaveMode != 0;
         const std::string key = save ? "LastSaveFolder" : "LastOpenFolder";
         std::string startFolder = readUserInf(key);
-        if (startFolder.empty()) startFolder = store::ReadINF("TaxForms", "Folder", "", g.UserInfFile);
+        if (startFolder.empty())
+            startFolder = store::ReadINF("TaxForms", "Folder", "", g.edition.userInfFile);
 
         FileDialogRequest request;
         request.save = save;
         request.title = save ? kSaveTitle : kOpenTitle;
         request.startFolder = startFolder;
         if (save) request.proposedName = beforeNul(FileName).substr(0, kOfferedName);
-        putFilter(g.FileFilter, request);
+        putFilter(g.edition.fileFilter, request);
 
         std::optional<std::string> answer = program().ui.fileDialog(request);
         if (!answer) return std::string(1, text::kFieldSeparator);
@@ -60,7 +61,7 @@ std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
         const std::string folder = folderOf(path);
         if (folder != startFolder) {
             writeUserInf(key, folder);
-            (save ? g.LastSaveFolder : g.LastOpenFolder) = folder;
+            (save ? g.choices.lastSaveFolder : g.choices.lastOpenFolder) = folder;
         }
         return path;
     });
@@ -76,9 +77,9 @@ void verifyRememberedFolder(const std::string& sKind) {
         else
             throw AppError(900, "Program Error", "M3_Ledgerwick:Verify_INF_Entry");
         const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.UserNameUC, key, "", g.UserInfFile);
+        const std::string folder = store::ReadINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.UserNameUC, key, "", g.UserInfFile);
+        if (!folderExists(folder)) store::SaveINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
     });
 }
 

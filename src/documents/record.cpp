@@ -73,7 +73,7 @@ int chosenPictureOf(Form& form, int which) {
 // The ages of the taxpayer sheet follow the birth dates just read; only the sheet has them.
 void fillAges() {
     Form* sheet = program().desktop.findForm("F5_TPInfo");
-    if (!sheet || sheet != g().CurrentForm) return;
+    if (!sheet || sheet != g().document.currentForm) return;
     UpdateAllAges(*sheet);
 }
 
@@ -82,20 +82,20 @@ void fillAges() {
 std::string buildRecord() {
     std::string line;
     runGuarded(kBuildLabel, [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
         if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
-        if (g().FormKey == "SS_ITIN") {
+        if (g().document.formKey == "SS_ITIN") {
             line = kCardsError;
             checkCardPairs(*form);
         }
         std::vector<store::RecordField> fields = filledControls(*form);
-        if (g().FormKey == "DL") {
+        if (g().document.formKey == "DL") {
             fields.push_back({"PIC1", std::to_string(chosenPictureOf(*form, 1))});
             fields.push_back({"PIC2", std::to_string(chosenPictureOf(*form, 2))});
         }
-        line = store::buildRecordLine(g().RecordPrefix, year, fields);
+        line = store::buildRecordLine(g().document.catalogue.recordPrefix, year, fields);
     });
     return line;
 }
@@ -103,7 +103,7 @@ std::string buildRecord() {
 void openDataFile() {
     runGuarded(kOpenLabel, [] {
         try {
-            if (Form* current = g().CurrentForm; current && current->isLoaded() && current->isChild)
+            if (Form* current = g().document.currentForm; current && current->isLoaded() && current->isChild)
                 current->unload();
         } catch (const ProgramEnded&) {
             throw;
@@ -112,8 +112,8 @@ void openDataFile() {
         }
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder("OPEN");
-        g().CurrentFileName = OpenOrSaveFile(0, "");
-        if (g().CurrentFileName == kCancel) return;
+        g().document.currentFileName = OpenOrSaveFile(0, "");
+        if (g().document.currentFileName == kCancel) return;
         readDataFile();
         fillAges();
         program().ui.refresh();

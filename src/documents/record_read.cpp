@@ -90,7 +90,7 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
     if (!form)
         throw AppError(kNoSuchForm, "The form " + formName + " of the file " + path + " cannot be opened.",
                        kReadLabel);
-    g().CurrentForm = form;
+    g().document.currentForm = form;
     return *form;
 }
 
@@ -105,7 +105,8 @@ int portraitNamedBy(const std::string& value) {
 
 void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
     const int number = portraitNamedBy(value);
-    form.at(pictureBox).picture = number > 0 ? portraitFile(g().PicturesFolder, number) : std::string();
+    form.at(pictureBox).picture =
+        number > 0 ? portraitFile(g().edition.picturesFolder, number) : std::string();
     if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = number;
 }
 
@@ -173,7 +174,7 @@ void showCardPictures(Form& cards) {
         const Control& c = *owned;
         if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
         cards.at("Image1", c.index / 2).picture =
-            joinPath(g().PicturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+            joinPath(g().edition.picturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
     }
 }
 
@@ -187,7 +188,7 @@ std::string readDataFile() {
     std::vector<std::string> fields;
     // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
     runGuarded(kReadLabel, [&] {
-        const std::string path = g().CurrentFileName;
+        const std::string path = g().document.currentFileName;
         if (path.empty()) return;
         std::string line = store::withCheckKeys(readRecordLine(path));
         for (int pass = 0; pass < 2; ++pass) {
@@ -221,11 +222,11 @@ std::string readDataFile() {
     // and said so there, the operator reads the path of the file just opened.
     if (Control* status = form->find("labelMisc"); status && status->caption.empty()) {
         status->foreColor = kRed;
-        status->caption = g().CurrentFileName;
+        status->caption = g().document.currentFileName;
     }
     if (form->name() == "F5_TPInfo") refreshTaxpayerStore(*form);
     if (form->name() == "F2_SS_ITIN") showCardPictures(*form);
-    return g().FormTitle;
+    return g().document.catalogue.formTitle;
 }
 
 }  // namespace lw

@@ -229,8 +229,9 @@ void SaveForm::onSave() {
             return;
         }
         // A rename: the record goes under the new name first, so a failed write leaves the old file whole.
-        g().FormRecord = buildRecord();
-        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().FormRecord, kSaveLabel)) return;
+        g().document.formRecord = buildRecord();
+        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().document.formRecord, kSaveLabel))
+            return;
         const std::string old = pathOf(F7_Folder, F7_BaseName, Text2.text);
         std::error_code ec;
         std::filesystem::remove(old, ec);
@@ -277,7 +278,7 @@ void SaveForm::onNewSequence() {
             setFocus(Text1);
             return;
         }
-        if (!writeRecord(target, g().FormRecord, kSequenceLabel)) return;
+        if (!writeRecord(target, g().document.formRecord, kSequenceLabel)) return;
         g().SaveResult = kSaveResultDone;
         unload();
     });

@@ -36,7 +36,7 @@ Globals& g() { return program().g; }
 
 // CurrentForm outlives the form it names: only a form still on the desktop counts.
 Form* loadedCurrentForm() {
-    Form* current = g().CurrentForm;
+    Form* current = g().document.currentForm;
     if (!current) return nullptr;
     const std::vector<Form*> forms = program().desktop.forms();
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
@@ -93,11 +93,11 @@ const K1Rule& k1Rule(const std::string& formKey, bool numberMissing) {
 
 // A K-1 needs its number and its name, number first. Returns false, having shown where, when one is blank.
 bool k1RequiredFieldsFilled(Form& form, int& FocusIndex) {
-    const std::optional<int> number = firstIndex(g().SSNIndex);
-    const std::optional<int> name = firstIndex(g().NameAddrIndex);
+    const std::optional<int> number = firstIndex(g().document.catalogue.ssnIndex);
+    const std::optional<int> name = firstIndex(g().document.catalogue.nameAddrIndex);
     for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
         if (!index || !fieldText(form, *index).empty()) continue;
-        const K1Rule& rule = k1Rule(g().FormKey, numberMissing);
+        const K1Rule& rule = k1Rule(g().document.formKey, numberMissing);
         MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
         if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
         // saveDataFile's last step focuses FocusIndex: it must land on the same field.
@@ -139,41 +139,41 @@ std::string buildFileName(int& FocusIndex) {
     Form* found = loadedCurrentForm();
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
     Form& form = *found;
-    const std::string formKey = g().FormKey;
+    const std::string formKey = g().document.formKey;
 
     if (formKey == "SS_ITIN") {
         std::string name = "SS_ITIN_" + fieldText(form, 1);
         if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
-        g().FormRecord = buildRecord();
+        g().document.formRecord = buildRecord();
         return safeFileName(name + "_000");
     }
 
     if (isK1(formKey) && !k1RequiredFieldsFilled(form, FocusIndex)) return kK1Error;
 
     std::string other;
-    if (text::isNumeric(g().OtherInfo)) {
-        other = fieldText(form, static_cast<int>(*text::toDouble(g().OtherInfo)));
+    if (text::isNumeric(g().document.catalogue.otherInfo)) {
+        other = fieldText(form, static_cast<int>(*text::toDouble(g().document.catalogue.otherInfo)));
         other = other.substr(0, other.find('\r'));
     }
 
     FocusIndex = 0;
     validateActiveControl(form);
-    g().FormRecord = buildRecord();
+    g().document.formRecord = buildRecord();
 
     std::string name;
     if (formKey == "SSA1099") {
         name = fieldText(form, 0);
-    } else if (const std::optional<int> nameIndex = firstIndex(g().NameAddrIndex)) {
+    } else if (const std::optional<int> nameIndex = firstIndex(g().document.catalogue.nameAddrIndex)) {
         name = fieldText(form, *nameIndex);
         if (other == name) other.clear();
     }
     if (name.empty()) raiseDataError(800, "Name is MANDATORY", kNameLabel);
 
-    std::string fileName =
-        g().FileNameFormat.empty() ? kFirstTemplate + g().FileExtension : g().FileNameFormat;
+    std::string fileName = g().choices.fileNameFormat.empty() ? kFirstTemplate + g().edition.fileExtension
+                                                              : g().choices.fileNameFormat;
     fileName = replaceNoCase(fileName, "<FORM>", formKey);
 
-    if (const std::optional<int> numberIndex = firstIndex(g().SSNIndex)) {
+    if (const std::optional<int> numberIndex = firstIndex(g().document.catalogue.ssnIndex)) {
         if (fieldText(form, *numberIndex).empty()) {
             FocusIndex = *numberIndex;
             raiseDataError(801, "Social Security/Taxpayer ID Number is MANDATORY", kNameLabel);
@@ -215,13 +215,14 @@ bool askAboutExistingFile(const std::string& path) {
 
 void saveFile(int& FocusIndex) {
     std::string name = proposeFileName(FocusIndex);
-    if (text::equalsNoCase(g().FormRecord, kCardsError) || text::equalsNoCase(name, kK1Error) || name.empty())
+    if (text::equalsNoCase(g().document.formRecord, kCardsError) || text::equalsNoCase(name, kK1Error) ||
+        name.empty())
         return;
 
-    const std::string& extension = g().FileExtension;
+    const std::string& extension = g().edition.fileExtension;
     name = replaceNoCase(name, extension, "") + extension;
 
-    std::string path = g().CurrentFileName;
+    std::string path = g().document.currentFileName;
     if (path.empty()) {
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder("SAVE");
@@ -232,9 +233,10 @@ void saveFile(int& FocusIndex) {
 
     if (fileExists(path) && !askAboutExistingFile(path)) return;
 
-    if (!writeRecord(path, g().FormRecord, kSaveLabel)) return;
+    if (!writeRecord(path, g().document.formRecord, kSaveLabel)) return;
 
-    if (text::startsWithNoCase(g().FormRecord, "TPINFO") && taxpayerStoreSave()) taxpayerStoreSave()();
+    if (text::startsWithNoCase(g().document.formRecord, "TPINFO") && taxpayerStoreSave())
+        taxpayerStoreSave()();
 
     if (Form* form = loadedCurrentForm()) {
         if (Control* status = form->find("labelMisc")) {

@@ -57,7 +57,7 @@ bool isMoneyTag(const std::string& tag) { return tag == "MONEY" || tag == "SMONE
 
 // The money tip of the 1095-A names its F12 copy, and only on the monthly amounts.
 void setMoneyTip(Control& ctl) {
-    if (!text::equalsNoCase(g().FormTitle, "TF_1095A")) {
+    if (!text::equalsNoCase(g().document.catalogue.formTitle, "TF_1095A")) {
         ctl.toolTipText = kMoneyTip;
         return;
     }
@@ -68,14 +68,15 @@ void setMoneyTip(Control& ctl) {
 
 }  // namespace
 
-Color legendColor(int index) { return g().LegendColors.at(static_cast<std::size_t>(index)); }
+Color legendColor(int index) { return g().edition.legendColors.at(static_cast<std::size_t>(index)); }
 
 void setUpControl(Control& ctl, bool bSetUp) {
     const std::string name = text::toUpper(ctl.name);
     if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
-        g().LastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
-        if (g().CurrentForm) {
-            if (Control* status = g().CurrentForm->find("labelMisc")) status->caption = ctl.toolTipText;
+        g().document.lastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
+        if (g().document.currentForm) {
+            if (Control* status = g().document.currentForm->find("labelMisc"))
+                status->caption = ctl.toolTipText;
         }
     }
     if (bSetUp)
@@ -93,7 +94,7 @@ void setUpAlignment(Control& ctl) {
         if (match) break;
     }
     if (!match) {
-        ctl.alignment = g().FormKey == "SS_ITIN" ? 2 : 0;
+        ctl.alignment = g().document.formKey == "SS_ITIN" ? 2 : 0;
     } else {
         if (match->alignment >= 0) ctl.alignment = match->alignment;
         if (match->maxLength > 0) ctl.maxLength = match->maxLength;
@@ -149,9 +150,9 @@ void setUpBackColor(Control& ctl) {
 
 void refocusAfterTaxpayerFill() {
     Globals& globals = g();
-    Form* form = globals.CurrentForm;
+    Form* form = globals.document.currentForm;
     if (!form) return;
-    const std::string key = globals.LastFieldKey;
+    const std::string key = globals.document.lastFieldKey;
     const std::size_t colon = key.find(':');
     const std::string name = colon == std::string::npos ? key : key.substr(0, colon);
     const int i = colon == std::string::npos ? 0 : std::stoi(key.substr(colon + 1));

@@ -20,7 +20,7 @@ bool editUnknownAmount(Control& ctl) {
 }
 
 std::string formTaxYear() {
-    const Form& form = *program().g.CurrentForm;
+    const Form& form = *program().g.document.currentForm;
     return form.at("TaxYear", 0).caption + form.at("TaxYear", 1).caption;
 }
 
@@ -35,7 +35,7 @@ bool editByTag(Control& ctl) {
     if (tag == "-MONEY") return editMoneyNegativeOk(ctl);
     if (tag == "DATE") return editDate(ctl, "");
     if (tag == "DATEX") {
-        if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
+        if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");
         return editDate(ctl, formTaxYear());
     }
     if (tag == "YEAR") return editYear(ctl);

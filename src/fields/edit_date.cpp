@@ -29,10 +29,11 @@ std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.s
 
 std::string formTaxYear() {
     const Globals& g = program().g;
-    const std::string key = g.FormKey;
-    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.CurrentForm)
+    const std::string key = g.document.formKey;
+    if (key == "DL" || key == "SS_ITIN" || key == "CHK" || !g.document.currentForm)
         return g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
-    return g.CurrentForm->at("TaxYear", 0).caption + g.CurrentForm->at("TaxYear", 1).caption;
+    return g.document.currentForm->at("TaxYear", 0).caption +
+           g.document.currentForm->at("TaxYear", 1).caption;
 }
 
 void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
@@ -83,7 +84,7 @@ bool editDate(Control& ctl, const std::string& sRequiredYear) {
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, 6, "");
-        if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
+        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }
     return result;

@@ -46,25 +46,32 @@ std::string benefitAmountText(Currency amount) { return text::formatCurrency(amo
 
 std::string benefitErrorMessage(const std::string& reason) {
     // The railroad statement shows the same words, naming the SSA1099 too.
-    return "SSA1099 - Error in Social Security Computations\r\n" + reason + "\r\nMake corrections before continuing.";
+    return "SSA1099 - Error in Social Security Computations\r\n" + reason +
+           "\r\nMake corrections before continuing.";
 }
 
 std::string ssaShortfallReason(SsaShortfall shortfall, const std::string& box3Caption) {
     switch (shortfall) {
-        case SsaShortfall::NetBenefits: return "Box 5. Net Benefits... is LESS THAN ZERO";
-        case SsaShortfall::PaidByCheck: return "Paid by Check or Direct Deposit is LESS THAN ZERO";
-        case SsaShortfall::BenefitsForYear: return box3Caption + " is LESS THAN ZERO";
-        case SsaShortfall::None: break;
+        case SsaShortfall::NetBenefits:
+            return "Box 5. Net Benefits... is LESS THAN ZERO";
+        case SsaShortfall::PaidByCheck:
+            return "Paid by Check or Direct Deposit is LESS THAN ZERO";
+        case SsaShortfall::BenefitsForYear:
+            return box3Caption + " is LESS THAN ZERO";
+        case SsaShortfall::None:
+            break;
     }
     return "";
 }
 
 std::string rrbShortfallReason(RrbShortfall shortfall) {
     switch (shortfall) {
-        case RrbShortfall::NetBenefits: return "Box 5. Net Benefits... is LESS THAN ZERO";
+        case RrbShortfall::NetBenefits:
+            return "Box 5. Net Benefits... is LESS THAN ZERO";
         case RrbShortfall::NetLessLaterBoxes:
             return "Box 5. Net Benefits MINUS total of\r\n--Boxes (7, 8, 9, 10 and 11)\r\nARE LESS THAN ZERO";
-        case RrbShortfall::None: break;
+        case RrbShortfall::None:
+            break;
     }
     return "";
 }
@@ -72,7 +79,7 @@ std::string rrbShortfallReason(RrbShortfall shortfall) {
 std::string partBPremiumOfYearInForce() {
     const Globals& g = program().g;
     const std::string& year = g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
-    return store::ReadINF(year, "MCPartBPremium", "", g.SSMCInfFile);
+    return store::ReadINF(year, "MCPartBPremium", "", g.edition.ssmcInfFile);
 }
 
 }  // namespace lw

@@ -41,7 +41,7 @@ void CardsForm::refuse(int& keyAscii, const std::string& message) {
 }
 
 void CardsForm::showCard(int Index, const char* pictureName) {
-    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.PicturesFolder, pictureName);
+    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
 }
 
 void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
@@ -49,7 +49,7 @@ void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); 
 void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (keyAscii == keys::kEnter) SendTabKey();
+    if (keyAscii == keys::kEnter) sendTabKey(*this);
     if (!isNumberField(ctl)) {
         if (keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 32;
         return;

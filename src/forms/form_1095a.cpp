@@ -59,7 +59,7 @@ void Form1095A::onValidate(Control& ctl, bool& Cancel) {
 void Form1095A::onText1KeyPress(int Index, int& keyAscii) {
     runGuarded("TF_1095A:Text1_KeyPress", [&] {
         if (keyAscii == keys::kEnter) {
-            SendTabKey();
+            sendTabKey(*this);
             keyAscii = 0;
             return;
         }

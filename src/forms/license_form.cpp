@@ -16,8 +16,8 @@ LicenseForm::LicenseForm() : TaxForm("F3_DL") {}
 void LicenseForm::onLoad() {
     TaxForm::onLoad();
     for (Control* portrait : arrayOf("picDL"))
-        portrait->picture = portraitFile(program().g.PicturesFolder, portrait->index + 1);
-    program().g.DL_HolidayList = kFixedHolidays;
+        portrait->picture = portraitFile(program().g.edition.picturesFolder, portrait->index + 1);
+    program().g.choices.holidayList = kFixedHolidays;
     buildLicenseHolidays();
 }
 

@@ -84,7 +84,7 @@ void TaxpayerSheetForm::onValidate(Control& ctl, bool& Cancel) {
     if (listContains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
-        for (const auto& row : program().g.PersonTable)
+        for (const auto& row : program().g.taxpayers.personTable)
             if (row[1] == index) UpdateAge(*this, row[1], row[2]);
     });
 }

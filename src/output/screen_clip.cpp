@@ -155,7 +155,7 @@ void paintAsPaper(Form& form, const std::string& key) {
                 break;
             case ControlKind::Label:
             case ControlKind::CheckLabel:
-                if (g().bDebug) c.backColor = kWhite;
+                if (g().process.debug) c.backColor = kWhite;
                 if (opaquePartLabels) {
                     c.opaque = c.name == "LabelPart";
                 } else if (key == "1099A") {
@@ -236,9 +236,9 @@ HalfAsPaper::~HalfAsPaper() {
 // Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
 bool clipScreen() {
     runGuarded("M5_ClipCode:Screen_Clip", [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
-        const std::string key = g().FormKey;
+        const std::string key = g().document.formKey;
         cutToDocument(*form, key);
         paintAsPaper(*form, key);
     });

@@ -343,10 +343,10 @@ std::string ScriptRunner::global(const std::string& name) const {
         std::string digits = name.substr(13, name.size() - 14);
         if (digits.size() != 1 || !std::isdigit(static_cast<unsigned char>(digits[0])))
             throw ScriptError("bad index in " + name);
-        return std::to_string(g.LegendColors[digits[0] - '0']);
+        return std::to_string(g.edition.legendColors[digits[0] - '0']);
     }
-    if (is("FormKey")) return utf8(g.FormKey);
-    if (is("CurrentFileName")) return utf8(g.CurrentFileName);
+    if (is("FormKey")) return utf8(g.document.formKey);
+    if (is("CurrentFileName")) return utf8(g.document.currentFileName);
     if (is("TaxYearIndex")) return std::to_string(g.TaxYearIndex);
     if (is("SSRate")) return utf8(g.SSRate);
     if (is("SSMax")) return utf8(g.SSMax);
@@ -356,31 +356,31 @@ std::string ScriptRunner::global(const std::string& name) const {
     if (is("MCPartBPremium")) return utf8(g.MCPartBPremium);
     if (is("MCPartBIncome")) return utf8(g.MCPartBIncome);
     if (is("FilingStatus")) return utf8(g.FilingStatus);
-    if (is("LastFieldKey")) return utf8(g.LastFieldKey);
-    if (is("UserNameUC")) return utf8(g.UserNameUC);
-    if (is("ComputerNameUC")) return utf8(g.ComputerNameUC);
-    if (is("UserInfFile")) return utf8(g.UserInfFile);
-    if (is("FormsInfFile")) return utf8(g.FormsInfFile);
-    if (is("SSMCInfFile")) return utf8(g.SSMCInfFile);
-    if (is("K1HelpInfFile")) return utf8(g.K1HelpInfFile);
-    if (is("PicturesFolder")) return utf8(g.PicturesFolder);
-    if (is("UserGuideFile")) return utf8(g.UserGuideFile);
-    if (is("FileExtension")) return utf8(g.FileExtension);
+    if (is("LastFieldKey")) return utf8(g.document.lastFieldKey);
+    if (is("UserNameUC")) return utf8(g.process.userNameUpper);
+    if (is("ComputerNameUC")) return utf8(g.process.computerNameUpper);
+    if (is("UserInfFile")) return utf8(g.edition.userInfFile);
+    if (is("FormsInfFile")) return utf8(g.edition.formsInfFile);
+    if (is("SSMCInfFile")) return utf8(g.edition.ssmcInfFile);
+    if (is("K1HelpInfFile")) return utf8(g.edition.k1HelpInfFile);
+    if (is("PicturesFolder")) return utf8(g.edition.picturesFolder);
+    if (is("UserGuideFile")) return utf8(g.edition.userGuideFile);
+    if (is("FileExtension")) return utf8(g.edition.fileExtension);
     if (is("FileFilter")) {
-        std::string shown = g.FileFilter;
+        std::string shown = g.edition.fileFilter;
         for (char& c : shown)
             if (c == '\0') c = '|';
         return utf8(shown);
     }
-    if (is("LastOpenFolder")) return utf8(g.LastOpenFolder);
-    if (is("LastSaveFolder")) return utf8(g.LastSaveFolder);
-    if (is("bDebug")) return flag(g.bDebug);
-    if (is("bStartup")) return flag(g.bStartup);
-    if (is("bQuitting")) return flag(g.bQuitting);
-    if (is("CommandWords")) return utf8(g.CommandWords);
-    if (is("FormRecord")) return utf8(g.FormRecord);
+    if (is("LastOpenFolder")) return utf8(g.choices.lastOpenFolder);
+    if (is("LastSaveFolder")) return utf8(g.choices.lastSaveFolder);
+    if (is("bDebug")) return flag(g.process.debug);
+    if (is("bStartup")) return flag(g.process.starting);
+    if (is("bQuitting")) return flag(g.process.quitting);
+    if (is("CommandWords")) return utf8(g.process.commandWords);
+    if (is("FormRecord")) return utf8(g.document.formRecord);
     if (is("SaveResult")) return utf8(g.SaveResult);
-    if (is("CurrentForm")) return g.CurrentForm ? g.CurrentForm->name() : "";
+    if (is("CurrentForm")) return g.document.currentForm ? g.document.currentForm->name() : "";
     if (auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame())) {
         if (is("VersionMajor")) return frame->VersionMajor;
         if (is("VersionFull")) return frame->VersionFull;

@@ -62,10 +62,10 @@ void restoreK1Design(Form& form) {
             (tags ? field->tag : field->text) = values[i];
         }
     };
-    restore("Text2", kept.K1Text2, false);
-    restore("Text3", kept.K1Tag3, true);
-    restore("Text4", kept.K1Text4, false);
-    restore("Text5", kept.K1Tag5, true);
+    restore("Text2", kept.document.k1Design.text2, false);
+    restore("Text3", kept.document.k1Design.tag3, true);
+    restore("Text4", kept.document.k1Design.text4, false);
+    restore("Text5", kept.document.k1Design.tag5, true);
 }
 
 // A frame's inner width: what the child area offers beside the command panel.
@@ -124,7 +124,7 @@ std::string withLineBreaks(const std::string& caption) {
 }  // namespace
 
 void initCatalogueForm(Form& frm) {
-    g().CurrentForm = &frm;
+    g().document.currentForm = &frm;
     loadFormInfo();
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
     resetFormLook();
@@ -133,9 +133,9 @@ void initCatalogueForm(Form& frm) {
 
 void resetFormLook() {
     runGuarded("M3_Ledgerwick:Form_Init_Reset", [] {
-        Form& form = *g().CurrentForm;
+        Form& form = *g().document.currentForm;
         const std::string key = formKeyOf(form.name());
-        g().FormKey = key;
+        g().document.formKey = key;
         form.backColor = kButtonFace;
         if (key == "TPINFO") {
             form.height = frameInnerHeight();
@@ -196,8 +196,8 @@ void resetFormLook() {
 void writeYearCaptions() {
     runGuarded("M3_Ledgerwick:Form_Init_Captions", [] {
         const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-        if (year.empty() || !g().CurrentForm) return;
-        Form& form = *g().CurrentForm;
+        if (year.empty() || !g().document.currentForm) return;
+        Form& form = *g().document.currentForm;
         for (const auto& owned : form.controls()) {
             Control& c = *owned;
             if (!isLabel(c)) continue;
@@ -233,7 +233,7 @@ void sizeBorderToControls(Control& myBorder) {
 }
 
 bool formHasTaxYear() {
-    const std::string& key = g().FormKey;
+    const std::string& key = g().document.formKey;
     return key != "DL" && key != "SS_ITIN" && key != "CHK";
 }
 
@@ -241,14 +241,14 @@ void placeInFrame(Form& frm) {
     runGuarded("M3_Ledgerwick:Form_Position", [&] {
         Desktop& desktop = program().desktop;
         for (Form* open : desktop.forms()) {
-            if (open->name() == "F1_Configure" && !g().bStartup && !ratesOfConfigureFormPass(*open)) {
+            if (open->name() == "F1_Configure" && !g().process.starting && !ratesOfConfigureFormPass(*open)) {
                 // A bad rate keeps the configuration form on the screen; the new form does not open, and
                 // the shared procedures work on the configuration form again, with its own catalogue values.
                 if (open != &frm) {
                     desktop.unload(frm);
                     desktop.activate(*open);
-                    g().CurrentForm = open;
-                    g().FormKey = formKeyOf(open->name());
+                    g().document.currentForm = open;
+                    g().document.formKey = formKeyOf(open->name());
                     loadFormInfo();
                 }
                 return;
@@ -261,7 +261,7 @@ void placeInFrame(Form& frm) {
         // The form shows, and so activates, when it is placed and dated.
         desktop.activate(frm);
         if (!text::containsNoCase(frm.name(), "Configure"))
-            frm.setFocus(frm.at("Text1", g().FocusOnStartup));
+            frm.setFocus(frm.at("Text1", g().document.catalogue.focusOnStartup));
         else
             frm.setFocus(frm.at("cbxPrinters"));
     });
@@ -292,7 +292,7 @@ void changeTaxYear(Form& frm) {
 }
 
 void recheckYearDates() {
-    Form* form = g().CurrentForm;
+    Form* form = g().document.currentForm;
     if (!form) return;
     for (const auto& owned : form->controls()) {
         Control& c = *owned;
@@ -308,7 +308,7 @@ void recheckYearDates() {
 
 void clearForm() {
     runGuarded("M3_Ledgerwick:Form_Clear", [] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
         for (const auto& owned : form->controls()) {
             Control& c = *owned;
@@ -318,14 +318,14 @@ void clearForm() {
                 (text::equalsNoCase(c.name, "Picture2") || text::equalsNoCase(c.name, "Picture4")))
                 c.picture.clear();
         }
-        if (isK1(g().FormKey)) restoreK1Design(*form);
+        if (isK1(g().document.formKey)) restoreK1Design(*form);
         if (auto* catalogueForm = dynamic_cast<CatalogueForm*>(form)) catalogueForm->refillAfterClear();
     });
     // The form may have no status line: the rest goes on regardless.
-    if (Form* form = g().CurrentForm) {
+    if (Form* form = g().document.currentForm) {
         if (Control* status = form->find("labelMisc")) status->caption.clear();
     }
-    g().CurrentFileName.clear();
+    g().document.currentFileName.clear();
 }
 
 void toggleCheck(Control& chk) { chk.caption = chk.caption.empty() ? "X" : ""; }

@@ -42,7 +42,7 @@ void checkRatesBeforeEnding() {
 
 void quitProgram() {
     if (hasChildForms()) {
-        g().bQuitting = true;
+        g().process.quitting = true;
         checkRatesBeforeEnding();
     }
     program().ui.quit();
@@ -57,9 +57,9 @@ bool outputBlocked(Form& active) {
     auto* form = dynamic_cast<CatalogueForm*>(&active);
     if (!form) return false;
     const char* text = nullptr;
-    if (g().FormKey == "SSA1099" && form->ssaError)
+    if (g().document.formKey == "SSA1099" && form->ssaError)
         text = "Error On SSA1099 Form, Correct Before Saving, Printing or Clipping";
-    if (g().FormKey == "RRB1099" && form->rrbError)
+    if (g().document.formKey == "RRB1099" && form->rrbError)
         text = "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping";
     if (!text) return false;
     MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
@@ -75,7 +75,7 @@ bool allFieldsStand(Form& form) {
 }
 
 void runOutputCommand(const std::string& pressed, Form& active) {
-    const bool configure = g().FormKey == "CONFIGURE";
+    const bool configure = g().document.formKey == "CONFIGURE";
     if (pressed == "SAVE") {
         if (!allFieldsStand(active)) return;
         if (configure) {
@@ -113,12 +113,12 @@ void onFrameButton(FrameForm& frame, Control& button) {
             return;
         }
         if (pressed == "CONFIGURE") {
-            g().CurrentFileName.clear();
+            g().document.currentFileName.clear();
             openCatalogueForm("F1_Configure");
         }
         Form* active = program().desktop.activeChild();
         if (!active) throw AppError(800, kNoFormMessage, "F0_MDI:cmdBtn_Click");
-        const std::string key = g().FormKey;
+        const std::string key = g().document.formKey;
         if (pressed == "LOAD TP 1" || pressed == "LOAD TP 2") {
             if (key == "CONFIGURE" || key == "TPINFO") return;
             if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
@@ -127,7 +127,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             clearForm();
             focusFirstField(*active);
         } else if (pressed == "CLOSE") {
-            g().CurrentFileName.clear();
+            g().document.currentFileName.clear();
             active->unload();
             return;
         } else if (pressed == "CHANGE TAX YR") {
@@ -143,13 +143,13 @@ void onFrameButton(FrameForm& frame, Control& button) {
             logError("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number,
                      fault.description);
         if (fault.number == 343) return;
-        if (g().bDebug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
+        if (g().process.debug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
         logError("F0_MDI:cmdBtn_Click", fault.number, fault.description);
     }
 }
 
 void onLegendClick(FrameForm& frame) {
-    if (!text::containsNoCase(g().CommandWords, "taskbar")) return;
+    if (!text::containsNoCase(g().process.commandWords, "taskbar")) return;
     if (frame.bTaskbarHidden)
         showTaskbar(frame);
     else
@@ -159,7 +159,7 @@ void onLegendClick(FrameForm& frame) {
 // The menu's Clear differs from the button's: it works on CurrentForm, and on the configuration form
 // it only moves the focus.
 void onMenuClear() {
-    Form* current = g().CurrentForm;
+    Form* current = g().document.currentForm;
     if (!current || current->name().empty()) return;
     if (current->name() == "F1_Configure") {
         current->setFocus(current->at("txtSSRate"));
@@ -194,7 +194,7 @@ void FrameForm::onMenu(const std::string& itemName) {
     runGuarded("F0_MDI:mnu_Click", [&] {
         for (const MenuEntry& entry : menuTable()) {
             if (entry.opensForm[0] != '\0' && text::equalsNoCase(entry.item, itemName)) {
-                g().CurrentFileName.clear();
+                g().document.currentFileName.clear();
                 openCatalogueForm(entry.opensForm);
                 return;
             }
@@ -215,15 +215,15 @@ void FrameForm::onMenu(const std::string& itemName) {
         } else if (is("mnuControlClip")) {
             if (hooks().mdiClip) hooks().mdiClip();
         } else if (is("mnuControlGuide")) {
-            if (!program().ui.openDocument(g().UserGuideFile))
-                throw AppError(900, "(2) Error encountered opening " + g().UserGuideFile,
+            if (!program().ui.openDocument(g().edition.userGuideFile))
+                throw AppError(900, "(2) Error encountered opening " + g().edition.userGuideFile,
                                "F0_MDI:mnuControlGuide_Click");
         }
     });
 }
 
 void FrameForm::onQueryUnload(bool&) {
-    g().bQuitting = true;
+    g().process.quitting = true;
     checkRatesBeforeEnding();
 }
 

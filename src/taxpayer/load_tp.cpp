@@ -38,8 +38,8 @@ int firstIndexOf(const std::string& list) {
 
 // The general fill: the block to the first name field, the number to the first number field.
 void fillGeneral(Form& form, const TPInfoRec& A) {
-    const int nameIndex = firstIndexOf(g().NameAddrIndex);
-    const int numberIndex = firstIndexOf(g().SSNIndex);
+    const int nameIndex = firstIndexOf(g().document.catalogue.nameAddrIndex);
+    const int numberIndex = firstIndexOf(g().document.catalogue.ssnIndex);
     if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.NameAddr;
     if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.SSN;
 }
@@ -99,16 +99,16 @@ void showOtherHalfAWhile(Form& form, const std::string& prefix) {
 
 void readTaxpayers(const std::string& Who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
-        readPerson("TP1", g().TP1Info);
-        readPerson("TP2", g().TP2Info);
+        readPerson("TP1", g().taxpayers.taxpayer1);
+        readPerson("TP2", g().taxpayers.taxpayer2);
         const bool second = Who == "TP 2";
-        const TPInfoRec& A = second ? g().TP2Info : g().TP1Info;
-        const TPInfoRec& B = second ? g().TP1Info : g().TP2Info;
-        fillByPrefix(*form, text::toLower(g().RecordPrefix), Who, A, B);
+        const TPInfoRec& A = second ? g().taxpayers.taxpayer2 : g().taxpayers.taxpayer1;
+        const TPInfoRec& B = second ? g().taxpayers.taxpayer1 : g().taxpayers.taxpayer2;
+        fillByPrefix(*form, text::toLower(g().document.catalogue.recordPrefix), Who, A, B);
 
-        const std::string prefix = text::toUpper(g().RecordPrefix);
+        const std::string prefix = text::toUpper(g().document.catalogue.recordPrefix);
         if (prefix == "RRB") {
             // The lower statement repeats the payee's number; the focus stays where it is.
             form->at("Text1", 15).text = form->at("Text1", 2).text;

@@ -56,7 +56,7 @@ void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeI
 
 void UpdateAllAges(Form& sheet) {
     // A row that cannot be aged leaves the others to be aged all the same.
-    for (const auto& row : g().PersonTable)
+    for (const auto& row : g().taxpayers.personTable)
         runGuarded("F5_TPInfo:UpdateAge", [&] { UpdateAge(sheet, row[1], row[2]); });
 }
 
@@ -64,7 +64,7 @@ void saveTaxpayerSheet() {
     runGuarded("M6_TPInfo:TPInfo_Save", [] {
         std::string fields[6];
         const std::vector<std::string> pieces =
-            text::split(g().FormRecord, std::string(1, text::kFieldSeparator));
+            text::split(g().document.formRecord, std::string(1, text::kFieldSeparator));
         for (std::size_t i = 2; i < pieces.size(); ++i) {
             const std::string head = text::toUpper(pieces[i].substr(0, 5));
             for (int k = 0; k < 6; ++k)
@@ -76,7 +76,7 @@ void saveTaxpayerSheet() {
         writeUserInf("TP2NameAddr", fields[3]);
         writeUserInf("TP2SSN", fields[4]);
         writeUserInf("TP2DOB", fields[5]);
-        Form* sheet = g().CurrentForm;
+        Form* sheet = g().document.currentForm;
         if (!sheet) return;
         for (int i = 6, k = 1; i <= 30; i += 4, ++k) {
             const std::string& name = sheet->at("Text1", i).text;

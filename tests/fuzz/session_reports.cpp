@@ -43,13 +43,13 @@ std::vector<std::string> splitAt(const std::string& text, char separator) {
 // The form the operator works on: the active child, else the form the shared procedures work on.
 const Form* formAtHand() {
     if (const Form* active = program().desktop.activeChild()) return active;
-    const Form* current = program().g.CurrentForm;
+    const Form* current = program().g.document.currentForm;
     const auto forms = program().desktop.forms();
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
 }
 
 std::string userStoreValue(const std::string& key) {
-    return store::ReadINF(program().g.UserNameUC, key, "", program().g.UserInfFile);
+    return store::ReadINF(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
 }
 
 // The key fields of the first line of a data file, as the file now stands: fields 2 and on.
@@ -92,8 +92,8 @@ const std::map<std::string, Rule>& rules() {
     static const std::map<std::string, Rule> all = {
         {"k1-line-with-fewer-than-three-parts",
          [](const ShownReport&, const SessionFacts&) {
-             const auto lines = store::ReadINFSection(k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile,
-                                                      kK1HelpSectionBuffer);
+             const auto lines = store::ReadINFSection(
+                 k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
              return std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
                  return std::count(line.begin(), line.end(), '|') < 2;
              });

@@ -57,8 +57,8 @@ TEST_F(ConfigureFormTest, ARememberedYearOutOfTheWindowShowsItsDigitsAndIsOverwr
 TEST_F(ConfigureFormTest, LoadStartsFromSingleAndWritesTheChangePointIntoTheCaptions) {
     open();
     EXPECT_EQ(g().FilingStatus, "Single");
-    EXPECT_EQ(g().CurrentForm, form);
-    EXPECT_EQ(g().FormKey, "CONFIGURE");
+    EXPECT_EQ(g().document.currentForm, form);
+    EXPECT_EQ(g().document.formKey, "CONFIGURE");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "200,000.00");
     EXPECT_EQ(form->lblMC[0]->caption, "Withholding Rate on Wages up to 200,000.00");
     EXPECT_EQ(form->lblMC[1]->caption, "Wages at Which Medicare Withholding Rate Changes:");
@@ -74,7 +74,7 @@ TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
     owned->lblMC[0]->caption = "up to <<InitRate>> and <<initrate>>";
     owned->lblMC[2]->caption = "over <<wage>>:";
     owned->TaxYear1.caption = "25";
-    g().CurrentForm = owned.get();
+    g().document.currentForm = owned.get();
     g().FilingStatus = "MFS";
     configureFormCommonInit(*owned);
     EXPECT_EQ(owned->lblMC[0]->caption, "up to 125,000.00 and 125,000.00");
@@ -156,7 +156,7 @@ TEST_F(ConfigureFormTest, NoRememberedTemplateTakesTheFirst) {
     open();
     EXPECT_TRUE(form->optFileName[0]->value);
     EXPECT_EQ(userInf("FileNameFmt"), "0");
-    EXPECT_EQ(g().FileNameFormat, "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, TheRememberedTemplateIsChosenAgain) {
@@ -164,7 +164,7 @@ TEST_F(ConfigureFormTest, TheRememberedTemplateIsChosenAgain) {
     open();
     EXPECT_FALSE(form->optFileName[0]->value);
     EXPECT_TRUE(form->optFileName[2]->value);
-    EXPECT_EQ(g().FileNameFormat, "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, ATemplateNumberWithNoOptionIsReportedByLoad) {
@@ -182,7 +182,7 @@ TEST_F(ConfigureFormTest, ClickingATemplateRemembersIt) {
     EXPECT_TRUE(form->optFileName[3]->value);
     EXPECT_FALSE(form->optFileName[0]->value);
     EXPECT_EQ(userInf("FileNameFmt"), "3");
-    EXPECT_EQ(g().FileNameFormat, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, ThePrintersComeDefaultFirstAndEachOnce) {
@@ -195,7 +195,7 @@ TEST_F(ConfigureFormTest, ThePrintersComeDefaultFirstAndEachOnce) {
     EXPECT_EQ(form->cbxPrinters.selStart(), 0);
     EXPECT_EQ(form->cbxPrinters.selLength(), 6);
     EXPECT_EQ(userInf("Printer"), "Office");
-    EXPECT_EQ(g().PrinterName, "Office");
+    EXPECT_EQ(g().choices.printerName, "Office");
 }
 
 TEST_F(ConfigureFormTest, TheRememberedPrinterIsSelected) {
@@ -203,7 +203,7 @@ TEST_F(ConfigureFormTest, TheRememberedPrinterIsSelected) {
     setUserInf("Printer", "Front");
     open();
     EXPECT_EQ(form->cbxPrinters.listIndex, 2);
-    EXPECT_EQ(g().PrinterName, "Front");
+    EXPECT_EQ(g().choices.printerName, "Front");
     EXPECT_EQ(userInf("Printer"), "Front");
 }
 
@@ -212,7 +212,7 @@ TEST_F(ConfigureFormTest, ARememberedPrinterThatIsGoneSelectsNothing) {
     setUserInf("Printer", "front");
     open();
     EXPECT_EQ(form->cbxPrinters.listIndex, -1);
-    EXPECT_EQ(g().PrinterName, "");
+    EXPECT_EQ(g().choices.printerName, "");
     EXPECT_EQ(userInf("Printer"), "front");
 }
 
@@ -221,7 +221,7 @@ TEST_F(ConfigureFormTest, WithNoPrintersTheListIsEmptyAndPrinterStaysEmpty) {
     EXPECT_TRUE(form->cbxPrinters.items.empty());
     EXPECT_EQ(form->cbxPrinters.listIndex, -1);
     EXPECT_EQ(userInf("Printer"), "");
-    EXPECT_EQ(g().PrinterName, "");
+    EXPECT_EQ(g().choices.printerName, "");
     EXPECT_TRUE(reports.empty());
 }
 
@@ -229,7 +229,7 @@ TEST_F(ConfigureFormTest, ChoosingAPrinterRemembersIt) {
     platform.machinePrinters = {"Office", "Lab"};
     open();
     desktop().choose(form->cbxPrinters, "Lab");
-    EXPECT_EQ(g().PrinterName, "Lab");
+    EXPECT_EQ(g().choices.printerName, "Lab");
     EXPECT_EQ(userInf("Printer"), "Lab");
 }
 

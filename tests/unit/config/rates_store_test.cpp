@@ -15,7 +15,7 @@ protected:
     void SetUp() override {
         ConfigTest::SetUp();
         form = std::make_unique<ConfigureForm>();
-        g().CurrentForm = form.get();
+        g().document.currentForm = form.get();
         g().TaxYears = {"2024", "2025", "2026", "20XX"};
         g().TaxYearIndex = 1;
     }
@@ -95,7 +95,7 @@ TEST_F(RatesStoreTest, AYearWithNoSectionLeavesTheSixFieldsEmpty) {
 }
 
 TEST_F(RatesStoreTest, AStoredAmountThatIsNoNumberShowsAsItStands) {
-    writeFile(g().SSMCInfFile, "[2025]\r\nSSMax=lots\r\n");
+    writeFile(g().edition.ssmcInfFile, "[2025]\r\nSSMax=lots\r\n");
     loadYear("25", "Single");
     EXPECT_EQ(form->txtSSMax.text, "lots");
 }
@@ -135,7 +135,7 @@ TEST_F(RatesStoreTest, SaveGoesToTheSectionShownOnTheForm) {
 
 TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
     loadYear("25", "Single");
-    const std::string before = readFile(g().SSMCInfFile);
+    const std::string before = readFile(g().edition.ssmcInfFile);
     form->txtSSRate.text = "6.5";
     form->txtMCRateAfter.text = "12.5";
     storeRates();
@@ -143,7 +143,7 @@ TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
     EXPECT_EQ(boxes[0].message,
               dataErrorText("M3_Ledgerwick:SS_MC_Edit_Rate", 802,
                             "Invalid Medicare Rate - Format is #, ##, #.#, ##.#, #.## or ##.##"));
-    EXPECT_EQ(readFile(g().SSMCInfFile), before);
+    EXPECT_EQ(readFile(g().edition.ssmcInfFile), before);
     EXPECT_EQ(g().SSRate, "6.2");
 }
 
@@ -177,7 +177,7 @@ TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
 
 TEST_F(CheckChangesTest, UnchangedFiguresEndTheProgramWhenTheFrameIsQuitting) {
     loadYear("25", "Single");
-    g().bQuitting = true;
+    g().process.quitting = true;
     offerToSaveChangedRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 1);
@@ -206,14 +206,14 @@ TEST_F(CheckChangesTest, AChangedFigureShowsTheTableAndYesSavesIt) {
 
 TEST_F(CheckChangesTest, NoLeavesTheFileAsItWas) {
     loadYear("25", "Single");
-    const std::string before = readFile(g().SSMCInfFile);
+    const std::string before = readFile(g().edition.ssmcInfFile);
     form->txtMCPartBPremiums.text = "2,300.00";
     ui.queueAnswer("No");
-    g().bQuitting = true;
+    g().process.quitting = true;
     offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2220.00 2,300.00\r\n"), std::string::npos);
-    EXPECT_EQ(readFile(g().SSMCInfFile), before);
+    EXPECT_EQ(readFile(g().edition.ssmcInfFile), before);
     EXPECT_EQ(ui.quitCalls, 1);
 }
 

@@ -101,7 +101,7 @@ protected:
 
 TEST_F(FormTextTest, CaptionWithEqualsGivesNameAndCaptionOnTwoLines) {
     loadFrame("Ledgerwick 25 =   W-2 Wage and Tax Statement  ");
-    prog().g.CurrentForm = &loadChild("TF_W2");
+    prog().g.document.currentForm = &loadChild("TF_W2");
     EXPECT_EQ(errorFormText(), "Name    = TF_W2\r\nCaption = W-2 Wage and Tax Statement");
     logError("TF_W2:Compute", 6, "Overflow");
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -110,13 +110,13 @@ TEST_F(FormTextTest, CaptionWithEqualsGivesNameAndCaptionOnTwoLines) {
 
 TEST_F(FormTextTest, TextAfterTheFirstEqualsKeepsLaterOnes) {
     loadFrame("A = B = C");
-    prog().g.CurrentForm = &loadChild("TF_1099R");
+    prog().g.document.currentForm = &loadChild("TF_1099R");
     EXPECT_EQ(errorFormText(), "Name    = TF_1099R\r\nCaption = B = C");
 }
 
 TEST_F(FormTextTest, CaptionWithoutEqualsGivesTheNameAlone) {
     loadFrame("Ledgerwick");
-    prog().g.CurrentForm = &loadChild("F1_Configure");
+    prog().g.document.currentForm = &loadChild("F1_Configure");
     EXPECT_EQ(errorFormText(), "F1_Configure");
 }
 
@@ -130,7 +130,7 @@ TEST_F(FormTextTest, NoFrameAndNoCurrentFormGiveNothing) {
 TEST_F(FormTextTest, UnloadedCurrentFormCountsAsNone) {
     loadFrame("Ledgerwick = Something");
     Form& child = loadChild("TF_W2G");
-    prog().g.CurrentForm = &child;
+    prog().g.document.currentForm = &child;
     child.unload();
     EXPECT_EQ(errorFormText(), "Name    = \r\nCaption = Something");
 }

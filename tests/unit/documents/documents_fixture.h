@@ -119,7 +119,7 @@ struct Documents : ::testing::Test {
     }
 
     Form& open(const std::string& name) {
-        g.CurrentFileName.clear();
+        g.document.currentFileName.clear();
         Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
         return *form;
@@ -148,7 +148,9 @@ struct Documents : ::testing::Test {
         if (!form) throw std::runtime_error("no form is on the screen");
         return form->at(name, index);
     }
-    std::string userInf(const std::string& key) { return store::ReadINF("TESTER", key, "", g.UserInfFile); }
+    std::string userInf(const std::string& key) {
+        return store::ReadINF("TESTER", key, "", g.edition.userInfFile);
+    }
 };
 
 }  // namespace lw::testing

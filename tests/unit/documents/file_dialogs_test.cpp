@@ -18,7 +18,7 @@ TEST_F(FileDialogs, CancelGivesTheSeparator) {
 }
 
 TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
-    store::SaveINF("TESTER", "LastOpenFolder", files.string(), g.UserInfFile);
+    store::SaveINF("TESTER", "LastOpenFolder", files.string(), g.edition.userInfFile);
     OpenOrSaveFile(0, "ignored.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
@@ -31,7 +31,7 @@ TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
 }
 
 TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
-    store::SaveINF("TESTER", "LastSaveFolder", "/somewhere/saved", g.UserInfFile);
+    store::SaveINF("TESTER", "LastSaveFolder", "/somewhere/saved", g.edition.userInfFile);
     OpenOrSaveFile(1, "DOE,JOHN_W2_000.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
@@ -49,9 +49,9 @@ TEST_F(FileDialogs, ANameLongerThanTheBufferIsNotOfferedWhole) {
 }
 
 TEST_F(FileDialogs, AnEmptyFolderFallsBackToTheTaxFormsFolderThenToTheDialogsOwn) {
-    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
+    store::SaveINF("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
     OpenOrSaveFile(0, "");
-    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
+    store::SaveINF("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
     OpenOrSaveFile(0, "");
     ASSERT_EQ(test.ui.fileDialogs.size(), 2u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "") << "the dialog's own default";
@@ -59,24 +59,24 @@ TEST_F(FileDialogs, AnEmptyFolderFallsBackToTheTaxFormsFolderThenToTheDialogsOwn
 }
 
 TEST_F(FileDialogs, ASaveInANewFolderMovesOnlyTheSaveFolder) {
-    store::SaveINF("TESTER", "LastOpenFolder", "/open/here", g.UserInfFile);
-    store::SaveINF("TESTER", "LastSaveFolder", "/save/here", g.UserInfFile);
+    store::SaveINF("TESTER", "LastOpenFolder", "/open/here", g.edition.userInfFile);
+    store::SaveINF("TESTER", "LastSaveFolder", "/save/here", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/new/place/DOE_W2_000.venturo");
     EXPECT_EQ(OpenOrSaveFile(1, "DOE_W2_000.venturo"), "/new/place/DOE_W2_000.venturo");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
-    EXPECT_EQ(g.LastSaveFolder, "/new/place");
+    EXPECT_EQ(g.choices.lastSaveFolder, "/new/place");
     EXPECT_EQ(userInf("LastOpenFolder"), "/open/here");
 
     test.ui.fileAnswers.push_back("/elsewhere/x.venturo");
     OpenOrSaveFile(0, "");
     EXPECT_EQ(userInf("LastOpenFolder"), "/elsewhere");
-    EXPECT_EQ(g.LastOpenFolder, "/elsewhere");
+    EXPECT_EQ(g.choices.lastOpenFolder, "/elsewhere");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
 }
 
 TEST_F(FileDialogs, TheSameFolderAsTheStartIsNotWritten) {
-    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
-    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
+    store::SaveINF("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
+    store::SaveINF("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/training/forms/a.venturo");
     EXPECT_EQ(OpenOrSaveFile(0, ""), "/training/forms/a.venturo");
     EXPECT_EQ(userInf("LastOpenFolder"), "") << "the folder equals the start folder of the fall-back";
@@ -88,7 +88,7 @@ TEST_F(FileDialogs, TheAnswerIsCutAtItsFirstNul) {
 }
 
 TEST_F(FileDialogs, AFolderThatHasGoneIsForgottenBeforeTheOpenDialog) {
-    store::SaveINF("TESTER", "LastOpenFolder", (test.root / "vanished").string(), g.UserInfFile);
+    store::SaveINF("TESTER", "LastOpenFolder", (test.root / "vanished").string(), g.edition.userInfFile);
     openDataFile();
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "");

@@ -28,7 +28,7 @@ struct StartedProgram : ::testing::TestWithParam<std::string> {
         const std::string path = (test.root / fileName).string();
         std::ofstream(path, std::ios::binary) << buildRecord() << "\r\n";
         form.unload();
-        test.program->g.CurrentFileName = path;
+        test.program->g.document.currentFileName = path;
         EXPECT_EQ(readDataFile(), GetParam());
         return test.program->desktop.activeChild();
     }

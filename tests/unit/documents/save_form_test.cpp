@@ -187,16 +187,16 @@ TEST_F(SaveFormTest, UnchangedNameKeepsThePath) {
 TEST_F(SaveFormTest, ANewNameWritesTheRebuiltRecordThereAndRemovesTheOldFile) {
     // The form on the screen is the configuration form, whose line the rename rebuilds.
     ASSERT_NE(openCatalogueForm("F1_Configure"), nullptr);
-    g.FormRecord = "stale";
+    g.document.formRecord = "stale";
     SaveForm& form = loadExisting("A_000.venturo");
     retype(form, "B_000");
     desktop.click(form.cmdSave);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
     EXPECT_FALSE(fs::exists(folder / "A_000.venturo"));
-    EXPECT_NE(g.FormRecord, "stale");
-    EXPECT_EQ(g.FormRecord.rfind("CONFIGURE\xB7", 0), 0u) << g.FormRecord;
-    EXPECT_EQ(readFile(folder / "B_000.venturo"), g.FormRecord + "\r\n");
+    EXPECT_NE(g.document.formRecord, "stale");
+    EXPECT_EQ(g.document.formRecord.rfind("CONFIGURE\xB7", 0), 0u) << g.document.formRecord;
+    EXPECT_EQ(readFile(folder / "B_000.venturo"), g.document.formRecord + "\r\n");
     EXPECT_EQ(filesIn(folder), 1);
 }
 
@@ -233,7 +233,7 @@ TEST_F(SaveFormTest, OnlyAnUnderscoreAndThreeDigitsMakeASequence) {
 }
 
 TEST_F(SaveFormTest, NewSequenceWritesTheRecordUnderTheNextName) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7TXT13=JOHN DOE";
     writeFile(folder / "DOE_999.venturo", "OLD\r\n");
@@ -241,23 +241,23 @@ TEST_F(SaveFormTest, NewSequenceWritesTheRecordUnderTheNextName) {
     desktop.click(form.cmdNewSequence);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
-    EXPECT_EQ(readFile(folder / "DOE_1000.venturo"), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(folder / "DOE_1000.venturo"), g.document.formRecord + "\r\n");
     EXPECT_EQ(readFile(folder / "DOE_998.venturo"), "OLD\r\n");
     EXPECT_EQ(readFile(folder / "DOE_999.venturo"), "OLD\r\n");
 }
 
 TEST_F(SaveFormTest, NewSequenceFollowsTheTypedName) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7";
     SaveForm& form = loadExisting("DOE_000.venturo");
     retype(form, "SMITH_010");
     desktop.click(form.cmdNewSequence);
-    EXPECT_EQ(readFile(folder / "SMITH_011.venturo"), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(folder / "SMITH_011.venturo"), g.document.formRecord + "\r\n");
 }
 
 TEST_F(SaveFormTest, NoSequenceForAShortNumberWritesNothingAndSaysSo) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7";
     SaveForm& form = loadExisting("ABC_12.venturo");

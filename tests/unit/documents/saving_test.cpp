@@ -94,7 +94,9 @@ struct Saving : ::testing::Test {
     void TearDown() override { taxpayerStoreSave() = nullptr; }
 
     fs::path forms() const { return test.root / "VenturoForms"; }
-    void useTemplate(int i) { g.FileNameFormat = std::string(kTemplates[i]) + g.FileExtension; }
+    void useTemplate(int i) {
+        g.choices.fileNameFormat = std::string(kTemplates[i]) + g.edition.fileExtension;
+    }
     Form& open(const std::string& name) {
         Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
@@ -149,14 +151,14 @@ TEST_F(Saving, FirstNameFirstKeepsTheWholeCleanedLine) {
 
 TEST_F(Saving, NamingAlsoFillsTheRecord) {
     w2();
-    g.FormRecord = "stale";
+    g.document.formRecord = "stale";
     name();
-    EXPECT_EQ(g.FormRecord.rfind("W-2\xB7", 0), 0u) << g.FormRecord;
-    EXPECT_NE(g.FormRecord.find("ABC PLUMBING"), std::string::npos);
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u) << g.document.formRecord;
+    EXPECT_NE(g.document.formRecord.find("ABC PLUMBING"), std::string::npos);
 }
 
 TEST_F(Saving, WithNoTemplateChosenTheFirstIsTaken) {
-    g.FileNameFormat.clear();
+    g.choices.fileNameFormat.clear();
     w2();
     EXPECT_EQ(name(), "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
 }
@@ -170,11 +172,11 @@ TEST_F(Saving, TheFieldBeingLeftIsEditedBeforeTheRecordIsMade) {
     number.text = "123456789";
     name();
     EXPECT_EQ(number.text, "123-45-6789");
-    EXPECT_NE(g.FormRecord.find("TXT0=123-45-6789"), std::string::npos) << g.FormRecord;
+    EXPECT_NE(g.document.formRecord.find("TXT0=123-45-6789"), std::string::npos) << g.document.formRecord;
 }
 
 TEST_F(Saving, PlaceholdersAreFoundInAnyCase) {
-    g.FileNameFormat = "<last>_<First>_<FORM>_<Other>_<seq>.venturo";
+    g.choices.fileNameFormat = "<last>_<First>_<FORM>_<Other>_<seq>.venturo";
     w2();
     EXPECT_EQ(name(), "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
 }
@@ -234,7 +236,7 @@ TEST_F(Saving, TwoCardsNameTheFileAfterBothPeopleAsTyped) {
     set(form, 3, "JOHN B SAMPLE");
     useTemplate(1);
     EXPECT_EQ(name(), "SS_ITIN_MARY A SAMPLE_JOHN B SAMPLE_000");
-    EXPECT_EQ(g.FormRecord.rfind("SS_ITIN\xB7\xB7", 0), 0u) << g.FormRecord;
+    EXPECT_EQ(g.document.formRecord.rfind("SS_ITIN\xB7\xB7", 0), 0u) << g.document.formRecord;
 }
 
 TEST_F(Saving, OneCardNamesOnePerson) {
@@ -279,7 +281,7 @@ TEST_F(Saving, TheSheetNamesItsSecondTaxpayerLastNameFirst) {
 
 TEST_F(Saving, TheBenefitStatementTakesItsNameFromTheFirstField) {
     Form& form = open("TF_SSA1099");
-    ASSERT_EQ(g.FormKey, "SSA1099");
+    ASSERT_EQ(g.document.formKey, "SSA1099");
     set(form, 0, "JOHN DOE");
     set(form, 1, "123-45-6789");
     EXPECT_EQ(name(), "DOE,JOHN_SSA1099_000.venturo");
@@ -298,8 +300,8 @@ struct SavingK1 : Saving, ::testing::WithParamInterface<K1Case> {};
 TEST_P(SavingK1, BothNumberAndNameAreRequiredNumberFirst) {
     const K1Case& c = GetParam();
     Form& form = open(c.form);
-    const int numberIndex = std::stoi(g.SSNIndex);
-    const int nameIndex = std::stoi(g.NameAddrIndex);
+    const int numberIndex = std::stoi(g.document.catalogue.ssnIndex);
+    const int nameIndex = std::stoi(g.document.catalogue.nameAddrIndex);
     if (!c.numberMissing) set(form, numberIndex, "123-45-6789");
     Control* tabs = form.find("SSTab1");
     if (tabs) tabs->listIndex = 1 - c.tab;
@@ -346,15 +348,15 @@ TEST_F(Saving, SaveWritesTheRecordAndOneLineEndWhereTheDialogSays) {
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_TRUE(test.ui.fileDialogs[0].save);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
-    EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
-    EXPECT_EQ(g.FormRecord.rfind("W-2\xB7", 0), 0u);
-    Form& form = *g.CurrentForm;
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u);
+    Form& form = *g.document.currentForm;
     // The path goes on the status line in red; the field the operator is sent back to then puts its tip
     // there, and the red stays.
     EXPECT_EQ(form.at("labelMisc").caption, form.at("Text1", 0).toolTipText);
     EXPECT_EQ(form.at("labelMisc").foreColor, 255u);
     // The path is not kept: the next Save of the form asks again.
-    EXPECT_EQ(g.CurrentFileName, "");
+    EXPECT_EQ(g.document.currentFileName, "");
     EXPECT_EQ(test.program->desktop.focus(), &form.at("Text1", 0));
     EXPECT_TRUE(test.ui.boxes.empty());
 }
@@ -378,10 +380,10 @@ TEST_F(Saving, CancelWritesNothing) {
 TEST_F(Saving, AnOpenedFileIsSavedWithoutADialog) {
     w2();
     const fs::path path = forms() / "opened.venturo";
-    g.CurrentFileName = path.string();
+    g.document.currentFileName = path.string();
     saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
-    EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
 }
 
 TEST_F(Saving, ANamingErrorAsksForNoPath) {
@@ -391,7 +393,7 @@ TEST_F(Saving, ANamingErrorAsksForNoPath) {
     EXPECT_EQ(filesIn(forms()), 0);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos);
     // The naming chose the first field to go back to.
-    EXPECT_EQ(test.program->desktop.focus(), &g.CurrentForm->at("Text1", 0));
+    EXPECT_EQ(test.program->desktop.focus(), &g.document.currentForm->at("Text1", 0));
 }
 
 TEST_F(Saving, TheNumberErrorSendsTheOperatorToTheNumber) {
@@ -407,7 +409,7 @@ TEST_F(Saving, CardsThatDoNotPairUpAreNotSaved) {
     set(form, 0, "123-45-6789");
     test.ui.fileAnswers.push_back((forms() / "cards.venturo").string());
     saveDataFile();
-    EXPECT_EQ(g.FormRecord, "Error SS_ITIN");
+    EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
 }
@@ -420,7 +422,7 @@ TEST_F(Saving, AnExistingFileLeftWithoutAnAnswerIsKept) {
     saveDataFile();
     EXPECT_EQ(readFile(path), "OLD\r\n");
     EXPECT_EQ(g.SaveResult, kSaveResultDone);
-    EXPECT_NE(g.CurrentForm->at("labelMisc").foreColor, 255u);
+    EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
 }
 
 TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
@@ -433,8 +435,8 @@ TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
     EXPECT_NE(lastBox().find(gone.string()), std::string::npos) << lastBox();
     // The dialog remembered the folder; the check forgets it again, as it is gone.
-    EXPECT_EQ(store::ReadINF(g.UserNameUC, "LastSaveFolder", "?", g.UserInfFile), "");
-    EXPECT_NE(g.CurrentForm->at("labelMisc").foreColor, 255u);
+    EXPECT_EQ(store::ReadINF(g.process.userNameUpper, "LastSaveFolder", "?", g.edition.userInfFile), "");
+    EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
@@ -465,7 +467,7 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
     test.ui.fileAnswers.push_back(path.string());
     saveDataFile();
     EXPECT_EQ(calls, 1);
-    EXPECT_EQ(onDisk, g.FormRecord + "\r\n");
+    EXPECT_EQ(onDisk, g.document.formRecord + "\r\n");
 
     w2();
     test.ui.fileAnswers.push_back((forms() / "w2.venturo").string());
@@ -474,7 +476,7 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
 }
 
 TEST_F(Saving, SavingWithNoFormIsADataErrorAndWritesNothing) {
-    g.CurrentForm->unload();
+    g.document.currentForm->unload();
     saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_NE(lastBox().find("You must open an existing form"), std::string::npos) << lastBox();

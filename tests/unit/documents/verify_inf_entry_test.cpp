@@ -20,10 +20,10 @@ protected:
     }
 
     void write(const std::string& key, const std::string& value) {
-        store::SaveINF("TESTER", key, value, g.UserInfFile);
+        store::SaveINF("TESTER", key, value, g.edition.userInfFile);
     }
     std::string read(const std::string& key) {
-        return store::ReadINF("TESTER", key, "<none>", g.UserInfFile);
+        return store::ReadINF("TESTER", key, "<none>", g.edition.userInfFile);
     }
 
     std::string existing_;
@@ -59,7 +59,7 @@ TEST_F(VerifyInfEntry, AnExistingFolderIsKept) {
 }
 
 TEST_F(VerifyInfEntry, AFileIsNoFolder) {
-    write("LastSaveFolder", g.UserInfFile);
+    write("LastSaveFolder", g.edition.userInfFile);
     verifyRememberedFolder("save");
     EXPECT_EQ(read("LastSaveFolder"), "");
 }

@@ -68,7 +68,7 @@ TEST_F(FieldsTest, TheStatusLineIsClearedBeforeTheEdit) {
 
 TEST_F(FieldsTest, AFormWithoutAStatusLineUsesTheEditsToo) {
     Form& bare = prog().desktop.load(std::make_unique<Form>("F_BARE"));
-    g().CurrentForm = &bare;
+    g().document.currentForm = &bare;
     Control& amount = bare.add(ControlKind::TextBox, "Text1", 0);
     amount.tag = "MONEY";
     amount.text = "1,5";
@@ -121,7 +121,7 @@ TEST_F(FieldsTest, ADateInTaxYearIsMovedToTheYearTheFormShows) {
 
 TEST_F(FieldsTest, AFaultOfTheDispatcherItselfIsLoggedAndTheResultStands) {
     Form& bare = prog().desktop.load(std::make_unique<Form>("TF_NOYEAR"));
-    g().CurrentForm = &bare;
+    g().document.currentForm = &bare;
     Control& date = bare.add(ControlKind::TextBox, "Text1", 0);
     date.tag = "DATEX";
     date.text = "3/7/2023";

@@ -81,7 +81,7 @@ TEST_F(FieldsTest, AFailedIdentifierKeepsTheFocus) {
 }
 
 TEST_F(FieldsTest, ADataErrorDoesNotStopForTheProgrammerInDebugMode) {
-    g().bDebug = true;
+    g().process.debug = true;
     Control& tin = field("TIN", "666");
     ::testing::internal::CaptureStderr();
     EXPECT_FALSE(EditCtl(tin));
@@ -89,7 +89,7 @@ TEST_F(FieldsTest, ADataErrorDoesNotStopForTheProgrammerInDebugMode) {
 }
 
 TEST_F(FieldsTest, ARunTimeFaultStopsForTheProgrammerInDebugModeAndStillFails) {
-    g().bDebug = true;
+    g().process.debug = true;
     Control& tin = field("TIN", "1234567890");
     ::testing::internal::CaptureStderr();
     EXPECT_FALSE(editFocused(tin));

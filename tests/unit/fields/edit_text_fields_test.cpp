@@ -92,7 +92,7 @@ TEST_F(FieldsTest, ANameBlockOfBlankLinesOnlyFailsWithNoMessage) {
 }
 
 TEST_F(FieldsTest, TheFileNameTemplateDoesNotChangeTheNameLine) {
-    g().FileNameFormat = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
+    g().choices.fileNameFormat = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
     Control& name = field("TPNAME", "JOHN Q DOE JR.\r\nSTREET");
     EXPECT_TRUE(EditCtl(name));
     EXPECT_EQ(name.text, "JOHN Q DOE JR\r\nSTREET");

@@ -55,7 +55,7 @@ protected:
         frame->isChild = false;
         for (int i = 0; i < 10; ++i) frame->add(ControlKind::TextBox, "txtLegend", i).backColor = kLegend[i];
         prog().desktop.setFrame(prog().desktop.load(std::move(frame)));
-        prog().g.LegendColors = kLegend;
+        prog().g.edition.legendColors = kLegend;
         form = &openForm("TF_TEST", false);
     }
     void TearDown() override { program_.reset(); }
@@ -72,7 +72,7 @@ protected:
         f.add(ControlKind::Label, "TaxYear", 1).caption = "23";
         f.add(ControlKind::TextBox, "Text2", 0);  // a plain field to move the focus to
         prog().desktop.load(std::move(owned));
-        g().CurrentForm = &f;
+        g().document.currentForm = &f;
         return f;
     }
 

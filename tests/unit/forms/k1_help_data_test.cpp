@@ -126,7 +126,7 @@ TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
 TEST(ShippedK1Help, StartUpPlacesTheListInTheInfFolder) {
     testing::TestProgram test;
     test.start();
-    const std::string installed = test.program->g.K1HelpInfFile;
+    const std::string installed = test.program->g.edition.k1HelpInfFile;
     ASSERT_TRUE(std::filesystem::is_regular_file(installed)) << installed;
     EXPECT_EQ(std::filesystem::file_size(installed), std::filesystem::file_size(shippedList()));
     EXPECT_EQ(store::ReadINFSection("K1-1065-Box20", installed, kK1HelpSectionBuffer),

@@ -27,8 +27,8 @@ struct ScriptK1Answers : ::testing::Test {
         folder = mkdtemp(pattern.data());
         session.out = &out;
         program = std::make_unique<Program>(ui, platform);
-        program->g.K1HelpInfFile = (folder / "K1Help.inf").string();
-        std::ofstream(program->g.K1HelpInfFile, std::ios::binary)
+        program->g.edition.k1HelpInfFile = (folder / "K1Help.inf").string();
+        std::ofstream(program->g.edition.k1HelpInfFile, std::ios::binary)
             << "[K1-1120S-Box12]\r\n"
                "A|Cash contributions (60%) {Schedule A}|\r\n"
                "J|Section 59(e)(2) expenditures {statement}|\tX\r\n";
@@ -78,7 +78,7 @@ TEST_F(ScriptK1Answers, CancelAndNoAnswerBothPressCancel) {
 }
 
 TEST_F(ScriptK1Answers, BytesOfTheListOutsideTheCodePageAreWrittenWithoutHarm) {
-    std::ofstream(program->g.K1HelpInfFile, std::ios::binary)
+    std::ofstream(program->g.edition.k1HelpInfFile, std::ios::binary)
         << "[K1-1120S-Box12]\r\nA|Caf\xE9 \x81 {\x9D\xB7}|\r\n";
     queue("A");
     callList();

@@ -98,7 +98,7 @@ protected:
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
     void fill() {
-        testing::LongestValues values(test.program->g.K1HelpInfFile);
+        testing::LongestValues values(test.program->g.edition.k1HelpInfFile);
         Desktop& desktop = test.program->desktop;
         std::vector<Control*> fields;
         for (const auto& c : form->controls())

@@ -63,7 +63,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
     test.start();
     int word = 0;
     for (const std::string& name : drawnDocuments()) {
-        test.program->g.CurrentFileName.clear();
+        test.program->g.document.currentFileName.clear();
         Form* form = openCatalogueForm(name);
         if (!form) continue;
         Document document{name, (folder / (name + ".venturo")).string(), {}};

@@ -17,10 +17,10 @@ struct Captions : ::testing::Test {
         std::string path = (test.root / "Forms.inf").string();
         std::ofstream(path, std::ios::binary) << "[SAMPLE]\r\nRTL1=Form 1099-X|For calendar year yyyy\r\n"
                                               << "RTB2=Due yyyy+1, paid yyyy-1 |or YYYY+2\r\n";
-        test.program->g.FormsInfFile = path;
+        test.program->g.edition.formsInfFile = path;
         test.program->g.TaxYears = {"2022", "2023", "2024", "20XX"};
         test.program->g.TaxYearIndex = 1;
-        test.program->g.CurrentForm = &form;
+        test.program->g.document.currentForm = &form;
         form.add(ControlKind::Label, "Label1", 0).caption = "Tax year 20??|second line";
         form.add(ControlKind::Label, "RTL1").caption = "placeholder";
         form.add(ControlKind::Label, "rtb2").caption = "placeholder";

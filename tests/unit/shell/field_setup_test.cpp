@@ -13,8 +13,8 @@ struct FieldSetup : ::testing::Test {
 
     void SetUp() override {
         test.start();
-        test.program->g.CurrentForm = &form;
-        test.program->g.FormKey = "SAMPLE";
+        test.program->g.document.currentForm = &form;
+        test.program->g.document.formKey = "SAMPLE";
         form.add(ControlKind::Label, "labelMisc");
     }
     Control& field(const std::string& tag, int index = 0, const std::string& name = "Text1") {
@@ -24,7 +24,7 @@ struct FieldSetup : ::testing::Test {
         c.select(1, 1);
         return c;
     }
-    Color legend(int i) { return test.program->g.LegendColors[static_cast<std::size_t>(i)]; }
+    Color legend(int i) { return test.program->g.edition.legendColors[static_cast<std::size_t>(i)]; }
 };
 
 TEST_F(FieldSetup, TheLegendGivesTheFocusColourOfEachType) {
@@ -120,14 +120,14 @@ TEST_F(FieldSetup, SetUpGivesAlignmentTipAndLength) {
 }
 
 TEST_F(FieldSetup, OtherFieldsAreCentredOnTheCards) {
-    test.program->g.FormKey = "SS_ITIN";
+    test.program->g.document.formKey = "SS_ITIN";
     Control& name = field("TPNAME");
     setUpControl(name, true);
     EXPECT_EQ(name.alignment, 2);
 }
 
 TEST_F(FieldSetup, TheMonthlyAmountsOfThe1095AAloneNameTheF12Copy) {
-    test.program->g.FormTitle = "tf_1095a";
+    test.program->g.document.catalogue.formTitle = "tf_1095a";
     const std::string hint =
         "Money: Dollar sign/commas optional, Press F12 to copy this amount to fields below this one";
     for (int index : {37, 38, 76, 77}) {
@@ -143,10 +143,10 @@ TEST_F(FieldSetup, TakingTheFocusPutsTheTipOnTheStatusLineAndNotesTheField) {
     money.toolTipText = "Box 3";
     setUpControl(money, false);
     EXPECT_EQ(form.at("labelMisc").caption, "Box 3");
-    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12");
+    EXPECT_EQ(test.program->g.document.lastFieldKey, "Text1:12");
     Control& rate = field("SSMC", kNoIndex, "txtSSRate");
     setUpControl(rate, false);
-    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12") << "only the Text arrays are noted";
+    EXPECT_EQ(test.program->g.document.lastFieldKey, "Text1:12") << "only the Text arrays are noted";
 }
 
 TEST_F(FieldSetup, AFieldOutOfScopeNeverTakesTheFocus) {

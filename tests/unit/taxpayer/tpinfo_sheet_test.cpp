@@ -54,7 +54,7 @@ TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
 }
 
 TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFields) {
-    g().FormRecord =
+    g().document.formRecord =
         "TPINFO\xB7"
         "2025\xB7TXT0=ANN LEE\xBB"
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
