@@ -95,7 +95,8 @@ std::string whatWentWrong(const std::string& played) {
 
 std::string userRootFolder() {
     if (const char* root = std::getenv("LEDGERWICK_ROOT"); root && *root) return root;
-    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data) return std::string(data) + "/ledgerwick";
+    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data)
+        return std::string(data) + "/ledgerwick";
     const char* home = std::getenv("HOME");
     return std::string(home ? home : ".") + "/.local/share/ledgerwick";
 }
@@ -135,9 +136,9 @@ ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::stri
         for (const Profile& profile : profiles_) chosen_.push_back(&profile);
     const std::string ssmc = (fs::path(shippedFolder_) / "SSMC.inf").string();
     const std::string year = std::to_string(options_.year);
-    const std::string base = store::ReadINF(year, "SSMax", "", ssmc);
+    const std::string base = store::readInfValue(year, "SSMax", "", ssmc);
     if (options_.year < 1900 || options_.year > 2999 || base.empty() ||
-        store::ReadINF(year, "SSRate", "", ssmc).empty())
+        store::readInfValue(year, "SSRate", "", ssmc).empty())
         throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
                               " in " + ssmc};
     socialSecurityMax_ = std::atoll(base.c_str());
@@ -167,7 +168,8 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
     // Cases half made by a set that was stopped are no cases.
     for (const auto& entry : fs::directory_iterator(out, gone)) {
         const std::string name = entry.path().filename().string();
-        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial") fs::remove_all(entry.path(), gone);
+        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial")
+            fs::remove_all(entry.path(), gone);
     }
     {
         BatchedDisk batched;

@@ -10,14 +10,14 @@
 
 namespace lw {
 
-std::string GetFormInfo(const std::string& Section, const std::string& Key) {
+std::string readFormInfo(const std::string& Section, const std::string& Key) {
     std::string section = Section;
     if (Section != "SS_ITIN") {
         std::size_t underscore = Section.find('_');
         section = underscore == std::string::npos ? Section : Section.substr(underscore + 1);
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
-    return store::ReadINF(section, Key, "", program().g.edition.formsInfFile);
+    return store::readInfValue(section, Key, "", program().g.edition.formsInfFile);
 }
 
 namespace {
@@ -32,18 +32,18 @@ void keepNumber(const std::string& text, int& target) {
 void loadFormInfo() {
     Globals& g = program().g;
     const std::string name = g.document.currentForm ? g.document.currentForm->name() : std::string();
-    g.document.catalogue.formTitle = GetFormInfo(name, "FormName");
-    g.document.catalogue.recordPrefix = GetFormInfo(name, "RecordPrefix");
-    g.document.catalogue.ssnIndex = GetFormInfo(name, "SSNIndex");
-    g.document.catalogue.nameAddrIndex = GetFormInfo(name, "NameAddrIndex");
-    g.document.catalogue.nameOnlyIndex = GetFormInfo(name, "NameOnlyIndex");
-    g.document.catalogue.dobIndex = GetFormInfo(name, "DOBIndex");
-    g.document.catalogue.medicareClaimNoIndex = GetFormInfo(name, "MedicareClaimNoIndex");
-    g.document.catalogue.medicareNoIndex = GetFormInfo(name, "MedicareNoIndex");
-    g.document.catalogue.einIndex = GetFormInfo(name, "EINIndex");
-    g.document.catalogue.otherInfo = GetFormInfo(name, "OtherInfo");
-    keepNumber(GetFormInfo(name, "FocusOnStartup"), g.document.catalogue.focusOnStartup);
-    keepNumber(GetFormInfo(name, "FocusAfterTPButton"), g.document.catalogue.focusAfterTaxpayerButton);
+    g.document.catalogue.formTitle = readFormInfo(name, "FormName");
+    g.document.catalogue.recordPrefix = readFormInfo(name, "RecordPrefix");
+    g.document.catalogue.ssnIndex = readFormInfo(name, "SSNIndex");
+    g.document.catalogue.nameAddrIndex = readFormInfo(name, "NameAddrIndex");
+    g.document.catalogue.nameOnlyIndex = readFormInfo(name, "NameOnlyIndex");
+    g.document.catalogue.dobIndex = readFormInfo(name, "DOBIndex");
+    g.document.catalogue.medicareClaimNoIndex = readFormInfo(name, "MedicareClaimNoIndex");
+    g.document.catalogue.medicareNoIndex = readFormInfo(name, "MedicareNoIndex");
+    g.document.catalogue.einIndex = readFormInfo(name, "EINIndex");
+    g.document.catalogue.otherInfo = readFormInfo(name, "OtherInfo");
+    keepNumber(readFormInfo(name, "FocusOnStartup"), g.document.catalogue.focusOnStartup);
+    keepNumber(readFormInfo(name, "FocusAfterTPButton"), g.document.catalogue.focusAfterTaxpayerButton);
 }
 
 }  // namespace lw

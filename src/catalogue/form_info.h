@@ -7,7 +7,7 @@ namespace lw {
 
 // One value of the catalogue file. The section is the text behind the first "_" with every "-" removed,
 // except SS_ITIN, which stands as it is: TF_W2, W2 and a record prefix such as 1099-MISC all lead home.
-std::string GetFormInfo(const std::string& Section, const std::string& Key);
+std::string readFormInfo(const std::string& Section, const std::string& Key);
 // Fills the per-form values of CurrentForm. The two focus values keep those of the form opened before
 // when the file has no number for them.
 void loadFormInfo();

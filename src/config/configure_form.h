@@ -61,6 +61,16 @@ public:
     bool isFigureField(const Control& control) const;
 
 private:
+    // The parts of the panel from top to bottom, and the order the operator goes through them.
+    void layOutPanel();
+    void layOutPrinterChoice();
+    void layOutFileNameChoice();
+    void layOutTaxYear();
+    void layOutFilingStatus();
+    void layOutSocialSecurityFigures();
+    void layOutMedicareFigures();
+    void layOutStatusLine();
+    void setTabOrder();
     void loadForm();
     void fillPrinters();
     void chooseFileNameFormat();

@@ -22,7 +22,7 @@ std::string formYear(const Form& form) {
 }
 
 std::string readRate(const std::string& year, const char* key) {
-    return store::ReadINF(year, key, "", g().edition.ssmcInfFile);
+    return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
 }
 
 // The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
@@ -77,7 +77,7 @@ void storeRates() {
         const std::string year = formYear(form);
         if (!validateAllRates(form)) return;
         auto write = [&](const char* key, const std::string& value, std::string& global) {
-            store::SaveINF(year, key, value, g().edition.ssmcInfFile);
+            store::writeInfValue(year, key, value, g().edition.ssmcInfFile);
             global = value;
         };
         write("SSRate", form.at("txtSSRate").text, g().SSRate);

@@ -156,7 +156,7 @@ void ErrorReportForm::onClip() {
         return;
     }
     // The picture replaces whatever the clipboard held. The form stays open, whatever the caption says.
-    CopyEntirePicture(*this);
+    copyEntirePicture(*this);
     program().platform.sleep(kCopyPauseMs);
 }
 
@@ -166,7 +166,7 @@ void ErrorReportForm::onExit() { unload(); }
 
 void ErrorReportForm::onClearAndCopy() {
     for (Control* label : Label2) label->caption.clear();
-    CopyEntirePicture(*this);
+    copyEntirePicture(*this);
     unload();
 }
 

@@ -6,7 +6,7 @@
 
 namespace lw {
 
-void CopyEntirePicture(Form& form) {
+void copyEntirePicture(Form& form) {
     // The front end renders the form off-screen at its own size, so nothing of the desktop can reach
     // the picture: the task bar need not be hidden around the copy, and nothing waits for a repaint.
     try {

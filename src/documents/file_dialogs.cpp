@@ -39,14 +39,14 @@ std::string folderOf(const std::string& path) {
 
 }  // namespace
 
-std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
+std::string chooseFileToOpenOrSave(int SaveMode, const std::string& FileName) {
     return runGuardedOr<std::string>(kLabel, "", [&] {
         Globals& g = program().g;
         const bool save = SaveMode != 0;
         const std::string key = save ? "LastSaveFolder" : "LastOpenFolder";
         std::string startFolder = readUserInf(key);
         if (startFolder.empty())
-            startFolder = store::ReadINF("TaxForms", "Folder", "", g.edition.userInfFile);
+            startFolder = store::readInfValue("TaxForms", "Folder", "", g.edition.userInfFile);
 
         FileDialogRequest request;
         request.save = save;
@@ -77,9 +77,11 @@ void verifyRememberedFolder(const std::string& sKind) {
         else
             throw AppError(900, "Program Error", "M3_Ledgerwick:Verify_INF_Entry");
         const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        const std::string folder =
+            store::readInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        if (!folderExists(folder))
+            store::writeInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
     });
 }
 

@@ -74,7 +74,7 @@ int chosenPictureOf(Form& form, int which) {
 void fillAges() {
     Form* sheet = program().desktop.findForm("F5_TPInfo");
     if (!sheet || sheet != g().document.currentForm) return;
-    UpdateAllAges(*sheet);
+    updateAllAges(*sheet);
 }
 
 }  // namespace
@@ -112,7 +112,7 @@ void openDataFile() {
         }
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder("OPEN");
-        g().document.currentFileName = OpenOrSaveFile(0, "");
+        g().document.currentFileName = chooseFileToOpenOrSave(0, "");
         if (g().document.currentFileName == kCancel) return;
         readDataFile();
         fillAges();

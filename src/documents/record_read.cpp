@@ -80,7 +80,7 @@ void unloadEveryFormButTheFrame() {
 }
 
 Form& openFormOf(const std::string& field0, const std::string& path) {
-    const std::string formName = GetFormInfo(store::catalogueKeyOf(field0), "FormName");
+    const std::string formName = readFormInfo(store::catalogueKeyOf(field0), "FormName");
     unloadEveryFormButTheFrame();
     if (formName.empty())
         throw AppError(kNoSuchForm,

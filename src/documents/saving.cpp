@@ -227,7 +227,7 @@ void saveFile(int& FocusIndex) {
         // A remembered folder that has gone would send the dialog astray.
         verifyRememberedFolder("SAVE");
         // The path chosen is not kept: the next Save of a new form asks again.
-        path = OpenOrSaveFile(1, name);
+        path = chooseFileToOpenOrSave(1, name);
         if (path == kCancel) return;
     }
 

@@ -48,7 +48,7 @@ bool editByTag(Control& ctl) {
 
 }  // namespace
 
-bool EditCtl(Control& ctl) {
+bool editField(Control& ctl) {
     bool result = true;
     runGuarded("M7_Edits:EditCtl", [&] {
         // A form without a status line may use the edits too.

@@ -58,7 +58,7 @@ bool editSsnOrItin(Control& ctl) {
     });
 }
 
-std::int32_t DuplicateTinCheck(const std::string& sIndexList, int iIndex) {
+std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex) {
     std::int32_t result = 99;
     runGuarded("M7_Edits:DuplicateTinCheck", [&] {
         if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");

@@ -79,7 +79,7 @@ std::string rrbShortfallReason(RrbShortfall shortfall) {
 std::string partBPremiumOfYearInForce() {
     const Globals& g = program().g;
     const std::string& year = g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
-    return store::ReadINF(year, "MCPartBPremium", "", g.edition.ssmcInfFile);
+    return store::readInfValue(year, "MCPartBPremium", "", g.edition.ssmcInfFile);
 }
 
 }  // namespace lw

@@ -92,7 +92,7 @@ void CardsForm::onValidate(Control& ctl, bool& Cancel) {
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (Index % 2 == 0 && DuplicateTinCheck(kNumberFields, Index) != 99) Cancel = true;
+    if (Index % 2 == 0 && checkDuplicateNumbers(kNumberFields, Index) != 99) Cancel = true;
 }
 
 void registerCardsForm() {

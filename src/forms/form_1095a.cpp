@@ -87,7 +87,7 @@ void Form1095A::copyDown(int Index) {
 
 void Form1095A::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_1095A:Text1_Validate", [&] {
-        if (!EditCtl(at("Text1", Index))) {
+        if (!editField(at("Text1", Index))) {
             Cancel = true;
             return;
         }

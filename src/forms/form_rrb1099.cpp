@@ -73,7 +73,7 @@ void FormRrb1099::onValidate(Control& ctl, bool& Cancel) {
 
 void FormRrb1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_RRB1099:Text1_Validate", [&] {
-        if (!EditCtl(field(Index))) {
+        if (!editField(field(Index))) {
             Cancel = true;
             return;
         }

@@ -102,7 +102,7 @@ void FormSsa1099::onValidate(Control& ctl, bool& Cancel) {
 
 void FormSsa1099::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_SSA1099:Text1_Validate", [&] {
-        if (!EditCtl(field(Index))) {
+        if (!editField(field(Index))) {
             Cancel = true;
             return;
         }

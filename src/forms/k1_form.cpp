@@ -84,7 +84,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
 void K1Form::leavingRoutine(Control& field, int count) {
     field.backColor = kWhite;
     field.foreColor = kBlack;
-    if (!EditCtl(field)) {
+    if (!editField(field)) {
         setFocus(field);
         return;
     }

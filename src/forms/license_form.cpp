@@ -30,7 +30,7 @@ void LicenseForm::onClick(Control& ctl, MouseButton button) {
 
 void LicenseForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
-    if (!EditCtl(ctl)) {
+    if (!editField(ctl)) {
         ctl.select(0, 99);
         setFocus(ctl);
         Cancel = true;

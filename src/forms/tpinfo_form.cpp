@@ -74,24 +74,24 @@ void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
 void TaxpayerSheetForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (!EditCtl(ctl)) {
+    if (!editField(ctl)) {
         Cancel = true;
         return;
     }
     if (!isTextOne(ctl)) return;
     const std::string index = std::to_string(ctl.index);
     // A repeated number is pointed out; the field may still be left.
-    if (listContains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
+    if (listContains(kNumberFields, index)) checkDuplicateNumbers(kNumberFields, ctl.index);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
         for (const auto& row : program().g.taxpayers.personTable)
-            if (row[1] == index) UpdateAge(*this, row[1], row[2]);
+            if (row[1] == index) updateAge(*this, row[1], row[2]);
     });
 }
 
 void TaxpayerSheetForm::afterYearChange() {
     if (!isLoaded()) return;
-    UpdateAllAges(*this);
+    updateAllAges(*this);
     showAgeYear();
 }
 

@@ -11,7 +11,7 @@ public:
     FormW2();
 
     void onLoad() override;
-    // EditCtl first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
+    // editField first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
     void onValidate(Control& ctl, bool& Cancel) override;
     // The verification-code rule of box 9.
     void onActivate() override;

@@ -263,7 +263,7 @@ void clipCurrentForm() {
         if (isKOne(key)) tabs = liftShownHalf(*form);
         form->at("labelMisc").visible = false;
         // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
-        if (clipScreen()) CopyEntirePicture(*form);
+        if (clipScreen()) copyEntirePicture(*form);
     });
     if (!restyled) return;
     // The form comes back whatever the clip did.

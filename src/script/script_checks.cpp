@@ -200,7 +200,7 @@ Finding ScriptRunner::Checks::file() {
 Finding ScriptRunner::Checks::ini() {
     need(words_, 6, "expect ini PATH SECTION KEY \"VALUE\"");
     const std::string value =
-        store::ReadINF(codePage(words_[3]), codePage(words_[4]), "", runner_.path(words_[2]));
+        store::readInfValue(codePage(words_[3]), codePage(words_[4]), "", runner_.path(words_[2]));
     return quotedValue(utf8(value), words_[5]);
 }
 

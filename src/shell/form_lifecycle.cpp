@@ -206,7 +206,7 @@ void writeYearCaptions() {
                 c.caption = withLineBreaks(text::replaceAll(c.caption, "20??", year));
                 continue;
             }
-            c.caption = longText(GetFormInfo(form.name(), c.name), year);
+            c.caption = longText(readFormInfo(form.name(), c.name), year);
         }
     });
 }

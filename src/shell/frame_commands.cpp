@@ -69,7 +69,7 @@ bool outputBlocked(Form& active) {
 // Every text box in the order of the form's controls; the first that does not stand keeps the focus.
 bool allFieldsStand(Form& form) {
     for (const auto& owned : form.controls()) {
-        if (owned->isTextBox() && !EditCtl(*owned)) return false;
+        if (owned->isTextBox() && !editField(*owned)) return false;
     }
     return true;
 }

@@ -49,17 +49,17 @@ std::string removeWordNoCase(std::string text, const std::string& word) {
 }  // namespace
 
 std::string readUserInf(const std::string& key) {
-    return store::ReadINF(g().process.userNameUpper, key, "", g().edition.userInfFile);
+    return store::readInfValue(g().process.userNameUpper, key, "", g().edition.userInfFile);
 }
 
 void writeUserInf(const std::string& key, const std::string& value) {
-    store::SaveINF(g().process.userNameUpper, key, value, g().edition.userInfFile);
+    store::writeInfValue(g().process.userNameUpper, key, value, g().edition.userInfFile);
 }
 
-void SaveInfFolders(const std::string& InfFile, const std::string& DefaultFolder) {
+void saveRememberedFolders(const std::string& InfFile, const std::string& DefaultFolder) {
     for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
-        if (store::ReadINF(g().process.userNameUpper, key, "", InfFile).empty())
-            store::SaveINF(g().process.userNameUpper, key, DefaultFolder, InfFile);
+        if (store::readInfValue(g().process.userNameUpper, key, "", InfFile).empty())
+            store::writeInfValue(g().process.userNameUpper, key, DefaultFolder, InfFile);
     }
 }
 
@@ -92,7 +92,7 @@ void setUpEdition(FrameForm& frame, const Edition& edition) {
     frame.IconFile = edition.iconFile;
     if (text::containsNoCase(platform().executableFolder(), kDevelopmentTreeMarker))
         frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
-    SaveInfFolders(g().edition.userInfFile, edition.defaultFormsFolder);
+    saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
     g().edition.fileExtension = edition.fileExtension;
     g().edition.fileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
     setUpTaxFormsFolder(frame);
@@ -123,7 +123,7 @@ void setUpTestPath(FrameForm& frame) {
     g().edition.userGuideFile = frame.DevAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.VersionMajor +
                                 "_" + edition.name + "_UserGuide.pdf";
     // The editions would also fix the forms folder here; the test path leaves it empty.
-    SaveInfFolders(g().edition.userInfFile, edition.defaultFormsFolder);
+    saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ std::string firstLine(const std::string& block) {
 StoredCase readStoredCase() {
     StoredCase found;
     for (const std::string& entry :
-         store::ReadINFSection(g().process.userNameUpper, g().edition.userInfFile, store::kInfValueBuffer)) {
+         store::readInfSection(g().process.userNameUpper, g().edition.userInfFile, store::kInfValueBuffer)) {
         const std::size_t eq = entry.find('=');
         if (entry.empty() || eq == std::string::npos) continue;
         const std::string key = text::toLower(entry.substr(0, eq));

@@ -47,17 +47,17 @@ std::string ageAtYearEnd(Form& form, const std::string& DOB) {
     return std::to_string(age);
 }
 
-void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
+void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
     const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
     Control& age = sheet.at("Text2", std::stoi(AgeIndex));
     if (dob.text.empty()) return;
     age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text);
 }
 
-void UpdateAllAges(Form& sheet) {
+void updateAllAges(Form& sheet) {
     // A row that cannot be aged leaves the others to be aged all the same.
     for (const auto& row : g().taxpayers.personTable)
-        runGuarded("F5_TPInfo:UpdateAge", [&] { UpdateAge(sheet, row[1], row[2]); });
+        runGuarded("F5_TPInfo:UpdateAge", [&] { updateAge(sheet, row[1], row[2]); });
 }
 
 void saveTaxpayerSheet() {

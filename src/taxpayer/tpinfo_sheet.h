@@ -15,10 +15,10 @@ std::string ageAtYearEnd(Form& form, const std::string& DOB);
 
 // The age of one row of the sheet, from its date field into its age field. An empty date leaves the
 // age as it was; a date in 20XX has no age.
-void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex);
+void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex);
 
 // Every row of the sheet aged again, as after a change of the tax year.
-void UpdateAllAges(Form& sheet);
+void updateAllAges(Form& sheet);
 
 // Run by saveDataFile once a sheet's line is written: the two taxpayers from the line, the seven others
 // from the fields, in the order the store has them.

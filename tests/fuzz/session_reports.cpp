@@ -49,7 +49,7 @@ const Form* formAtHand() {
 }
 
 std::string userStoreValue(const std::string& key) {
-    return store::ReadINF(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
+    return store::readInfValue(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
 }
 
 // The key fields of the first line of a data file, as the file now stands: fields 2 and on.
@@ -92,7 +92,7 @@ const std::map<std::string, Rule>& rules() {
     static const std::map<std::string, Rule> all = {
         {"k1-line-with-fewer-than-three-parts",
          [](const ShownReport&, const SessionFacts&) {
-             const auto lines = store::ReadINFSection(
+             const auto lines = store::readInfSection(
                  k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
              return std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
                  return std::count(line.begin(), line.end(), '|') < 2;

@@ -29,27 +29,27 @@ struct FormInfoTest : ::testing::Test {
 };
 
 TEST_F(FormInfoTest, AFormNameAndARecordPrefixLeadToTheSameSection) {
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "RecordPrefix"), "1099-MISC");
-    EXPECT_EQ(GetFormInfo("1099-MISC", "RecordPrefix"), "1099-MISC");
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "RecordPrefix"), "1099-MISC");
+    EXPECT_EQ(readFormInfo("1099-MISC", "RecordPrefix"), "1099-MISC");
 }
 
 TEST_F(FormInfoTest, ASectionTextWithoutAnUnderscoreIsUsedAsItStands) {
-    EXPECT_EQ(GetFormInfo("Plain", "FormName"), "Plain");
+    EXPECT_EQ(readFormInfo("Plain", "FormName"), "Plain");
 }
 
 TEST_F(FormInfoTest, SpacesInsideAValueStay) {
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces");
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces");
 }
 
 TEST_F(FormInfoTest, AValueOf1023CharactersComesWholeAndALongerOneIsCut) {
-    EXPECT_EQ(GetFormInfo("X_Long", "Exact").size(), 1023u);
-    EXPECT_EQ(GetFormInfo("X_Long", "Over"), std::string(1023, 'y'));
+    EXPECT_EQ(readFormInfo("X_Long", "Exact").size(), 1023u);
+    EXPECT_EQ(readFormInfo("X_Long", "Over"), std::string(1023, 'y'));
 }
 
 TEST_F(FormInfoTest, MissingValuesAreEmpty) {
-    EXPECT_EQ(GetFormInfo("TF_NOWHERE", "FormName"), "");
+    EXPECT_EQ(readFormInfo("TF_NOWHERE", "FormName"), "");
     test.program->g.edition.formsInfFile = (test.root / "missing.inf").string();
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "FormName"), "");
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "FormName"), "");
 }
 
 TEST_F(FormInfoTest, LoadFillsTheValuesOfTheCurrentForm) {

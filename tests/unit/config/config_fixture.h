@@ -122,13 +122,13 @@ protected:
     }
 
     std::string userInf(const std::string& key) {
-        return store::ReadINF("TESTER", key, "", g().edition.userInfFile);
+        return store::readInfValue("TESTER", key, "", g().edition.userInfFile);
     }
     void setUserInf(const std::string& key, const std::string& value) {
-        store::SaveINF("TESTER", key, value, g().edition.userInfFile);
+        store::writeInfValue("TESTER", key, value, g().edition.userInfFile);
     }
     std::string ssmc(const std::string& year, const std::string& key) {
-        return store::ReadINF(year, key, "", g().edition.ssmcInfFile);
+        return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
     }
 
     ConfigUi ui;

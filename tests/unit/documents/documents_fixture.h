@@ -149,7 +149,7 @@ struct Documents : ::testing::Test {
         return form->at(name, index);
     }
     std::string userInf(const std::string& key) {
-        return store::ReadINF("TESTER", key, "", g.edition.userInfFile);
+        return store::readInfValue("TESTER", key, "", g.edition.userInfFile);
     }
 };
 

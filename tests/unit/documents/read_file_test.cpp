@@ -227,7 +227,7 @@ TEST_F(ReadFile, TheCardsShowTheirKindByTheFirstDigit) {
 }
 
 TEST_F(ReadFile, TheTaxpayerSheetRefreshesTheStoreAndTheAges) {
-    store::SaveINF("TESTER", "Dependent1", "KEPT" + D + "111", g.edition.userInfFile);
+    store::writeInfValue("TESTER", "Dependent1", "KEPT" + D + "111", g.edition.userInfFile);
     openFile(write("tp.venturo", "TPINFO" + D + "2025" + D + "TXT0=MARY A SAMPLE" + R + "12 MAIN ST" + D +
                                      "TXT1=123-45-6789" + D + "TXT2=01/15/1980" + D + "TXT3=JOHN" + D +
                                      "TXT8=12/31/2000" + D + "TXT34=555-1212\r\n"));

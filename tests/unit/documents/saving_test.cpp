@@ -435,7 +435,7 @@ TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
     EXPECT_NE(lastBox().find(gone.string()), std::string::npos) << lastBox();
     // The dialog remembered the folder; the check forgets it again, as it is gone.
-    EXPECT_EQ(store::ReadINF(g.process.userNameUpper, "LastSaveFolder", "?", g.edition.userInfFile), "");
+    EXPECT_EQ(store::readInfValue(g.process.userNameUpper, "LastSaveFolder", "?", g.edition.userInfFile), "");
     EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
     EXPECT_TRUE(test.ui.reports.empty());
 }

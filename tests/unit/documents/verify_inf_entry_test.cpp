@@ -20,10 +20,10 @@ protected:
     }
 
     void write(const std::string& key, const std::string& value) {
-        store::SaveINF("TESTER", key, value, g.edition.userInfFile);
+        store::writeInfValue("TESTER", key, value, g.edition.userInfFile);
     }
     std::string read(const std::string& key) {
-        return store::ReadINF("TESTER", key, "<none>", g.edition.userInfFile);
+        return store::readInfValue("TESTER", key, "<none>", g.edition.userInfFile);
     }
 
     std::string existing_;

@@ -34,7 +34,7 @@ public:
         filterFieldKey(ctl, keyAscii);
     }
     void onValidate(Control& ctl, bool& Cancel) override {
-        if (!everyKeyFiltered_) Cancel = !EditCtl(ctl);
+        if (!everyKeyFiltered_) Cancel = !editField(ctl);
     }
     void onLostFocus(Control& ctl) override {
         ctl.backColor = kWhite;
@@ -94,7 +94,7 @@ protected:
     // Runs the edit as Validate does, on the field that has the focus.
     bool editFocused(Control& c) {
         prog().desktop.setFocus(c);
-        return EditCtl(c);
+        return editField(c);
     }
     // Tries to leave the field for another; true when the focus left.
     bool leave(Control& c) {

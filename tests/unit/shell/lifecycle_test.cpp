@@ -129,7 +129,7 @@ TEST_F(Lifecycle, ChangingTheYearCyclesRemembersAndRedatesTheForm) {
     changeTaxYear(form);
     EXPECT_EQ(test.program->g.TaxYearIndex, 2);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "26");
-    EXPECT_EQ(store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile), "2026");
+    EXPECT_EQ(store::readInfValue("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile), "2026");
     changeTaxYear(form);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "XX");
     changeTaxYear(form);

@@ -31,7 +31,7 @@ struct YearSetup : ::testing::Test {
         test.start();
     }
     std::string remembered() {
-        return store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile);
+        return store::readInfValue("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile);
     }
 };
 

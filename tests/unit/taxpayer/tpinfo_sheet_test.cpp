@@ -46,10 +46,10 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
     form->at("Text2", 0).text = "41";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "41");
     form->at("Text1", 2).text = "05/05/20XX";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
