@@ -251,11 +251,14 @@ void ConfigureForm::onValidate(Control& control, bool& cancel) {
 void ConfigureForm::onUnload(bool&) {
     runGuarded("F1_Configure:Form_Unload", [this] {
         if (!g().FilingStatus.empty()) return;
-        const std::string answer =
-            MA_MBX(name(), 800, "Filing Status not chosen - Choose Now", "Married Filing Single - MFS", false,
-                   "Single - S", "Married Filing Joint - MFJ", "", 1);
-        const std::size_t dash = answer.find('-');
-        g().FilingStatus = dash == std::string::npos ? std::string() : text::trim(answer.substr(dash + 1));
+        const MessageBoxRequest ask{
+            name(),
+            "Filing Status not chosen - Choose Now",
+            kNoMessageNumber,
+            {"Married Filing Single - MFS", "Single - S", "Married Filing Joint - MFJ", ""}};
+        // Each button names its status after the dash; a box closed without one leaves none.
+        static const char* const statuses[] = {"", "MFS", "S", "MFJ", ""};
+        g().FilingStatus = statuses[static_cast<int>(showMessageBox(ask).button)];
         program().ui.quit();
     });
 }

@@ -125,9 +125,9 @@ void offerToSaveChangedRates() {
                 table += rateChangeRow(items[i].caption, stored[i], items[i].current);
             const std::string message =
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
-            if (MA_MBX("M3_Ledgerwick:SS_MC_Check_Changes", 800, message, "Yes", false, "No", "", "", 1) ==
-                "Yes")
-                storeRates();
+            const MessageBoxRequest ask{
+                "M3_Ledgerwick:SS_MC_Check_Changes", message, kNoMessageNumber, {"Yes", "No"}};
+            if (showMessageBox(ask).button == MessageBoxButton::First) storeRates();
         }
         if (g().process.quitting) program().ui.quit();
     });

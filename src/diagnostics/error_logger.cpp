@@ -69,7 +69,7 @@ void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
             const std::string message = "Procedure Name:        " + Proc + "\r" +
                                         "Error Number:          " + std::to_string(ErrNo) + "\r" +
                                         "Error Description:     " + ErrDesc + "\r";
-            MA_MBX("Data Error", 800, message, "OK", false, "", "", "", 1);
+            showMessageBox({"Data Error", message});
             return;
         }
         auto form = reportForm(Proc, ErrNo, ErrDesc);

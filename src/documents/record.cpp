@@ -19,8 +19,8 @@ namespace {
 
 constexpr const char* kBuildLabel = "M4_FileCode:Build_Record";
 constexpr const char* kOpenLabel = "M4_FileCode:Open_File";
-constexpr const char* kCardsError = "Error SS_ITIN";
-const std::string kCancel(1, text::kFieldSeparator);
+// What a cancelled open leaves as the file name: the dialog's cancel mark.
+const std::string kCancelMark(1, text::kFieldSeparator);
 
 Globals& g() { return program().g; }
 
@@ -79,17 +79,14 @@ void fillAges() {
 
 }  // namespace
 
-std::string buildRecord() {
-    std::string line;
+std::optional<std::string> buildRecord() {
+    std::optional<std::string> line;
     runGuarded(kBuildLabel, [&] {
         Form* form = g().document.currentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
         if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
-        if (g().document.formKey == "SS_ITIN") {
-            line = kCardsError;
-            checkCardPairs(*form);
-        }
+        if (g().document.formKey == "SS_ITIN") checkCardPairs(*form);
         std::vector<store::RecordField> fields = filledControls(*form);
         if (g().document.formKey == "DL") {
             fields.push_back({"PIC1", std::to_string(chosenPictureOf(*form, 1))});
@@ -111,9 +108,11 @@ void openDataFile() {
             // The form on the screen goes whatever its unloading says.
         }
         // A remembered folder that has gone would send the dialog astray.
-        verifyRememberedFolder("OPEN");
-        g().document.currentFileName = chooseFileToOpenOrSave(0, "");
-        if (g().document.currentFileName == kCancel) return;
+        verifyRememberedFolder(FileDialogMode::Open);
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Open, "");
+        // The mark stands as the file name until the next open or save chooses one.
+        g().document.currentFileName = chosen.value_or(kCancelMark);
+        if (!chosen) return;
         readDataFile();
         fillAges();
         program().ui.refresh();

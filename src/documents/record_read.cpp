@@ -183,7 +183,7 @@ void showCardPictures(Form& cards) {
 // An opened file's dates go through the same walk as after a change of year.
 void recheckDates() { recheckYearDates(); }
 
-std::string readDataFile() {
+Form* readDataFile() {
     Form* form = nullptr;
     std::vector<std::string> fields;
     // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
@@ -214,7 +214,7 @@ std::string readDataFile() {
         if (fields.size() > 2) readField(opened, fields[0], fields[2]);
         form = &opened;
     });
-    if (!form) return "";
+    if (!form) return nullptr;
     // From the second key field on, a fault reaches the caller's handler.
     for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
     recheckDates();
@@ -226,7 +226,7 @@ std::string readDataFile() {
     }
     if (form->name() == "F5_TPInfo") refreshTaxpayerStore(*form);
     if (form->name() == "F2_SS_ITIN") showCardPictures(*form);
-    return g().document.catalogue.formTitle;
+    return form;
 }
 
 }  // namespace lw

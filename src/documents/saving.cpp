@@ -3,7 +3,6 @@
 #include "documents/saving.h"
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -26,9 +25,8 @@ namespace {
 
 const char* const kNameLabel = "M4_FileCode:Build_FileName";
 const char* const kSaveLabel = "M4_FileCode:Save_File";
-const char* const kK1Error = "Error K1";
-const char* const kCardsError = "Error SS_ITIN";
-const char* const kCancel = "\xB7";
+// What FormRecord reads once the cards have refused to make their line.
+const char* const kCardsRefused = "Error SS_ITIN";
 // The first template, which the configuration form chooses when the operator has chosen none.
 const char* const kFirstTemplate = "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>";
 
@@ -98,7 +96,7 @@ bool k1RequiredFieldsFilled(Form& form, int& FocusIndex) {
     for (const auto& [index, numberMissing] : {std::pair{number, true}, std::pair{name, false}}) {
         if (!index || !fieldText(form, *index).empty()) continue;
         const K1Rule& rule = k1Rule(g().document.formKey, numberMissing);
-        MA_MBX(kNameLabel, rule.number, rule.message, "OK", false, "", "", "", 1);
+        showMessageBox({kNameLabel, rule.message, rule.number});
         if (Control* tabs = form.find("SSTab1")) tabs->listIndex = rule.tab;
         // saveDataFile's last step focuses FocusIndex: it must land on the same field.
         FocusIndex = *index;
@@ -135,7 +133,7 @@ std::string safeFileName(const std::string& name) {
 
 namespace {
 
-std::string buildFileName(int& FocusIndex) {
+std::optional<std::string> buildFileName(int& FocusIndex) {
     Form* found = loadedCurrentForm();
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
     Form& form = *found;
@@ -144,11 +142,13 @@ std::string buildFileName(int& FocusIndex) {
     if (formKey == "SS_ITIN") {
         std::string name = "SS_ITIN_" + fieldText(form, 1);
         if (!fieldText(form, 3).empty()) name += "_" + fieldText(form, 3);
-        g().document.formRecord = buildRecord();
+        const std::optional<std::string> record = buildRecord();
+        g().document.formRecord = record.value_or(kCardsRefused);
+        if (!record) return std::nullopt;
         return safeFileName(name + "_000");
     }
 
-    if (isK1(formKey) && !k1RequiredFieldsFilled(form, FocusIndex)) return kK1Error;
+    if (isK1(formKey) && !k1RequiredFieldsFilled(form, FocusIndex)) return std::nullopt;
 
     std::string other;
     if (text::isNumeric(g().document.catalogue.otherInfo)) {
@@ -158,7 +158,9 @@ std::string buildFileName(int& FocusIndex) {
 
     FocusIndex = 0;
     validateActiveControl(form);
-    g().document.formRecord = buildRecord();
+    const std::optional<std::string> record = buildRecord();
+    g().document.formRecord = record.value_or("");
+    if (!record) return std::nullopt;
 
     std::string name;
     if (formKey == "SSA1099") {
@@ -202,36 +204,29 @@ std::string buildFileName(int& FocusIndex) {
     return safeFileName(fileName);
 }
 
-// Shows SaveForm for a path that holds a file; true when saveDataFile is still to write it.
-bool askAboutExistingFile(const std::string& path) {
-    Desktop& desktop = program().desktop;
-    auto owned = std::make_unique<SaveForm>();
-    owned->F7_Path = path;
-    g().SaveResult = kSaveResultDone;
-    SaveForm& form = static_cast<SaveForm&>(desktop.load(std::move(owned)));
-    if (form.isLoaded()) desktop.showModal(form);
-    return g().SaveResult != kSaveResultDone;
-}
-
 void saveFile(int& FocusIndex) {
-    std::string name = proposeFileName(FocusIndex);
-    if (text::equalsNoCase(g().document.formRecord, kCardsError) || text::equalsNoCase(name, kK1Error) ||
-        name.empty())
-        return;
+    const std::optional<std::string> proposed = proposeFileName(FocusIndex);
+    if (!proposed || proposed->empty()) return;
 
     const std::string& extension = g().edition.fileExtension;
-    name = replaceNoCase(name, extension, "") + extension;
+    const std::string name = replaceNoCase(*proposed, extension, "") + extension;
 
     std::string path = g().document.currentFileName;
     if (path.empty()) {
         // A remembered folder that has gone would send the dialog astray.
-        verifyRememberedFolder("SAVE");
+        verifyRememberedFolder(FileDialogMode::Save);
         // The path chosen is not kept: the next Save of a new form asks again.
-        path = chooseFileToOpenOrSave(1, name);
-        if (path == kCancel) return;
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Save, name);
+        if (!chosen) return;
+        path = *chosen;
     }
 
-    if (fileExists(path) && !askAboutExistingFile(path)) return;
+    if (fileExists(path)) {
+        const SaveOutcome outcome = SaveForm::run(path);
+        // Kept on the document for the runner, which reads how the last such form ended.
+        g().document.lastSaveOutcome = outcome;
+        if (outcome != SaveOutcome::WriteSamePath) return;
+    }
 
     if (!writeRecord(path, g().document.formRecord, kSaveLabel)) return;
 
@@ -248,8 +243,9 @@ void saveFile(int& FocusIndex) {
 
 }  // namespace
 
-std::string proposeFileName(int& FocusIndex) {
-    return runGuardedOr<std::string>(kNameLabel, std::string(), [&] { return buildFileName(FocusIndex); });
+std::optional<std::string> proposeFileName(int& FocusIndex) {
+    return runGuardedOr<std::optional<std::string>>(kNameLabel, std::nullopt,
+                                                    [&] { return buildFileName(FocusIndex); });
 }
 
 void saveDataFile() {

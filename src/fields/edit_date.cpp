@@ -39,8 +39,8 @@ std::string formTaxYear() {
 void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
     const std::string old = ctl.text;
     ctl.text = old.substr(0, 6) + year;
-    MA_MBX(kSource, number, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---",
-           "OK", false, "", "", "", 1);
+    showMessageBox(
+        {kSource, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---", number});
 }
 
 }  // namespace

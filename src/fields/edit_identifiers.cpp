@@ -75,8 +75,7 @@ std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex) {
                 status->caption = "Duplicate SSN/ITIN number";
                 status->foreColor = kRed;
             }
-            MA_MBX("DuplicateTinCheck", 800, "Duplicate SS/ITIN Number on this screen", "OK", false, "", "",
-                   "", 1);
+            showMessageBox({"DuplicateTinCheck", "Duplicate SS/ITIN Number on this screen"});
             return;
         }
     });

@@ -150,8 +150,7 @@ void FormRrb1099::ComputeRRB(int /*Index*/) {
         // No step here ever clears the flag: only the skipped pass of a later validation does.
         if (shortfall == RrbShortfall::None) return;
         field(kNet).foreColor = kRed;
-        MA_MBX(kComputeLabel, 801, benefitErrorMessage(rrbShortfallReason(shortfall)), "OK", false, "", "",
-               "", 1);
+        showMessageBox({kComputeLabel, benefitErrorMessage(rrbShortfallReason(shortfall)), 801});
         rrbError = true;
     });
 }

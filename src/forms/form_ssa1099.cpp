@@ -152,7 +152,7 @@ void FormSsa1099::ComputeSSA(int Index) {
         }
         field(red).foreColor = kRed;
         const std::string reason = ssaShortfallReason(shortfall, at("RTB3").caption);
-        MA_MBX(kComputeLabel, number, benefitErrorMessage(reason), "OK", false, "", "", "", 1);
+        showMessageBox({kComputeLabel, benefitErrorMessage(reason), number});
         ssaError = true;
     });
 }

@@ -19,7 +19,6 @@ struct Globals {
     UserChoices choices;
     OpenDocument document;
     TaxpayerMemory taxpayers;
-    std::string SaveResult;
 
     // The tax year: Last Year, This Year, Next Year and "20XX".
     std::array<std::string, 4> TaxYears{};

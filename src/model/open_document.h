@@ -1,8 +1,11 @@
 #pragma once
 // The document on the screen: its form, its file, its record, and what the catalogue says of its form.
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "model/save_outcome.h"
 
 namespace lw {
 
@@ -38,6 +41,8 @@ struct OpenDocument {
     std::string formKey;
     std::string currentFileName;
     std::string formRecord;
+    // How the form for an existing file ended the last save that showed it.
+    std::optional<SaveOutcome> lastSaveOutcome;
     std::string lastFieldKey;  // the field the taxpayer fill hands the focus back to
     CatalogueValues catalogue;
     K1DesignValues k1Design;

@@ -36,10 +36,9 @@ void askAndPrint(Form& form) {
     }
     runGuarded("M3_Ledgerwick:Form_Print", [&] {
         if (g().process.debug) {
-            const std::string answer =
-                showMessageBox("Print?", 800, "Do you want to print?", {"Yes", "No", "", ""}, false, 1,
-                               MessageBoxIcon::Question);
-            if (answer == "No") return;
+            MessageBoxRequest ask{"Print?", "Do you want to print?", kNoMessageNumber, {"Yes", "No"}};
+            ask.icon = MessageBoxIcon::Question;
+            if (showMessageBox(ask).button == MessageBoxButton::Second) return;
         }
         if (program().platform.printers().empty())
             throw AppError(kPrinterError,

@@ -379,7 +379,10 @@ std::string ScriptRunner::global(const std::string& name) const {
     if (is("bQuitting")) return flag(g.process.quitting);
     if (is("CommandWords")) return utf8(g.process.commandWords);
     if (is("FormRecord")) return utf8(g.document.formRecord);
-    if (is("SaveResult")) return utf8(g.SaveResult);
+    if (is("SaveResult")) {
+        const std::optional<SaveOutcome>& outcome = g.document.lastSaveOutcome;
+        return outcome ? std::to_string(static_cast<int>(*outcome)) : "";
+    }
     if (is("CurrentForm")) return g.document.currentForm ? g.document.currentForm->name() : "";
     if (auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame())) {
         if (is("VersionMajor")) return frame->VersionMajor;

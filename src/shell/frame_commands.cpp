@@ -62,7 +62,7 @@ bool outputBlocked(Form& active) {
     if (g().document.formKey == "RRB1099" && form->rrbError)
         text = "Error On RRB1099 Form, Correct Before Saving, Printing or Clipping";
     if (!text) return false;
-    MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
+    showMessageBox({"F0_MDI:cmdBtn_Click", text, 801});
     return true;
 }
 

@@ -109,9 +109,12 @@ void setUpTestPath(FrameForm& frame) {
     g().edition.k1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
     installShippedInfFiles(platform().executableFolder(), frame.DevInfFolder);
 
-    std::string answer =
-        MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9);
-    bool venturo = answer == "Venturo";
+    const MessageBoxRequest ask{"Ledgerwick - Testing",
+                                "Choose System to Test",
+                                kNoMessageNumber,
+                                {"Venturo", "Other"},
+                                MessageBoxButton::None};
+    bool venturo = showMessageBox(ask).button == MessageBoxButton::First;
     Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.VersionMajor)
                               : othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor);
     frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
@@ -195,10 +198,10 @@ void onFrameLoad(FrameForm& frame) {
     runGuarded("F0_MDI:FormLoad", [&] {
         g().document.currentForm = &frame;
         if (platform().earlierInstanceRunning()) {
-            MA_MBX("F0_MDI:FormLoad", 800,
-                   "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
-                   "Ledgerwick ICON on the Taskbar to restore.",
-                   "OK", false, "", "", "", 1);
+            showMessageBox(
+                {"F0_MDI:FormLoad",
+                 "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
+                 "Ledgerwick ICON on the Taskbar to restore."});
             std::string title = frame.caption;
             frame.caption.clear();
             platform().activateEarlierInstance(title);

@@ -48,6 +48,15 @@ const Form* formAtHand() {
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
 }
 
+// The message of the box opened last: one still open (a report can come while it is laid out), else the
+// last one answered.
+std::string latestBoxMessage() {
+    const auto forms = program().desktop.forms();
+    for (auto it = forms.rbegin(); it != forms.rend(); ++it)
+        if (const auto* box = dynamic_cast<const MessageBoxForm*>(*it)) return box->request().message;
+    return lastMessageBox() ? lastMessageBox()->message : std::string();
+}
+
 std::string userStoreValue(const std::string& key) {
     return store::readInfValue(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
 }
@@ -135,7 +144,7 @@ const std::map<std::string, Rule>& rules() {
          }},
         {"message-line-without-blank",
          [](const ShownReport&, const SessionFacts&) {
-             std::string message = messageBoxState().message;
+             std::string message = latestBoxMessage();
              for (std::size_t at = message.find("\r\n"); at != std::string::npos;
                   at = message.find("\r\n", at))
                  message.erase(at + 1, 1);

@@ -122,7 +122,8 @@ TEST_F(ConfigureFormTest, ClosingWithNoStatusAsksForOneAndEndsTheProgram) {
     EXPECT_EQ(boxes[0].buttons[1], "Single - S");
     EXPECT_EQ(boxes[0].buttons[2], "Married Filing Joint - MFJ");
     EXPECT_EQ(boxes[0].buttons[3], "");
-    EXPECT_EQ(boxes[0].defaultButton, 1);
+    EXPECT_EQ(boxes[0].defaultButton, MessageBoxButton::First);
+    EXPECT_EQ(boxes[0].answer, MessageBoxButton::Second);
     EXPECT_EQ(g().FilingStatus, "S");
     EXPECT_EQ(ui.quitCalls, 1);
 }
@@ -133,6 +134,14 @@ TEST_F(ConfigureFormTest, TheDefaultAnswerToTheClosingQuestionIsMFS) {
     form->unload();
     EXPECT_EQ(g().FilingStatus, "MFS");
     EXPECT_EQ(ui.quitCalls, 1);
+}
+
+TEST_F(ConfigureFormTest, TheThirdAnswerToTheClosingQuestionIsMFJ) {
+    open();
+    g().FilingStatus.clear();
+    ui.queueAnswer("Married Filing Joint - MFJ");
+    form->unload();
+    EXPECT_EQ(g().FilingStatus, "MFJ");
 }
 
 TEST_F(ConfigureFormTest, RegisteringMakesTheFormAndItsRatesCheckKnown) {

@@ -61,12 +61,13 @@ TEST_F(DiagnosticsTest, DataErrorBoxHasThreeLinesEndedByBareCarriageReturns) {
     EXPECT_EQ(box.height,
               MessageBoxForm::kDesignHeight + MessageBoxForm::kLabelDesignHeight * (lines - 1) + 100);
     EXPECT_EQ(box.record.buttons, (std::array<std::string, 4>{"OK", "", "", ""}));
-    EXPECT_EQ(box.record.defaultButton, 1);
+    EXPECT_EQ(box.record.defaultButton, MessageBoxButton::First);
     EXPECT_FALSE(box.record.showText);
     EXPECT_FALSE(box.text1Visible);
-    EXPECT_EQ(box.record.answer, "");
+    EXPECT_EQ(box.record.answer, MessageBoxButton::None);
     ASSERT_TRUE(lastMessageBox().has_value());
-    EXPECT_EQ(lastMessageBox()->answer, "OK");
+    EXPECT_EQ(lastMessageBox()->answer, MessageBoxButton::First);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "OK");
 }
 
 TEST_F(DiagnosticsTest, ReportFormCarriesProgramModuleNumberDescriptionAndTime) {

@@ -16,7 +16,7 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
     form.at("Text1", 0).text = "MARY A SAMPLE\r\n12 MAIN ST";
     form.at("Text1", 3).text = "1,234.00";
     form.at("Check", 2).caption = "X";
-    const std::string path = write("w2.venturo", buildRecord() + "\r\n");
+    const std::string path = write("w2.venturo", buildRecord().value() + "\r\n");
     open("F4_CHK");
     openFile(path);
     ASSERT_NE(active(), nullptr);
@@ -32,11 +32,16 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
-TEST_F(ReadFile, ReturnsTheTitleOfTheForm) {
+TEST_F(ReadFile, ReturnsTheFormItFilled) {
     g.document.currentFileName = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=A\r\n");
-    EXPECT_EQ(readDataFile(), "TF_W2");
+    Form* read = readDataFile();
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(read, active());
+    EXPECT_EQ(read->name(), "TF_W2");
+    EXPECT_EQ(g.document.catalogue.formTitle, "TF_W2");
+    EXPECT_EQ(read->at("Text1", 0).text, "A");
     g.document.currentFileName.clear();
-    EXPECT_EQ(readDataFile(), "") << "no file, nothing read";
+    EXPECT_EQ(readDataFile(), nullptr) << "no file, nothing read";
 }
 
 TEST_F(ReadFile, TheFileNamesTheFormWhateverIsOnTheScreenAndTheYearInForceStays) {
@@ -153,7 +158,7 @@ TEST_F(ReadFile, FilesThatAreNoRecordAreRefusedUnchangedWithAMessage) {
         test.ui.boxes.clear();
         const std::string path = write(file.name, file.bytes);
         g.document.currentFileName = path;
-        EXPECT_EQ(readDataFile(), "");
+        EXPECT_EQ(readDataFile(), nullptr);
         EXPECT_EQ(active(), before) << "nothing is unloaded for a file that is no record";
         EXPECT_EQ(contents(path), file.bytes);
         ASSERT_EQ(test.ui.boxes.size(), 1u);

@@ -111,8 +111,8 @@ struct Saving : ::testing::Test {
         set(form, 4, "ABC PLUMBING");
         return form;
     }
-    std::string name(int& focus) { return proposeFileName(focus); }
-    std::string name() {
+    std::optional<std::string> name(int& focus) { return proposeFileName(focus); }
+    std::optional<std::string> name() {
         int focus = -1;
         return proposeFileName(focus);
     }
@@ -205,7 +205,7 @@ TEST_F(Saving, ARetirementFormWithABlankPayerHasNoDoubledSeparator) {
     set(form, 4, "123-45-6789");
     for (int i = 0; i < 4; ++i) {
         useTemplate(i);
-        const std::string n = name();
+        const std::string n = name().value_or("");
         EXPECT_EQ(n.find("__"), std::string::npos) << n;
         EXPECT_NE(n.find("_000.venturo"), std::string::npos) << n;
     }
@@ -246,11 +246,20 @@ TEST_F(Saving, OneCardNamesOnePerson) {
     EXPECT_EQ(name(), "SS_ITIN_MARY A SAMPLE_000");
 }
 
+TEST_F(Saving, CardsThatDoNotPairUpProposeNoName) {
+    Form& form = open("F2_SS_ITIN");
+    set(form, 0, "123-45-6789");
+    EXPECT_EQ(name(), std::nullopt);
+    EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
+    ASSERT_EQ(test.ui.boxes.size(), 1u);
+    EXPECT_NE(lastBox().find("One or more SS or ITIN cards has a Number without a Name"), std::string::npos);
+}
+
 TEST_F(Saving, NameIsMandatory) {
     Form& form = w2("");
     set(form, 0, "");
     int focus = -1;
-    EXPECT_EQ(name(focus), "");
+    EXPECT_EQ(name(focus), std::nullopt);
     EXPECT_EQ(focus, 0);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos) << lastBox();
@@ -262,7 +271,7 @@ TEST_F(Saving, TheNumberIsMandatoryAndTakesTheFocus) {
     Form& form = open("TF_1099R");
     set(form, 7, "MARY SAMPLE");
     int focus = -1;
-    EXPECT_EQ(name(focus), "");
+    EXPECT_EQ(name(focus), std::nullopt);
     EXPECT_EQ(focus, 4);
     EXPECT_NE(lastBox().find("Social Security/Taxpayer ID Number is MANDATORY"), std::string::npos)
         << lastBox();
@@ -306,7 +315,7 @@ TEST_P(SavingK1, BothNumberAndNameAreRequiredNumberFirst) {
     Control* tabs = form.find("SSTab1");
     if (tabs) tabs->listIndex = 1 - c.tab;
     int focus = -1;
-    EXPECT_EQ(name(focus), "Error K1");
+    EXPECT_EQ(name(focus), std::nullopt);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(lastBox().find(c.message), std::string::npos) << lastBox();
     if (*c.numberLine) {
@@ -408,6 +417,7 @@ TEST_F(Saving, CardsThatDoNotPairUpAreNotSaved) {
     Form& form = open("F2_SS_ITIN");
     set(form, 0, "123-45-6789");
     test.ui.fileAnswers.push_back((forms() / "cards.venturo").string());
+    g.document.formRecord = "stale";
     saveDataFile();
     EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
     EXPECT_TRUE(test.ui.fileDialogs.empty());
@@ -421,8 +431,21 @@ TEST_F(Saving, AnExistingFileLeftWithoutAnAnswerIsKept) {
     test.ui.fileAnswers.push_back(path.string());
     saveDataFile();
     EXPECT_EQ(readFile(path), "OLD\r\n");
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
+    EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::Done);
     EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
+}
+
+TEST_F(Saving, AnExistingFileKeptUnderItsNameIsOverwritten) {
+    w2();
+    const fs::path path = forms() / "kept.venturo";
+    std::ofstream(path, std::ios::binary) << "OLD\r\n";
+    test.ui.fileAnswers.push_back(path.string());
+    test.ui.saveFormPresses = {"cmdSave"};
+    saveDataFile();
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u);
+    EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::WriteSamePath);
+    EXPECT_EQ(g.document.currentForm->at("labelMisc").foreColor, 255u);
 }
 
 TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {

@@ -134,7 +134,8 @@ TEST_F(DuplicateTins, TheFirstNineFieldsAreComparedWhateverTheListHolds) {
     EXPECT_EQ(ui.boxes[0].number, 800);
     EXPECT_EQ(ui.boxes[0].message, "Duplicate SS/ITIN Number on this screen");
     EXPECT_EQ(ui.boxes[0].buttons[0], "OK");
-    EXPECT_EQ(ui.boxes[0].answer, "OK");
+    EXPECT_EQ(ui.boxes[0].answer, MessageBoxButton::First);
+    EXPECT_EQ(ui.boxes[0].answerCaption(), "OK");
 }
 
 TEST_F(DuplicateTins, TheFirstDuplicateIsTheOneReported) {
