@@ -81,8 +81,11 @@ void FormView::detach() {
     hide();
 }
 
+Desktop* FormView::desktop() const { return form_ && hasProgram() ? form_->desktop() : nullptr; }
+
 bool FormView::isModelFocus(const Control& control) const {
-    return hasProgram() && program().desktop.focus() == &control;
+    const Desktop* on = desktop();
+    return on && on->focus() == &control;
 }
 
 namespace {
@@ -193,9 +196,10 @@ QWidget* FormView::createLineField(Control& control) {
 QWidget* FormView::createComboBox(Control& control) {
     auto* combo = new QComboBox(this);
     connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, &control](int row) {
-        if (!form_ || row < 0 || row >= static_cast<int>(control.items.size())) return;
+        Desktop* on = desktop();
+        if (!on || row < 0 || row >= static_cast<int>(control.items.size())) return;
         const std::string entry = control.items[static_cast<size_t>(row)];
-        forwardInput([&] { program().desktop.choose(control, entry); });
+        forwardInput([&] { on->choose(control, entry); });
     });
     return combo;
 }
@@ -207,14 +211,14 @@ QWidget* FormView::createCommandButton(Control& control) {
         tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         tool->setIcon(commandIcon(control.picture));
         connect(tool, &QToolButton::clicked, this, [this, &control] {
-            if (form_) forwardInput([&] { program().desktop.click(control); });
+            if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
         });
         return tool;
     }
     auto* push = new QPushButton(this);
     push->setAutoDefault(false);
     connect(push, &QPushButton::clicked, this, [this, &control] {
-        if (form_) forwardInput([&] { program().desktop.click(control); });
+        if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
     });
     return push;
 }
@@ -223,7 +227,7 @@ QWidget* FormView::createOptionButton(Control& control) {
     auto* option = new QRadioButton(this);
     option->setAutoExclusive(false);
     connect(option, &QRadioButton::clicked, this, [this, &control] {
-        if (form_) forwardInput([&] { program().desktop.click(control); });
+        if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
     });
     return option;
 }
@@ -294,8 +298,9 @@ void FormView::refresh() {
 }
 
 void FormView::placeFocus() {
-    if (!form_ || !hasProgram()) return;
-    Desktop& desktop = program().desktop;
+    Desktop* on = desktop();
+    if (!on) return;
+    Desktop& desktop = *on;
     Control* focus = desktop.focus();
     QWidget* target = nullptr;
     if (focus && focus->form == form_) {

@@ -65,6 +65,8 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
+    // The desktop the form stands on; none once it has left it or the program has ended.
+    Desktop* desktop() const;
     QSize extent_;
     // The widget that edits a control, by its kind: a field of one line or of lines, a list to choose
     // from, a button or an option button; none for a control the face paints.

@@ -28,11 +28,8 @@ MouseButton modelButton(Qt::MouseButton button) {
     }
 }
 
-// The desktop a form stands on; none once the form has left it or the program has ended.
-Desktop* desktopOf(const Form* form) { return form && hasProgram() ? form->desktop() : nullptr; }
-
-void refuse(const Form* form, const std::string& why) {
-    if (Desktop* desktop = desktopOf(form)) desktop->ui().inputRefused(why);
+void refuse(Desktop* on, const std::string& why) {
+    if (on) on->ui().inputRefused(why);
 }
 
 const char* const kNotInCodePage =
@@ -70,25 +67,25 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool FormView::forwardKey(Control* control, QKeyEvent* event) {
-    Desktop* desktop = desktopOf(form_);
-    if (!desktop) return true;
+    Desktop* on = desktop();
+    if (!on) return true;
     const std::optional<ModelKey> key = modelKey(*event);
     if (!key) {
-        refuse(form_, kNotInCodePage);
+        refuse(on, kNotInCodePage);
         return true;
     }
     if (!key->tab && key->keyCode == 0 && key->keyAscii == 0) return true;  // a key the model has no code for
     if (key->keyAscii == keys::kCtrlV && !toCp1252(QApplication::clipboard()->text())) {
-        refuse(form_, kClipboardNotInCodePage);
+        refuse(on, kClipboardNotInCodePage);
         return true;
     }
     forwardInput([&] {
         if (key->tab) {
-            desktop->tab(key->backwards);
+            on->tab(key->backwards);
             return;
         }
-        desktop->pressKey(key->keyCode, key->shift, key->keyAscii);
-        for (char c : key->more) desktop->typeCharacter(c);
+        on->pressKey(key->keyCode, key->shift, key->keyAscii);
+        for (char c : key->more) on->typeCharacter(c);
     });
     // A closed list steps through its entries with the arrows and opens with Alt+Down or F4.
     if (form_ && control && control->kind == ControlKind::ComboBox && isModelFocus(*control) && !key->tab) {
@@ -101,7 +98,7 @@ bool FormView::forwardKey(Control* control, QKeyEvent* event) {
             const int next = control->listIndex + step;
             if (next >= 0 && next < static_cast<int>(control->items.size())) {
                 const std::string entry = control->items[static_cast<size_t>(next)];
-                forwardInput([&] { desktop->choose(*control, entry); });
+                forwardInput([&] { on->choose(*control, entry); });
             }
         }
     }
@@ -109,15 +106,15 @@ bool FormView::forwardKey(Control* control, QKeyEvent* event) {
 }
 
 void FormView::forwardCommitted(const QString& text) {
-    Desktop* desktop = desktopOf(form_);
-    if (!desktop || text.isEmpty()) return;
+    Desktop* on = desktop();
+    if (!on || text.isEmpty()) return;
     const std::optional<std::string> bytes = toCp1252(text);
     if (!bytes) {
-        refuse(form_, kNotInCodePage);
+        refuse(on, kNotInCodePage);
         return;
     }
     forwardInput([&] {
-        for (char c : *bytes) desktop->typeCharacter(c);
+        for (char c : *bytes) on->typeCharacter(c);
     });
 }
 
@@ -125,8 +122,8 @@ bool FormView::forwardTextMouse(Control& control, QEvent* event) {
     auto* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
         case QEvent::MouseButtonPress:
-            if (Desktop* desktop = desktopOf(form_))
-                forwardInput([&] { desktop->click(control, modelButton(mouse->button())); });
+            if (Desktop* on = desktop())
+                forwardInput([&] { on->click(control, modelButton(mouse->button())); });
             // The caret is placed only in a field the model let the focus into.
             return !form_ || mouse->button() != Qt::LeftButton || !isModelFocus(control);
         case QEvent::MouseButtonDblClick:
@@ -144,25 +141,25 @@ bool FormView::forwardComboMouse(Control& control, QEvent* event) {
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick)
         return false;
     if (mouse->button() != Qt::LeftButton) return true;
-    Desktop* desktop = desktopOf(form_);
-    if (desktop && !isModelFocus(control)) forwardInput([&] { desktop->setFocus(control); });
+    Desktop* on = desktop();
+    if (on && !isModelFocus(control)) forwardInput([&] { on->setFocus(control); });
     return !form_ || !isModelFocus(control);
 }
 
 void FormView::mousePressEvent(QMouseEvent* event) {
     Control* control = controlAt(event->position().toPoint());
-    Desktop* desktop = desktopOf(form_);
-    if (!control || !desktop) return;
+    Desktop* on = desktop();
+    if (!control || !on) return;
     const ControlKind kind = control->kind;
     if (kind == ControlKind::TabControl || kind == ControlKind::Grid || kind == ControlKind::ListBox) {
         const int entry = entryAt(*control, event->position().toPoint(), kScreenScale);
         if (entry < 0 || event->button() != Qt::LeftButton) return;
         const std::string chosen = control->items[static_cast<size_t>(entry)];
-        forwardInput([&] { desktop->choose(*control, chosen); });
+        forwardInput([&] { on->choose(*control, chosen); });
         return;
     }
     const MouseButton button = modelButton(event->button());
-    forwardInput([&] { desktop->click(*control, button); });
+    forwardInput([&] { on->click(*control, button); });
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent*) {
