@@ -96,7 +96,7 @@ private:
     static Finding quotedValue(const std::string& value, const std::string& wanted) {
         return {value == wanted, "\"" + value + "\""};
     }
-    Program& program() const { return *runner_.program_; }
+    Desktop& desktop() const { return runner_.program_->desktop; }
 
     ScriptRunner& runner_;
     headless::Session& session_;
@@ -283,7 +283,7 @@ Finding ScriptRunner::Checks::menu() {
     const std::size_t dot = words_[2].find('.');
     if (dot == std::string::npos) throw ScriptError("expect menu needs ITEM.PROP");
     const std::string name = words_[2].substr(0, dot);
-    Form* frame = program().desktop.frame();
+    Form* frame = desktop().frame();
     MenuItem* item = frame ? frame->findMenu(name) : nullptr;
     if (!item) throw ScriptError("no menu item " + name);
     return quotedValue(menuProperty(*item, words_[2].substr(dot + 1)), words_[3]);
@@ -296,7 +296,7 @@ Finding ScriptRunner::Checks::printer() {
 
 Finding ScriptRunner::Checks::form() {
     need(words_, 3, "expect form NAME");
-    Form* active = program().desktop.activeChild();
+    Form* active = desktop().activeChild();
     const std::string name = active ? active->name() : "none";
     return {text::equalsNoCase(name, words_[2]), name};
 }
@@ -304,7 +304,7 @@ Finding ScriptRunner::Checks::form() {
 Finding ScriptRunner::Checks::focus() {
     need(words_, 3, "expect focus CTL");
     Control& wanted = runner_.control(words_[2]);
-    Control* focused = program().desktop.focus();
+    Control* focused = desktop().focus();
     return {focused == &wanted, focused ? focused->key() : "nothing"};
 }
 
