@@ -6,17 +6,17 @@
 
 #include "fixed_platform.h"
 #include "forms/k1_help.h"
+#include "headless/headless_ui.h"
 #include "model/program.h"
-#include "script/script_ui.h"
 
-namespace lw::script {
+namespace lw::headless {
 namespace {
 
 // The script's answers to the list of K-1 codes, on a small K-1 with one coded row.
 struct ScriptK1Answers : ::testing::Test {
     std::ostringstream out;
     Session session;
-    ScriptUi ui{session};
+    HeadlessUi ui{session};
     testing::FixedPlatform platform;
     std::unique_ptr<Program> program;
     std::filesystem::path folder;
@@ -98,4 +98,4 @@ TEST_F(ScriptK1Answers, ACodeTheListDoesNotHoldIsAFaultOfTheScript) {
 }
 
 }  // namespace
-}  // namespace lw::script
+}  // namespace lw::headless
