@@ -1,5 +1,5 @@
 // The checks of a script: one function for each kind of `expect`, found in a table by the word that
-// follows `expect`, and the program-wide values `expect global` reads.
+// follows `expect`.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -328,73 +328,6 @@ void ScriptRunner::check(const std::vector<std::string>& words) {
     need(words, 2, "expect ...");
     const Finding found = Checks(*this, words).run();
     expectThat(found.held, found.got);
-}
-
-std::string ScriptRunner::global(const std::string& name) const {
-    const Globals& g = program_->g;
-    auto is = [&](const char* n) { return text::equalsNoCase(name, n); };
-    if (text::startsWithNoCase(name, "TaxYears(") && name.back() == ')') {
-        std::string digits = name.substr(9, name.size() - 10);
-        if (digits.size() != 1 || digits[0] < '0' || digits[0] > '3')
-            throw ScriptError("bad index in " + name);
-        return utf8(g.taxYear.textOf(static_cast<TaxYearChoice::Slot>(digits[0] - '0')));
-    }
-    if (text::startsWithNoCase(name, "LegendColors(") && name.back() == ')') {
-        std::string digits = name.substr(13, name.size() - 14);
-        if (digits.size() != 1 || !std::isdigit(static_cast<unsigned char>(digits[0])))
-            throw ScriptError("bad index in " + name);
-        return std::to_string(g.edition.legendColors[digits[0] - '0']);
-    }
-    if (is("FormKey")) return utf8(g.document.formKey);
-    if (is("CurrentFileName")) return utf8(g.document.currentFileName);
-    if (is("TaxYearIndex")) return std::to_string(g.taxYear.index());
-    if (is("SSRate")) return utf8(g.rates.socialSecurityRate.text());
-    if (is("SSMax")) return utf8(g.rates.socialSecurityWageBase.text());
-    if (is("MCInitRate")) return utf8(g.rates.medicareRate.text());
-    if (is("MCChgRateAfter")) return utf8(g.rates.medicareChangePoint.text());
-    if (is("MCRateAfter")) return utf8(g.rates.medicareRateAfter.text());
-    if (is("MCPartBPremium")) return utf8(g.rates.partBPremium.text());
-    if (is("MCPartBIncome")) return utf8(g.rates.partBIncomeLimit.text());
-    if (is("FilingStatus")) return filingStatusWord(g.rates.filingStatus);
-    if (is("LastFieldKey")) return utf8(g.document.lastFieldKey);
-    if (is("UserNameUC")) return utf8(g.process.userNameUpper);
-    if (is("ComputerNameUC")) return utf8(g.process.computerNameUpper);
-    if (is("UserInfFile")) return utf8(g.edition.userInfFile);
-    if (is("FormsInfFile")) return utf8(g.edition.formsInfFile);
-    if (is("SSMCInfFile")) return utf8(g.edition.ssmcInfFile);
-    if (is("K1HelpInfFile")) return utf8(g.edition.k1HelpInfFile);
-    if (is("PicturesFolder")) return utf8(g.edition.picturesFolder);
-    if (is("UserGuideFile")) return utf8(g.edition.userGuideFile);
-    if (is("FileExtension")) return utf8(g.edition.fileExtension);
-    if (is("FileFilter")) {
-        std::string shown = g.edition.fileFilter;
-        for (char& c : shown)
-            if (c == '\0') c = '|';
-        return utf8(shown);
-    }
-    if (is("LastOpenFolder")) return utf8(g.choices.lastOpenFolder);
-    if (is("LastSaveFolder")) return utf8(g.choices.lastSaveFolder);
-    if (is("bDebug")) return flag(g.process.debug);
-    if (is("bStartup")) return flag(g.process.starting);
-    if (is("bQuitting")) return flag(g.process.quitting);
-    if (is("CommandWords")) return utf8(g.process.commandWords);
-    if (is("FormRecord")) return utf8(g.document.formRecord);
-    if (is("SaveResult")) {
-        const std::optional<SaveOutcome>& outcome = g.document.lastSaveOutcome;
-        return outcome ? std::to_string(static_cast<int>(*outcome)) : "";
-    }
-    if (is("CurrentForm")) return g.document.currentForm ? g.document.currentForm->name() : "";
-    if (auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame())) {
-        if (is("VersionMajor")) return frame->VersionMajor;
-        if (is("VersionFull")) return frame->VersionFull;
-        if (is("TaxFormsFolder")) return utf8(frame->TaxFormsFolder);
-        if (is("IconFile")) return utf8(frame->IconFile);
-        if (is("DevAppFolder")) return utf8(frame->DevAppFolder);
-        if (is("DevSharedFolder")) return utf8(frame->DevSharedFolder);
-        if (is("FrameCaption")) return utf8(frame->caption);
-        if (is("bTaskbarHidden")) return flag(frame->bTaskbarHidden);
-    }
-    throw ScriptError("unknown global " + name);
 }
 
 }  // namespace lw::script
