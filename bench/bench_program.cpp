@@ -64,11 +64,11 @@ bool BenchProgram::start() {
 }
 
 void setWithholdingRates(Globals& g) {
-    g.SSRate = "6.2";
-    g.SSMax = "168,600";
-    g.MCInitRate = "1.45";
-    g.MCChgRateAfter = "200,000";
-    g.MCRateAfter = "2.35";
+    g.rates.set(RateItem::SocialSecurityRate, "6.2");
+    g.rates.set(RateItem::SocialSecurityWageBase, "168,600");
+    g.rates.set(RateItem::MedicareRate, "1.45");
+    g.rates.set(RateItem::MedicareChangePoint, "200,000");
+    g.rates.set(RateItem::MedicareRateAfter, "2.35");
 }
 
 OpenedForm::OpenedForm(benchmark::State& state, const std::string& formName) {

@@ -116,7 +116,7 @@ void SaveFile(benchmark::State& state) {
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
     for (auto _ : state) {
-        const std::string bytes = buildRecord() + "\r\n";
+        const std::string bytes = buildRecord().value_or("") + "\r\n";
         if (!store::writeFileAtomically(path, bytes, error)) {
             state.SkipWithError(error.c_str());
             break;
@@ -132,15 +132,16 @@ void ReadFile(benchmark::State& state) {
     fillW2(*opened.form);
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
-    if (!store::writeFileAtomically(path, buildRecord() + "\r\n", error)) {
+    if (!store::writeFileAtomically(path, buildRecord().value_or("") + "\r\n", error)) {
         state.SkipWithError(error.c_str());
         return;
     }
-    opened.bench.program->g.CurrentFileName = path.string();
+    opened.bench.program->g.document.currentFileName = path.string();
     for (auto _ : state) {
-        const std::string title = readDataFile();
-        if (title != "TF_W2") {
-            state.SkipWithError(("the file read as " + title).c_str());
+        const Form* read = readDataFile();
+        if (!read || read->name() != "TF_W2") {
+            state.SkipWithError(
+                ("the file read as " + (read ? read->name() : std::string("nothing"))).c_str());
             break;
         }
     }

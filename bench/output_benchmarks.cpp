@@ -43,7 +43,7 @@ void RenderHundredW2(benchmark::State& state) {
         for (int i = 0; i < 100; ++i) {
             opened.form->at("Text1", 5).text = std::to_string(40000 + i) + ".00";
             files.push_back((folder / ("w2-" + std::to_string(i) + ".venturo")).string());
-            std::ofstream(files.back(), std::ios::binary) << buildRecord() << "\r\n";
+            std::ofstream(files.back(), std::ios::binary) << buildRecord().value_or("") << "\r\n";
         }
     }
     render::RenderOptions options;

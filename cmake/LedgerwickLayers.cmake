@@ -1,4 +1,6 @@
-# One static library per layer; a layer below ui/ may not link Qt.
+# One static library per layer; a layer below ui/ may not link Qt (checked by the module included here).
+include(${CMAKE_CURRENT_LIST_DIR}/LedgerwickEngineWithoutQt.cmake)
+
 function(lw_layer name)
   cmake_parse_arguments(L "" "" "SOURCES;DEPS" ${ARGN})
   add_library(lw_${name} STATIC ${L_SOURCES})

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kListBuffer = 1 << 20;
 
 std::vector<std::string> entries(const std::string& file, const std::string& section) {
-    std::vector<std::string> lines = store::ReadINFSection(section, file, kListBuffer);
+    std::vector<std::string> lines = store::readInfSection(section, file, kListBuffer);
     if (lines.empty()) throw std::runtime_error(file + " has no entries under [" + section + "]");
     return lines;
 }
@@ -57,7 +57,8 @@ CaseLists readCaseLists(const std::string& file) {
     for (const std::string& line : entries(file, "Employers")) {
         auto f = fieldsOf(line, 4, file, "Employers");
         const auto pay = [&](const std::string& dollars) {
-            if (dollars.empty() || dollars.find_first_not_of("0123456789") != std::string::npos || dollars.size() > 9)
+            if (dollars.empty() || dollars.find_first_not_of("0123456789") != std::string::npos ||
+                dollars.size() > 9)
                 throw std::runtime_error(file + " [Employers]: \"" + line + "\" has no yearly pay from-to");
             return std::stoll(dollars);
         };

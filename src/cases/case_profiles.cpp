@@ -19,15 +19,24 @@ struct KindKey {
 };
 
 constexpr KindKey kKinds[] = {
-    {DocumentKind::W2, "W2"},          {DocumentKind::W2G, "W2G"},
-    {DocumentKind::Interest, "INT"},   {DocumentKind::Dividends, "DIV"},
-    {DocumentKind::Nonemployee, "NEC"}, {DocumentKind::PaymentCard, "K"},
-    {DocumentKind::Pension, "R"},      {DocumentKind::FederalAnnuity, "CSA"},
-    {DocumentKind::SocialSecurity, "SSA"}, {DocumentKind::Railroad, "RRB"},
-    {DocumentKind::Unemployment, "G"}, {DocumentKind::Mortgage, "1098"},
-    {DocumentKind::StudentLoan, "1098E"}, {DocumentKind::Tuition, "1098T"},
-    {DocumentKind::Marketplace, "1095A"}, {DocumentKind::PartnerK1, "K1"},
-    {DocumentKind::Cards, "CARDS"},    {DocumentKind::License, "DL"},
+    {DocumentKind::W2, "W2"},
+    {DocumentKind::W2G, "W2G"},
+    {DocumentKind::Interest, "INT"},
+    {DocumentKind::Dividends, "DIV"},
+    {DocumentKind::Nonemployee, "NEC"},
+    {DocumentKind::PaymentCard, "K"},
+    {DocumentKind::Pension, "R"},
+    {DocumentKind::FederalAnnuity, "CSA"},
+    {DocumentKind::SocialSecurity, "SSA"},
+    {DocumentKind::Railroad, "RRB"},
+    {DocumentKind::Unemployment, "G"},
+    {DocumentKind::Mortgage, "1098"},
+    {DocumentKind::StudentLoan, "1098E"},
+    {DocumentKind::Tuition, "1098T"},
+    {DocumentKind::Marketplace, "1095A"},
+    {DocumentKind::PartnerK1, "K1"},
+    {DocumentKind::Cards, "CARDS"},
+    {DocumentKind::License, "DL"},
     {DocumentKind::Check, "CHECK"},
 };
 
@@ -54,7 +63,8 @@ Range parseRange(const std::string& value, const std::string& where) {
     const std::vector<std::string> ends = text::split(value, "-");
     auto number = [&](const std::string& piece) {
         const std::string digits = text::trim(piece);
-        if (digits.empty() || digits.size() > 12 || digits.find_first_not_of("0123456789") != std::string::npos)
+        if (digits.empty() || digits.size() > 12 ||
+            digits.find_first_not_of("0123456789") != std::string::npos)
             throw std::runtime_error(where + ": \"" + value + "\" is not a number or a range lo-hi");
         return std::stoll(digits);
     };
@@ -66,7 +76,7 @@ Range parseRange(const std::string& value, const std::string& where) {
 }
 
 std::string valueOf(const std::string& section, const std::string& key, const std::string& file) {
-    return store::ReadINF(section, key, "", file);
+    return store::readInfValue(section, key, "", file);
 }
 
 }  // namespace
@@ -119,7 +129,8 @@ std::vector<Profile> readProfiles(const std::string& file) {
             if (!amount.empty()) rule.amount = parseRange(amount, where + " " + amountKey);
             const std::string shareKey = std::string(entry.key) + ".WorkShare";
             if (const std::string share = valueOf(section, shareKey, file); !share.empty())
-                rule.workShare = static_cast<int>(std::clamp<long long>(parseRange(share, where + " " + shareKey).lo, 1, 100));
+                rule.workShare = static_cast<int>(
+                    std::clamp<long long>(parseRange(share, where + " " + shareKey).lo, 1, 100));
             profile.documents.push_back(rule);
         }
         profiles.push_back(profile);

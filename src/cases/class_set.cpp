@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 #include "cases/batched_disk.h"
@@ -12,6 +13,7 @@
 #include "cases/dice.h"
 #include "cases/household.h"
 #include "cases/operator_script.h"
+#include "config/rates.h"
 #include "render/render_job.h"
 #include "script/script_runner.h"
 #include "store/atomic_file.h"
@@ -95,7 +97,8 @@ std::string whatWentWrong(const std::string& played) {
 
 std::string userRootFolder() {
     if (const char* root = std::getenv("LEDGERWICK_ROOT"); root && *root) return root;
-    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data) return std::string(data) + "/ledgerwick";
+    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data)
+        return std::string(data) + "/ledgerwick";
     const char* home = std::getenv("HOME");
     return std::string(home ? home : ".") + "/.local/share/ledgerwick";
 }
@@ -135,12 +138,13 @@ ClassSet::ClassSet(ClassSetOptions options, std::string shippedFolder, std::stri
         for (const Profile& profile : profiles_) chosen_.push_back(&profile);
     const std::string ssmc = (fs::path(shippedFolder_) / "SSMC.inf").string();
     const std::string year = std::to_string(options_.year);
-    const std::string base = store::ReadINF(year, "SSMax", "", ssmc);
-    if (options_.year < 1900 || options_.year > 2999 || base.empty() ||
-        store::ReadINF(year, "SSRate", "", ssmc).empty())
+    const Rates rates = readYearRates(year, ssmc, FilingStatus::NotChosen);
+    const std::optional<text::Currency> base = rates.socialSecurityWageBase.value();
+    if (options_.year < 1900 || options_.year > 2999 || !base || rates.socialSecurityRate.text().empty())
         throw ClassSetRefused{"there are no Social Security and Medicare figures for the year " + year +
                               " in " + ssmc};
-    socialSecurityMax_ = std::atoll(base.c_str());
+    // Whole dollars, the cents cut off.
+    socialSecurityMax_ = base->raw() / text::Currency::kScale;
     if (store::ScratchFolder("ledgerwick-cases").path().empty())
         throw ClassSetRefused{"no temporary folder can be made (see TMPDIR) for the program to work in"};
     if (options_.out.empty() || !canWriteInto(options_.out))
@@ -167,7 +171,8 @@ int ClassSet::make(std::ostream& log, const std::function<void(int, int)>& progr
     // Cases half made by a set that was stopped are no cases.
     for (const auto& entry : fs::directory_iterator(out, gone)) {
         const std::string name = entry.path().filename().string();
-        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial") fs::remove_all(entry.path(), gone);
+        if (name.rfind("case-", 0) == 0 && entry.path().extension() == ".partial")
+            fs::remove_all(entry.path(), gone);
     }
     {
         BatchedDisk batched;

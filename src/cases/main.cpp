@@ -7,7 +7,7 @@
 #include "cases/case_arguments.h"
 #include "cases/cases_window.h"
 #include "cases/class_set.h"
-#include "script/headless_program.h"
+#include "headless/headless_program.h"
 
 int main(int argc, char** argv) {
     // The printed pages list their fonts in the order of a hash table: a fixed seed keeps that order, and
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
         std::cerr << "ledgerwick-cases: " << error << "\n" << lw::cases::kCasesUsage;
         return 2;
     }
-    const std::string shipped = lw::script::shippedFilesOf(argv[0]);
+    const std::string shipped = lw::headless::shippedFilesOf(argv[0]);
     const std::string userRoot = lw::cases::userRootFolder();
     if (parsed->window) {
         QApplication app(argc, argv);
@@ -38,13 +38,12 @@ int main(int argc, char** argv) {
             return 2;
         }
     }
-    lw::script::prepareHeadlessQt();
+    lw::headless::prepareHeadlessQt();
     QApplication app(argc, argv);
     try {
         lw::cases::ClassSet set(parsed->options, shipped, userRoot);
-        const int failed = set.make(std::cerr, [](int done, int count) {
-            std::cout << "case " << done << " of " << count << "\n";
-        });
+        const int failed = set.make(
+            std::cerr, [](int done, int count) { std::cout << "case " << done << " of " << count << "\n"; });
         std::cout << (parsed->options.count - failed) << " cases made in " << parsed->options.out << "\n";
         return failed == 0 ? 0 : 1;
     } catch (const lw::cases::ClassSetRefused& refused) {

@@ -1,11 +1,16 @@
 #include "catalogue/catalogue_table.h"
 
+#include <iterator>
+
 #include "text/case.h"
 
 namespace lw {
 
-const std::vector<CatalogueEntry>& catalogue() {
-    static const std::vector<CatalogueEntry> table = {
+namespace {
+
+// The papers that say who the taxpayer is, and a blank check.
+std::vector<CatalogueEntry> identityDocuments() {
+    return {
         {"F5_TPInfo",
          "TPINFO",
          "TPInfo",
@@ -23,8 +28,20 @@ const std::vector<CatalogueEntry>& catalogue() {
          0,
          kNoTaxYear},
         {"F4_CHK", "CHK", "CHK", "mnuIDFormsCHK", "Blank Check", {{"Text1", 4}}, 0, kNoTaxYear},
+    };
+}
+
+// Wages and gambling winnings.
+std::vector<CatalogueEntry> wageStatements() {
+    return {
         {"TF_W2", "W2", "W2", "mnuW2", "W-2 (Wage and Tax Statement)", {{"Text1", 46}}, 3},
         {"TF_W2G", "W2G", "W2G", "mnuW2G", "W2-G (Certain Gambling Winnings)", {{"Text1", 22}}, 1},
+    };
+}
+
+// The 1099 returns of income, proceeds and distributions.
+std::vector<CatalogueEntry> informationReturns1099() {
+    return {
         {"TF_1099A", "1099A", "1099A", "mnu1099A", "1099-A (Abandonment of Property)", {{"Text1", 9}}, 2},
         {"TF_1099B",
          "1099B",
@@ -97,6 +114,12 @@ const std::vector<CatalogueEntry>& catalogue() {
          4,
          0,
          {{}, {2, 3, 4}}},
+    };
+}
+
+// Mortgage interest, student loan interest and tuition.
+std::vector<CatalogueEntry> statements1098() {
+    return {
         {"TF_1098", "1098", "1098", "mnu1098", "1098 (Mortgage Interest Statement)", {{"Text1", 15}}, 2},
         {"TF_1098E",
          "1098E",
@@ -114,6 +137,12 @@ const std::vector<CatalogueEntry>& catalogue() {
          {{"Text1", 11}},
          4,
          kWholeOnPaper},
+    };
+}
+
+// Social Security, railroad and federal retirement benefits.
+std::vector<CatalogueEntry> benefitStatements() {
+    return {
         {"TF_SSA1099",
          "SSA1099",
          "SSA1099",
@@ -142,6 +171,12 @@ const std::vector<CatalogueEntry>& catalogue() {
          "CSF-1099R (Federal Death Benefit)",
          {{"Text1", 14}},
          0},
+    };
+}
+
+// A beneficiary's, partner's or shareholder's share of an entity's income.
+std::vector<CatalogueEntry> scheduleK1s() {
+    return {
         {"TF_K11041",
          "K11041",
          "K11041",
@@ -167,6 +202,12 @@ const std::vector<CatalogueEntry>& catalogue() {
          "Schedule K-1 (Form 1120-S) Shareholder's Share of Income, Deductions, Credits. etc.",
          {{"Text1", 14}, {"Text2", 26}, {"Text3", 26}, {"Text4", 26}, {"Text5", 26}},
          4},
+    };
+}
+
+// Health coverage and the offers of it.
+std::vector<CatalogueEntry> healthCoverageForms() {
+    return {
         {"TF_1095A", "1095A", "1095A", "mnu1095A", "1095-A (Parts I, II and III)", {{"Text1", 77}}, 2},
         {"TF_1095B", "1095B", "1095B", "mnu1095B", "Form 1095-B (Health Coverage)", {{"Text1", 34}}, 80},
         {"TF_1095C",
@@ -176,6 +217,12 @@ const std::vector<CatalogueEntry>& catalogue() {
          "Form 1095-C (Employer-Provided Health Insurance Offer/Coverage)",
          {{"Text1", 80}},
          81},
+    };
+}
+
+// The rates and the printer.
+std::vector<CatalogueEntry> configurationForm() {
+    return {
         {"F1_Configure",
          "CONFIGURE",
          "Configure",
@@ -184,6 +231,22 @@ const std::vector<CatalogueEntry>& catalogue() {
          {},
          0},
     };
+}
+
+}  // namespace
+
+const std::vector<CatalogueEntry>& catalogue() {
+    // One table, its groups in this order: the forms are registered and looked up in it.
+    static const std::vector<CatalogueEntry> table = [] {
+        std::vector<CatalogueEntry> all;
+        for (auto group : {identityDocuments, wageStatements, informationReturns1099, statements1098,
+                           benefitStatements, scheduleK1s, healthCoverageForms, configurationForm}) {
+            std::vector<CatalogueEntry> entries = group();
+            all.insert(all.end(), std::make_move_iterator(entries.begin()),
+                       std::make_move_iterator(entries.end()));
+        }
+        return all;
+    }();
     return table;
 }
 

@@ -105,38 +105,42 @@ std::vector<std::string> captionsOf(const std::string& value) {
     return captions;
 }
 
-void readProperty(LineReader& line, const std::string& word, ControlDefinition& designed) {
+// A flag: a word alone that turns a property on or off.
+void readFlag(LineReader& line, const std::string& word, Control& c) {
+    if (word == "locked")
+        c.locked = true;
+    else if (word == "nostop")
+        c.tabStop = false;
+    else if (word == "hidden")
+        c.visible = false;
+    else if (word == "disabled")
+        c.enabled = false;
+    else if (word == "multi")
+        c.multiLine = true;
+    else if (word == "bold")
+        c.fontBold = true;
+    else if (word == "italic")
+        c.fontItalic = true;
+    else if (word == "opaque")
+        c.opaque = true;
+    else if (word == "transparent")
+        c.opaque = false;
+    else if (word == "wrap")
+        c.wordWrap = true;
+    else if (word == "default")
+        c.isDefault = true;
+    else
+        line.fail("unknown flag \"" + word + "\"");
+}
+
+Color colorOf(const std::string& value) {
+    return static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+}
+
+// A setting: key=value.
+void readSetting(LineReader& line, const std::string& key, const std::string& value,
+                 ControlDefinition& designed) {
     Control& c = designed.control;
-    std::size_t equals = word.find('=');
-    if (equals == std::string::npos) {
-        if (word == "locked")
-            c.locked = true;
-        else if (word == "nostop")
-            c.tabStop = false;
-        else if (word == "hidden")
-            c.visible = false;
-        else if (word == "disabled")
-            c.enabled = false;
-        else if (word == "multi")
-            c.multiLine = true;
-        else if (word == "bold")
-            c.fontBold = true;
-        else if (word == "italic")
-            c.fontItalic = true;
-        else if (word == "opaque")
-            c.opaque = true;
-        else if (word == "transparent")
-            c.opaque = false;
-        else if (word == "wrap")
-            c.wordWrap = true;
-        else if (word == "default")
-            c.isDefault = true;
-        else
-            line.fail("unknown flag \"" + word + "\"");
-        return;
-    }
-    const std::string key = word.substr(0, equals);
-    const std::string value = word.substr(equals + 1);
     if (key == "tag")
         c.tag = value;
     else if (key == "tab")
@@ -160,15 +164,15 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
     else if (key == "font")
         c.fontName = value;
     else if (key == "back")
-        c.backColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0)), c.opaque = true;
+        c.backColor = colorOf(value), c.opaque = true;
     else if (key == "fore")
-        c.foreColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+        c.foreColor = colorOf(value);
     else if (key == "border")
         c.borderWidth = line.toNumber(value, "border width");
     else if (key == "style")
         c.borderStyle = line.toNumber(value, "border style");
     else if (key == "color")
-        c.borderColor = static_cast<Color>(std::strtoul(value.c_str(), nullptr, 0));
+        c.borderColor = colorOf(value);
     else if (key == "picture")
         c.picture = value;
     else if (key == "in")
@@ -181,6 +185,14 @@ void readProperty(LineReader& line, const std::string& word, ControlDefinition& 
         c.tabHeight = line.toNumber(value, "tab height");
     else
         line.fail("unknown property \"" + key + "\"");
+}
+
+void readProperty(LineReader& line, const std::string& word, ControlDefinition& designed) {
+    const std::size_t equals = word.find('=');
+    if (equals == std::string::npos)
+        readFlag(line, word, designed.control);
+    else
+        readSetting(line, word.substr(0, equals), word.substr(equals + 1), designed);
 }
 
 // Designed defaults of each kind: entry fields are white, everything else shows the form behind it.
@@ -197,77 +209,99 @@ void applyDefaults(Control& c) {
         c.borderStyle = c.kind == ControlKind::Label ? 0 : 1;
 }
 
-}  // namespace
-
-FormDefinition readDefinition(const std::string& text) {
-    FormDefinition definition;
-    std::map<std::string, int> nextUnnamed;
-    std::istringstream in(text);
-    std::string raw;
-    int number = 0;
-    int tabOrder = 0;
-    bool haveForm = false;
-    std::string inside;  // the container of the lines that name none
-    std::map<std::string, ControlKind> containers;
-    while (std::getline(in, raw)) {
-        ++number;
-        if (!raw.empty() && raw.back() == '\r') raw.pop_back();
-        std::vector<std::string> words;
-        try {
-            words = text::splitWords(raw);
-        } catch (const text::WordsError& e) {
-            throw DefinitionError("line " + std::to_string(number) + ": " + e.what());
-        }
-        if (words.empty()) continue;
-        LineReader line(number, words);
+// What a reading has drawn so far, and what the lines still to come take from it.
+class DefinitionReader {
+public:
+    // One line of the text: the form line first, then `in`, `say` and the control lines.
+    void read(LineReader& line) {
         const std::string kindWord = line.take("kind");
-        if (kindWord == "form") {
-            if (haveForm) line.fail("a second form line");
-            definition.name = line.take("form name");
-            definition.caption = line.take("caption");
-            definition.width = line.takeNumber("width");
-            definition.height = line.takeNumber("height");
-            haveForm = true;
-            continue;
-        }
-        if (!haveForm) line.fail("the first line must be the form line");
-        if (kindWord == "in") {
-            inside = line.take("container");
-            if (inside == "-")
-                inside.clear();
-            else if (!containers.count(inside))
-                line.fail("no container \"" + inside + "\" drawn before");
-            if (line.more()) line.fail("more than a container after in");
-            continue;
-        }
-        if (kindWord == "say") {
-            const std::string target = line.take("control");
-            const std::string words = line.take("words");
-            if (line.more()) line.fail("more than a control and its words after say");
-            ControlDefinition* said = nullptr;
-            for (ControlDefinition& d : definition.controls)
-                if (d.control.key() == target) said = &d;
-            if (!said) line.fail("no control \"" + target + "\" drawn before");
-            said->control.spokenName = words;
-            continue;
-        }
-        const Kind* kind = nullptr;
-        for (const Kind& k : kKinds)
-            if (kindWord == k.word) kind = &k;
-        if (!kind) line.fail("unknown kind \"" + kindWord + "\"");
+        if (kindWord == "form") return readForm(line);
+        if (!haveForm_) line.fail("the first line must be the form line");
+        if (kindWord == "in") return readIn(line);
+        if (kindWord == "say") return readSay(line);
+        readControl(line, kindNamed(line, kindWord));
+    }
 
+    FormDefinition finish() {
+        if (!haveForm_) throw DefinitionError("no form line");
+        // Every drawing read is kept for the session: without the room the vector grew into.
+        definition_.controls.shrink_to_fit();
+        return std::move(definition_);
+    }
+
+private:
+    // form NAME "CAPTION" WIDTH HEIGHT
+    void readForm(LineReader& line) {
+        if (haveForm_) line.fail("a second form line");
+        definition_.name = line.take("form name");
+        definition_.caption = line.take("caption");
+        definition_.width = line.takeNumber("width");
+        definition_.height = line.takeNumber("height");
+        haveForm_ = true;
+    }
+
+    // in CONTAINER, or in - to end it
+    void readIn(LineReader& line) {
+        inside_ = line.take("container");
+        if (inside_ == "-")
+            inside_.clear();
+        else if (!containers_.count(inside_))
+            line.fail("no container \"" + inside_ + "\" drawn before");
+        if (line.more()) line.fail("more than a container after in");
+    }
+
+    // say CONTROL "WORDS"
+    void readSay(LineReader& line) {
+        const std::string target = line.take("control");
+        const std::string words = line.take("words");
+        if (line.more()) line.fail("more than a control and its words after say");
+        ControlDefinition* said = nullptr;
+        for (ControlDefinition& d : definition_.controls)
+            if (d.control.key() == target) said = &d;
+        if (!said) line.fail("no control \"" + target + "\" drawn before");
+        said->control.spokenName = words;
+    }
+
+    static const Kind& kindNamed(LineReader& line, const std::string& word) {
+        for (const Kind& k : kKinds)
+            if (word == k.word) return k;
+        line.fail("unknown kind \"" + word + "\"");
+    }
+
+    // KIND NAME LEFT TOP WIDTH HEIGHT ["CAPTION"] PROPERTIES...
+    void readControl(LineReader& line, const Kind& kind) {
         ControlDefinition designed;
-        designed.container = inside;
+        designed.container = inside_;
         Control& c = designed.control;
-        c.kind = kind->kind;
+        c.kind = kind.kind;
         applyDefaults(c);
-        std::string name = line.take("name");
+        readControlName(line, kind, c);
+        readPlace(line, c);
+        // A word after the numbers that is neither key=value nor a flag is the caption; a caption that
+        // looks like either is written caption="...".
+        if (line.more() && line.peek().find('=') == std::string::npos && !isFlag(line.peek()))
+            c.caption = line.take("caption");
+        c.tabIndex = tabOrder_++;
+        while (line.more()) readProperty(line, line.take("property"), designed);
+        if (c.kind == ControlKind::TextBox && c.text.empty()) c.text = c.caption, c.caption.clear();
+        placeInContainer(line, designed);
+        containers_[c.key()] = c.kind;
+        definition_.controls.push_back(std::move(designed));
+    }
+
+    // An unnamed element (`-`) joins its kind's array at the next index.
+    void readControlName(LineReader& line, const Kind& kind, Control& c) {
+        const std::string name = line.take("name");
         if (name == "-") {
-            c.name = kind->unnamed;
-            c.index = nextUnnamed[c.name]++;
+            c.name = kind.unnamed;
+            c.index = nextUnnamed_[c.name]++;
         } else {
             readName(line, name, c);
         }
+    }
+
+    // A line's two end points; any other control's corner and size.
+    static void readPlace(LineReader& line, Control& c) {
         c.left = line.takeNumber("left");
         c.top = line.takeNumber("top");
         if (c.kind == ControlKind::Line) {
@@ -277,31 +311,57 @@ FormDefinition readDefinition(const std::string& text) {
             c.width = line.takeNumber("width");
             c.height = line.takeNumber("height");
         }
-        // A word after the numbers that is neither key=value nor a flag is the caption; a caption that
-        // looks like either is written caption="...".
-        if (line.more() && line.peek().find('=') == std::string::npos && !isFlag(line.peek()))
-            c.caption = line.take("caption");
-        c.tabIndex = tabOrder++;
-        while (line.more()) readProperty(line, line.take("property"), designed);
-        if (c.kind == ControlKind::TextBox && c.text.empty()) c.text = c.caption, c.caption.clear();
-        if (!designed.container.empty()) {
-            auto holder = containers.find(designed.container);
-            if (holder == containers.end())
-                line.fail("no container \"" + designed.container + "\" drawn before");
-            if (holder->second != ControlKind::TabControl)
-                c.page = -1;
-            else if (c.page < 0)
-                line.fail("a control on a tab control needs page=");
-        } else {
-            c.page = -1;
-        }
-        containers[c.key()] = c.kind;
-        definition.controls.push_back(std::move(designed));
     }
-    if (!haveForm) throw DefinitionError("no form line");
-    // Every drawing read is kept for the session: without the room the vector grew into.
-    definition.controls.shrink_to_fit();
-    return definition;
+
+    // A control on a tab control stands on one of its pages; in any other container, or none, on none.
+    void placeInContainer(LineReader& line, ControlDefinition& designed) const {
+        Control& c = designed.control;
+        if (designed.container.empty()) {
+            c.page = -1;
+            return;
+        }
+        auto holder = containers_.find(designed.container);
+        if (holder == containers_.end())
+            line.fail("no container \"" + designed.container + "\" drawn before");
+        if (holder->second != ControlKind::TabControl)
+            c.page = -1;
+        else if (c.page < 0)
+            line.fail("a control on a tab control needs page=");
+    }
+
+    FormDefinition definition_;
+    bool haveForm_ = false;
+    int tabOrder_ = 0;
+    std::map<std::string, int> nextUnnamed_;
+    std::string inside_;  // the container of the lines that name none
+    std::map<std::string, ControlKind> containers_;
+};
+
+// The words of a line, its line break whichever system wrote it taken off.
+std::vector<std::string> wordsOfLine(std::string raw, int number) {
+    if (!raw.empty() && raw.back() == '\r') raw.pop_back();
+    try {
+        return text::splitWords(raw);
+    } catch (const text::WordsError& e) {
+        throw DefinitionError("line " + std::to_string(number) + ": " + e.what());
+    }
+}
+
+}  // namespace
+
+FormDefinition readDefinition(const std::string& text) {
+    DefinitionReader reader;
+    std::istringstream in(text);
+    std::string raw;
+    int number = 0;
+    while (std::getline(in, raw)) {
+        ++number;
+        std::vector<std::string> words = wordsOfLine(raw, number);
+        if (words.empty()) continue;
+        LineReader line(number, std::move(words));
+        reader.read(line);
+    }
+    return reader.finish();
 }
 
 void realizeDefinition(const FormDefinition& definition, Form& form) {

@@ -11,14 +11,14 @@
 
 namespace lw {
 
-std::string GetFormInfo(const std::string& Section, const std::string& Key) {
+std::string readFormInfo(const std::string& Section, const std::string& Key) {
     std::string section = Section;
     if (Section != "SS_ITIN") {
         std::size_t underscore = Section.find('_');
         section = underscore == std::string::npos ? Section : Section.substr(underscore + 1);
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
-    return store::ReadINF(section, Key, "", program().g.FormsInfFile);
+    return store::readInfValue(section, Key, "", program().g.edition.formsInfFile);
 }
 
 std::optional<int> firstFieldIndex(const std::string& list) {
@@ -38,19 +38,19 @@ void keepNumber(const std::string& text, int& target) {
 
 void loadFormInfo() {
     Globals& g = program().g;
-    const std::string name = g.CurrentForm ? g.CurrentForm->name() : std::string();
-    g.FormTitle = GetFormInfo(name, "FormName");
-    g.RecordPrefix = GetFormInfo(name, "RecordPrefix");
-    g.SSNIndex = GetFormInfo(name, "SSNIndex");
-    g.NameAddrIndex = GetFormInfo(name, "NameAddrIndex");
-    g.NameOnlyIndex = GetFormInfo(name, "NameOnlyIndex");
-    g.DOBIndex = GetFormInfo(name, "DOBIndex");
-    g.MedicareClaimNoIndex = GetFormInfo(name, "MedicareClaimNoIndex");
-    g.MedicareNoIndex = GetFormInfo(name, "MedicareNoIndex");
-    g.EINIndex = GetFormInfo(name, "EINIndex");
-    g.OtherInfo = GetFormInfo(name, "OtherInfo");
-    keepNumber(GetFormInfo(name, "FocusOnStartup"), g.FocusOnStartup);
-    keepNumber(GetFormInfo(name, "FocusAfterTPButton"), g.FocusAfterTPButton);
+    const std::string name = g.document.currentForm ? g.document.currentForm->name() : std::string();
+    g.document.catalogue.formTitle = readFormInfo(name, "FormName");
+    g.document.catalogue.recordPrefix = readFormInfo(name, "RecordPrefix");
+    g.document.catalogue.ssnIndex = readFormInfo(name, "SSNIndex");
+    g.document.catalogue.nameAddrIndex = readFormInfo(name, "NameAddrIndex");
+    g.document.catalogue.nameOnlyIndex = readFormInfo(name, "NameOnlyIndex");
+    g.document.catalogue.dobIndex = readFormInfo(name, "DOBIndex");
+    g.document.catalogue.medicareClaimNoIndex = readFormInfo(name, "MedicareClaimNoIndex");
+    g.document.catalogue.medicareNoIndex = readFormInfo(name, "MedicareNoIndex");
+    g.document.catalogue.einIndex = readFormInfo(name, "EINIndex");
+    g.document.catalogue.otherInfo = readFormInfo(name, "OtherInfo");
+    keepNumber(readFormInfo(name, "FocusOnStartup"), g.document.catalogue.focusOnStartup);
+    keepNumber(readFormInfo(name, "FocusAfterTPButton"), g.document.catalogue.focusAfterTaxpayerButton);
 }
 
 }  // namespace lw

@@ -65,6 +65,15 @@ bool ConfigureForm::isFigureField(const Control& control) const {
     return false;
 }
 
+RateItem ConfigureForm::figureItemOf(const Control& figureField) const {
+    if (&figureField == &txtSSRate) return RateItem::SocialSecurityRate;
+    if (&figureField == &txtSSMax) return RateItem::SocialSecurityWageBase;
+    if (&figureField == &txtMCInitRate) return RateItem::MedicareRate;
+    if (&figureField == &txtMCChgRateAfter) return RateItem::MedicareChangePoint;
+    if (&figureField == &txtMCRateAfter) return RateItem::MedicareRateAfter;
+    return RateItem::PartBPremium;
+}
+
 void ConfigureForm::onLoad() {
     runGuarded("F1_Configure:Form_Load", [this] { loadForm(); });
 }
@@ -72,20 +81,20 @@ void ConfigureForm::onLoad() {
 void ConfigureForm::loadForm() {
     switch (chosenOf(optStatus)) {
         case 0:
-            g().FilingStatus = "Single";
+            g().rates.filingStatus = FilingStatus::Single;
             break;
         case 1:
-            g().FilingStatus = "MFS";
+            g().rates.filingStatus = FilingStatus::MarriedSeparately;
             break;
         case 2:
-            g().FilingStatus = "MFJ";
+            g().rates.filingStatus = FilingStatus::MarriedJointly;
             break;
         default:
             break;
     }
     Frame1.height = lblNote.height;
 
-    const std::string& extension = g().FileExtension;
+    const std::string& extension = g().edition.fileExtension;
     FileNameFormats = {
         "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
         "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
@@ -184,7 +193,7 @@ void ConfigureForm::onClick(Control& control, MouseButton) {
 
 void ConfigureForm::onPrinterChosen() {
     runGuarded("F1_Configure:cbxPrinters_Click", [this] {
-        g().PrinterName = cbxPrinters.text;
+        g().choices.printerName = cbxPrinters.text;
         writeUserInf("Printer", cbxPrinters.text);
     });
 }
@@ -192,23 +201,25 @@ void ConfigureForm::onPrinterChosen() {
 void ConfigureForm::onFileNameOption(int Index) {
     runGuarded("F1_Configure:optFileName_Click", [this, Index] {
         writeUserInf("FileNameFmt", std::to_string(Index));
-        g().FileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
+        g().choices.fileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
     });
 }
 
 void ConfigureForm::onStatusOption(int) {
     runGuarded("F1_Configure:optStatus_Click", [this] {
         static const struct {
-            const char* status;
+            FilingStatus status;
             const char* income;
-        } byOption[] = {{"SGL", "106,000"}, {"MFS", "106,000"}, {"MFJ", "212,000"}};
+        } byOption[] = {{FilingStatus::SingleByOption, "106,000"},
+                        {FilingStatus::MarriedSeparately, "106,000"},
+                        {FilingStatus::MarriedJointly, "212,000"}};
         const int chosen = chosenOf(optStatus);
         if (chosen < 0) return;
         const auto& row = byOption[chosen];
-        g().FilingStatus = row.status;
+        g().rates.filingStatus = row.status;
         Frame4.caption = text::replaceAll(
             std::string("Medicare Info --- Goto ") + kMedicareAgencyAddress + " --- Filing Status: <STATUS>",
-            "<STATUS>", g().FilingStatus);
+            "<STATUS>", filingStatusWord(row.status));
         const std::string premiums =
             "Annual Medicare Part B Premiums for taxpayers with|income up to $<INC>.|Premium may be more for "
             "income over $<INC>.";
@@ -237,24 +248,22 @@ void ConfigureForm::onValidate(Control& control, bool& cancel) {
         cancel = true;
     }
     // A W-2 uses the figure at once, good or not, before and without any Save.
-    std::string* global = nullptr;
-    if (&control == &txtSSRate) global = &g().SSRate;
-    if (&control == &txtSSMax) global = &g().SSMax;
-    if (&control == &txtMCInitRate) global = &g().MCInitRate;
-    if (&control == &txtMCChgRateAfter) global = &g().MCChgRateAfter;
-    if (&control == &txtMCRateAfter) global = &g().MCRateAfter;
-    if (&control == &txtMCPartBPremiums) global = &g().MCPartBPremium;
-    *global = control.text;
+    g().rates.set(figureItemOf(control), control.text);
 }
 
 void ConfigureForm::onUnload(bool&) {
     runGuarded("F1_Configure:Form_Unload", [this] {
-        if (!g().FilingStatus.empty()) return;
-        const std::string answer =
-            MA_MBX(name(), 800, "Filing Status not chosen - Choose Now", "Married Filing Single - MFS", false,
-                   "Single - S", "Married Filing Joint - MFJ", "", 1);
-        const std::size_t dash = answer.find('-');
-        g().FilingStatus = dash == std::string::npos ? std::string() : text::trim(answer.substr(dash + 1));
+        if (g().rates.filingStatus != FilingStatus::NotChosen) return;
+        const MessageBoxRequest ask{
+            name(),
+            "Filing Status not chosen - Choose Now",
+            kNoMessageNumber,
+            {"Married Filing Single - MFS", "Single - S", "Married Filing Joint - MFJ", ""}};
+        // Each button names its status after the dash; a box closed without one leaves none.
+        static const FilingStatus statuses[] = {FilingStatus::NotChosen, FilingStatus::MarriedSeparately,
+                                                FilingStatus::SingleOnClosing, FilingStatus::MarriedJointly,
+                                                FilingStatus::NotChosen};
+        g().rates.filingStatus = statuses[static_cast<int>(showMessageBox(ask).button)];
         program().ui.quit();
     });
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "model/year_rates.h"
 #include "shell/catalogue_form.h"
 
 namespace lw {
@@ -72,10 +73,21 @@ public:
     void onFileNameOption(int Index);
     void onStatusOption(int Index);
 
-    // One of the six figure fields.
+    // One of the six figure fields, and the figure it shows.
     bool isFigureField(const Control& control) const;
+    RateItem figureItemOf(const Control& figureField) const;
 
 private:
+    // The parts of the panel from top to bottom, and the order the operator goes through them.
+    void layOutPanel();
+    void layOutPrinterChoice();
+    void layOutFileNameChoice();
+    void layOutTaxYear();
+    void layOutFilingStatus();
+    void layOutSocialSecurityFigures();
+    void layOutMedicareFigures();
+    void layOutStatusLine();
+    void setTabOrder();
     void loadForm();
     void fillPrinters();
     void chooseFileNameFormat();

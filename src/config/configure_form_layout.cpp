@@ -66,11 +66,25 @@ ConfigureForm::ConfigureForm()
     width = kFormWidth;
     height = kFormHeight;
 
+    layOutPanel();
+    layOutPrinterChoice();
+    layOutFileNameChoice();
+    layOutTaxYear();
+    layOutFilingStatus();
+    layOutSocialSecurityFigures();
+    layOutMedicareFigures();
+    layOutStatusLine();
+    setTabOrder();
+}
+
+void ConfigureForm::layOutPanel() {
     // A frame with no line of its own behind the whole panel, down to the status line: the document
     // that a clip or a print keeps ends at its bottom.
     Frame6.borderStyle = 0;
     Frame6.place(0, 0, kFormWidth, kStatusTop);
+}
 
+void ConfigureForm::layOutPrinterChoice() {
     // Printer and note side by side; Load fits the printer frame to the note's height.
     Frame1.place(kMargin, kMargin, 6240, 1500);
     cbxPrinters.place(240, 360, 6000, kFieldHeight);
@@ -78,7 +92,9 @@ ConfigureForm::ConfigureForm()
     label(lblPrinter, "", 240, 780, 6000, 840);
     lblPrinter.backColor = kPrinterNoteColor;
     label(lblNote, "", 6480, kMargin, kFormWidth - 6480 - kMargin, 1695);
+}
 
+void ConfigureForm::layOutFileNameChoice() {
     Frame5.caption = "Choose the FILE NAME format to use";
     Frame5.place(kMargin, 1935, kInnerWidth, 1425);
     for (int i = 0; i < 4; ++i) {
@@ -87,7 +103,9 @@ ConfigureForm::ConfigureForm()
         option.place(kCaptionLeft, 2205 + i * 285, kInnerWidth - 2 * kCaptionLeft + kMargin, kLineHeight);
         optFileName[static_cast<std::size_t>(i)] = &option;
     }
+}
 
+void ConfigureForm::layOutTaxYear() {
     // The year stands large, as two labels: only the second one changes.
     for (Control* year : {&TaxYear0, &TaxYear1}) {
         year->fontSize = 18;
@@ -102,7 +120,9 @@ ConfigureForm::ConfigureForm()
     TaxYear1.caption = "??";
     TaxYear1.place(kMargin + 600, 3480, 600, 495);
     label(lblTaxYearInfo, "", 1440, 3480, kFormWidth - 1440 - kMargin, 660);
+}
 
+void ConfigureForm::layOutFilingStatus() {
     label(Label3, "Choose Filing Status to set withholding rates >", kMargin, 4290, 3840, kLineHeight);
     const char* statuses[] = {"Single", "Married Filing Single", "Married Filing Joint"};
     const int statusLefts[] = {4080, 6000, 8760};
@@ -116,7 +136,9 @@ ConfigureForm::ConfigureForm()
     }
     // The first status is chosen as the form is designed, so that Load starts from "Single".
     optStatus[0]->value = true;
+}
 
+void ConfigureForm::layOutSocialSecurityFigures() {
     Frame3.caption = "Social Security Withholding";
     Frame3.place(kMargin, 4680, kInnerWidth, 1035);
     const char* ssCaptions[] = {"Social Security Withholding Rate:",
@@ -128,7 +150,9 @@ ConfigureForm::ConfigureForm()
     }
     figureField(txtSSRate, kRateTip, 4935);
     figureField(txtSSMax, kAmountTip, 4935 + kRowStep);
+}
 
+void ConfigureForm::layOutMedicareFigures() {
     Frame4.caption = "Medicare Withholding";
     Frame4.place(kMargin, 5835, kInnerWidth, 2265);
     const char* mcCaptions[] = {
@@ -145,11 +169,15 @@ ConfigureForm::ConfigureForm()
     figureField(txtMCChgRateAfter, kAmountTip, 6090 + kRowStep);
     figureField(txtMCRateAfter, kRateTip, 6090 + 2 * kRowStep);
     figureField(txtMCPartBPremiums, kAmountTip, 6090 + 3 * kRowStep);
+}
 
+void ConfigureForm::layOutStatusLine() {
     label(labelMisc, "", kMargin, kStatusTop, 7800, kLineHeight);
     label(labelVersion, "", 8040, kStatusTop, kFormWidth - 8040 - kMargin, kLineHeight);
     labelVersion.alignment = 1;
+}
 
+void ConfigureForm::setTabOrder() {
     // The operator goes from the printer through the choices to the figures.
     int tab = 0;
     cbxPrinters.tabIndex = tab++;

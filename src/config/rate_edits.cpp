@@ -98,26 +98,25 @@ bool validateAllRates(Form& configureForm) {
 
 bool validateAllRates() { return validateAllRates(configureFormInUse()); }
 
-bool ratesInForce() {
-    const Globals& g = program().g;
+bool ratesInForce(const Rates& rates) {
     struct Figure {
         const char* field;
-        const std::string& value;
+        RateItem item;
         bool (*edit)(Control&);
     };
-    const Figure figures[] = {
-        {"txtSSRate", g.SSRate, checkRateField},
-        {"txtSSMax", g.SSMax, checkRateAmountField},
-        {"txtMCInitRate", g.MCInitRate, checkRateField},
-        {"txtMCChgRateAfter", g.MCChgRateAfter, checkRateAmountField},
-        {"txtMCRateAfter", g.MCRateAfter, checkRateField},
+    static const Figure figures[] = {
+        {"txtSSRate", RateItem::SocialSecurityRate, checkRateField},
+        {"txtSSMax", RateItem::SocialSecurityWageBase, checkRateAmountField},
+        {"txtMCInitRate", RateItem::MedicareRate, checkRateField},
+        {"txtMCChgRateAfter", RateItem::MedicareChangePoint, checkRateAmountField},
+        {"txtMCRateAfter", RateItem::MedicareRateAfter, checkRateField},
     };
     for (const Figure& figure : figures) {
         // The figure goes through its field's edit on a stand-in for the field, which no form holds.
         Control standIn;
         standIn.kind = ControlKind::TextBox;
         standIn.name = figure.field;
-        standIn.text = figure.value;
+        standIn.text = rates.figure(figure.item).text();
         if (!figure.edit(standIn)) return false;
     }
     return true;
@@ -125,7 +124,7 @@ bool ratesInForce() {
 
 Form& configureFormInUse() {
     if (Form* loaded = program().desktop.findForm("F1_Configure")) return *loaded;
-    Form* current = program().g.CurrentForm;
+    Form* current = program().g.document.currentForm;
     if (!current) throw AppError(err::kObjectRequired, "Object required: F1_Configure");
     return *current;
 }

@@ -5,11 +5,16 @@
 #include <string>
 
 #include "model/form.h"
+#include "model/year_rates.h"
 
 namespace lw {
 
+// The figures of a year as SSMC.inf holds them in the section of that year ("2025", "20XX"), each read
+// once; the change point is the one of the filing status. A figure the file lacks is empty.
+Rates readYearRates(const std::string& year, const std::string& ssmcFile, FilingStatus status);
+
 // Fills the rate fields and captions of CurrentForm (the configuration form) from the section of its
-// year, TaxYear(0) and TaxYear(1); the change point is taken by FilingStatus. Sets the rate globals.
+// year, TaxYear(0) and TaxYear(1), and makes them the program's figures, under its filing status.
 void loadRates();
 
 // Edits of a rate field and an amount field: true when the text is good, and then rewritten to its
@@ -22,13 +27,13 @@ bool validateAllRates(Form& configureForm);
 // As above, on the configuration form that is loaded (CurrentForm when none is).
 bool validateAllRates();
 
-// The figures in force for the W-2's computation (rates, wage base, change point), each through the edit
-// of its field on the configuration form: false, with that edit's Data Error shown, when one cannot be
-// used, as in a year that SSMC.inf has no figures for.
-bool ratesInForce();
+// The figures for the W-2's computation (rates, wage base, change point), each as it is spelt through the
+// edit of its field on the configuration form: false, with that edit's Data Error shown, when one cannot
+// be used, as in a year that SSMC.inf has no figures for.
+bool ratesInForce(const Rates& rates);
 
-// Writes the six figures to the section of the form's year when all of them pass, and sets their
-// globals. The frame's Save on the configuration form.
+// Writes the six figures to the section of the form's year when all of them pass, and makes them the
+// program's figures. The frame's Save on the configuration form.
 void storeRates();
 
 // When the figures on the form differ from the stored ones, offers to save them; ends the program

@@ -22,14 +22,14 @@ std::string formYear(const Form& form) {
 }
 
 std::string readRate(const std::string& year, const char* key) {
-    return store::ReadINF(year, key, "", g().SSMCInfFile);
+    return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
 }
 
 // The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
 // the joint figure, as the program has always done.
-const char* changePointKey(const std::string& filingStatus) {
-    if (filingStatus == "Single") return "MCChgRateAfterSingle";
-    if (filingStatus == "MFS") return "MCChgRateAfterMFS";
+const char* changePointKey(FilingStatus filingStatus) {
+    if (filingStatus == FilingStatus::Single) return "MCChgRateAfterSingle";
+    if (filingStatus == FilingStatus::MarriedSeparately) return "MCChgRateAfterMFS";
     return "MCChgRateAfterMFJ";
 }
 
@@ -43,29 +43,47 @@ std::string padLeft(const std::string& text, std::size_t width) {
 
 }  // namespace
 
+Rates readYearRates(const std::string& year, const std::string& ssmcFile, FilingStatus status) {
+    struct Entry {
+        RateItem item;
+        const char* key;
+    };
+    const Entry entries[] = {
+        {RateItem::SocialSecurityRate, "SSRate"},
+        {RateItem::SocialSecurityWageBase, "SSMax"},
+        {RateItem::MedicareRate, "MCInitRate"},
+        {RateItem::MedicareChangePoint, changePointKey(status)},
+        {RateItem::MedicareRateAfter, "MCRateAfter"},
+        {RateItem::PartBPremium, "MCPartBPremium"},
+        {RateItem::PartBIncomeLimit, "MCPartBIncome"},
+    };
+    Rates rates;
+    rates.filingStatus = status;
+    for (const Entry& entry : entries)
+        rates.set(entry.item, store::readInfValue(year, entry.key, "", ssmcFile));
+    return rates;
+}
+
 void loadRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
-        Form& form = *g().CurrentForm;
+        Form& form = *g().document.currentForm;
         const std::string year = formYear(form);
-        g().SSRate = readRate(year, "SSRate");
-        g().SSMax = readRate(year, "SSMax");
-        g().MCInitRate = readRate(year, "MCInitRate");
-        g().MCChgRateAfter = readRate(year, changePointKey(g().FilingStatus));
-        g().MCRateAfter = readRate(year, "MCRateAfter");
-        g().MCPartBPremium = readRate(year, "MCPartBPremium");
-        g().MCPartBIncome = readRate(year, "MCPartBIncome");
+        g().rates = readYearRates(year, g().edition.ssmcInfFile, g().rates.filingStatus);
+        const Rates& rates = g().rates;
 
         form.at("Frame3").caption = text::replaceAll("Social Security Withholding ????", "????", year);
         form.at("Frame4").caption =
             text::replaceAll("Medicare Withholding ???? --- Martial Status is <Status>", "????", year);
-        form.at("Frame4").caption = text::replaceAll(form.at("Frame4").caption, "<Status>", g().FilingStatus);
+        form.at("Frame4").caption =
+            text::replaceAll(form.at("Frame4").caption, "<Status>", filingStatusWord(rates.filingStatus));
 
-        form.at("txtSSRate").text = g().SSRate;
-        form.at("txtMCInitRate").text = g().MCInitRate;
-        form.at("txtMCRateAfter").text = g().MCRateAfter;
-        form.at("txtMCPartBPremiums").text = g().MCPartBPremium;
-        form.at("txtSSMax").text = config::formatClassic(g().SSMax, "###,###.00");
-        form.at("txtMCChgRateAfter").text = config::formatClassic(g().MCChgRateAfter, "###,###.00");
+        form.at("txtSSRate").text = rates.socialSecurityRate.text();
+        form.at("txtMCInitRate").text = rates.medicareRate.text();
+        form.at("txtMCRateAfter").text = rates.medicareRateAfter.text();
+        form.at("txtMCPartBPremiums").text = rates.partBPremium.text();
+        form.at("txtSSMax").text = config::formatClassic(rates.socialSecurityWageBase.text(), "###,###.00");
+        form.at("txtMCChgRateAfter").text =
+            config::formatClassic(rates.medicareChangePoint.text(), "###,###.00");
 
         form.at("labelVersion").caption = std::string("Ledgerwick - Version ") + versionFullText();
     });
@@ -76,17 +94,18 @@ void storeRates() {
         Form& form = configureFormInUse();
         const std::string year = formYear(form);
         if (!validateAllRates(form)) return;
-        auto write = [&](const char* key, const std::string& value, std::string& global) {
-            store::SaveINF(year, key, value, g().SSMCInfFile);
-            global = value;
+        auto write = [&](const char* key, const std::string& value, RateItem item) {
+            store::writeInfValue(year, key, value, g().edition.ssmcInfFile);
+            g().rates.set(item, value);
         };
-        write("SSRate", form.at("txtSSRate").text, g().SSRate);
-        write("SSMax", config::formatClassic(form.at("txtSSMax").text, "#######"), g().SSMax);
-        write("MCInitRate", form.at("txtMCInitRate").text, g().MCInitRate);
+        write("SSRate", form.at("txtSSRate").text, RateItem::SocialSecurityRate);
+        write("SSMax", config::formatClassic(form.at("txtSSMax").text, "#######"),
+              RateItem::SocialSecurityWageBase);
+        write("MCInitRate", form.at("txtMCInitRate").text, RateItem::MedicareRate);
         write("MCChangeRateAfter", config::formatClassic(form.at("txtMCChgRateAfter").text, "#######"),
-              g().MCChgRateAfter);
-        write("MCRateAfter", form.at("txtMCRateAfter").text, g().MCRateAfter);
-        write("MCPartBPremium", form.at("txtMCPartBPremiums").text, g().MCPartBPremium);
+              RateItem::MedicareChangePoint);
+        write("MCRateAfter", form.at("txtMCRateAfter").text, RateItem::MedicareRateAfter);
+        write("MCPartBPremium", form.at("txtMCPartBPremiums").text, RateItem::PartBPremium);
     });
 }
 
@@ -97,7 +116,7 @@ std::string rateChangeRow(const std::string& Item, const std::string& Original, 
 void offerToSaveChangedRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
         Form& form = configureFormInUse();
-        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+        const std::string year = g().taxYear.text();
         struct Item {
             const char* caption;
             const char* key;
@@ -125,11 +144,11 @@ void offerToSaveChangedRates() {
                 table += rateChangeRow(items[i].caption, stored[i], items[i].current);
             const std::string message =
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
-            if (MA_MBX("M3_Ledgerwick:SS_MC_Check_Changes", 800, message, "Yes", false, "No", "", "", 1) ==
-                "Yes")
-                storeRates();
+            const MessageBoxRequest ask{
+                "M3_Ledgerwick:SS_MC_Check_Changes", message, kNoMessageNumber, {"Yes", "No"}};
+            if (showMessageBox(ask).button == MessageBoxButton::First) storeRates();
         }
-        if (g().bQuitting) program().ui.quit();
+        if (g().process.quitting) program().ui.quit();
     });
 }
 

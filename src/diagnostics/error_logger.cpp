@@ -28,7 +28,7 @@ struct NestingGuard {
 
 // The current form, if it is still a loaded form of the desktop: the pointer outlives an unloaded form.
 const Form* currentForm() {
-    const Form* current = program().g.CurrentForm;
+    const Form* current = program().g.document.currentForm;
     if (!current) return nullptr;
     const auto forms = program().desktop.forms();
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
@@ -69,7 +69,7 @@ void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
             const std::string message = "Procedure Name:        " + Proc + "\r" +
                                         "Error Number:          " + std::to_string(ErrNo) + "\r" +
                                         "Error Description:     " + ErrDesc + "\r";
-            MA_MBX("Data Error", 800, message, "OK", false, "", "", "", 1);
+            showMessageBox({"Data Error", message});
             return;
         }
         auto form = reportForm(Proc, ErrNo, ErrDesc);
@@ -84,7 +84,7 @@ void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
 
     // A fault of the reporting itself is reported as a fault of logError.
     try {
-        if (program().g.bDebug) stopForProgrammer(kOwnLabel, ownFault);
+        if (program().g.process.debug) stopForProgrammer(kOwnLabel, ownFault);
         auto form = reportForm(kOwnLabel, ownFault.number, ownFault.description);
         try {
             form->F8_Form = errorFormText();

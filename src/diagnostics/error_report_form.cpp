@@ -149,14 +149,15 @@ void ErrorReportForm::onClick(Control& control, MouseButton) {
 void ErrorReportForm::onClip() {
     if (Text1.text.empty()) {
         // The platform's standard box with the exclamation icon, shown as our own box with that icon.
-        showMessageBox("Provide Description", 800,
-                       "Please describe what you were doing just before the error.", {"OK", "", "", ""},
-                       false, 1, MessageBoxIcon::Exclamation);
+        MessageBoxRequest tell{"Provide Description",
+                               "Please describe what you were doing just before the error."};
+        tell.icon = MessageBoxIcon::Exclamation;
+        showMessageBox(tell);
         setFocus(Text1);
         return;
     }
     // The picture replaces whatever the clipboard held. The form stays open, whatever the caption says.
-    CopyEntirePicture(*this);
+    copyEntirePicture(*this);
     program().platform.sleep(kCopyPauseMs);
 }
 
@@ -166,7 +167,7 @@ void ErrorReportForm::onExit() { unload(); }
 
 void ErrorReportForm::onClearAndCopy() {
     for (Control* label : Label2) label->caption.clear();
-    CopyEntirePicture(*this);
+    copyEntirePicture(*this);
     unload();
 }
 

@@ -58,7 +58,7 @@ void runGuarded(std::string_view label, const std::function<void()>& body) {
         fault = faultOf(std::current_exception());
     }
     try {
-        if (hasProgram() && program().g.bDebug) stopForProgrammer(label, fault);
+        if (hasProgram() && program().g.process.debug) stopForProgrammer(label, fault);
         logError(std::string(label), fault.number, fault.description);
     } catch (const ProgramEnded&) {
         throw;

@@ -13,14 +13,8 @@ namespace lw {
 
 namespace {
 
-constexpr int kNoNumberShown = 800;
 const char* const kActivateLabel = "F9_MBX:Form_Activate";
 const char* const kCallLabel = "M2_VenturoCommon:MA_MBX";
-
-MessageBoxState& state() {
-    static MessageBoxState instance;
-    return instance;
-}
 
 std::optional<MessageBoxRecord>& lastRecord() {
     static std::optional<MessageBoxRecord> instance;
@@ -54,8 +48,6 @@ const char* iconPicture(MessageBoxIcon icon) {
 
 }  // namespace
 
-MessageBoxState& messageBoxState() { return state(); }
-
 const std::optional<MessageBoxRecord>& lastMessageBox() { return lastRecord(); }
 
 int addMessageBoxObserver(std::function<void(const MessageBoxRecord&)> observer) {
@@ -64,9 +56,11 @@ int addMessageBoxObserver(std::function<void(const MessageBoxRecord&)> observer)
 
 void removeMessageBoxObserver(int id) { observers().remove(id); }
 
-void resetMessageBoxes() {
-    state() = MessageBoxState{};
-    lastRecord().reset();
+void resetMessageBoxes() { lastRecord().reset(); }
+
+std::string MessageBoxRecord::answerCaption() const {
+    if (answer == MessageBoxButton::None) return {};
+    return buttons[static_cast<std::size_t>(answer) - 1];
 }
 
 std::string breakLongMessageLine(const std::string& line) {
@@ -81,7 +75,15 @@ std::string breakLongMessageLine(const std::string& line) {
     throw AppError(err::kInvalidProcedureCall, "Invalid procedure call or argument", kActivateLabel);
 }
 
-MessageBoxForm::MessageBoxForm()
+MessageBoxRequest::MessageBoxRequest(std::string title, std::string message, int number,
+                                     std::array<std::string, 4> buttons, MessageBoxButton defaultButton)
+    : title(std::move(title)),
+      message(std::move(message)),
+      number(number),
+      buttons(std::move(buttons)),
+      defaultButton(defaultButton) {}
+
+MessageBoxForm::MessageBoxForm(MessageBoxRequest request)
     : Form("F9_MBX"),
       lblMessage(add(ControlKind::Label, "lblMessage")),
       imgVBInformation(add(ControlKind::Image, "imgVBInformation")),
@@ -90,7 +92,9 @@ MessageBoxForm::MessageBoxForm()
       cmd2(add(ControlKind::CommandButton, "cmd2")),
       cmd3(add(ControlKind::CommandButton, "cmd3")),
       cmd4(add(ControlKind::CommandButton, "cmd4")),
-      cmdDummy(add(ControlKind::CommandButton, "cmdDummy")) {
+      cmdDummy(add(ControlKind::CommandButton, "cmdDummy")),
+      request_(std::move(request)),
+      answer_(std::make_shared<MessageBoxAnswer>(MessageBoxAnswer{MessageBoxButton::None, request_.text})) {
     isChild = false;
     width = kDesignWidth;
     height = kDesignHeight;
@@ -135,8 +139,6 @@ MessageBoxForm::MessageBoxForm()
 
 void MessageBoxForm::onLoad() {
     lblMessageDesignHeight = lblMessage.height;
-    // The box keeps its own copy: a box opened while this one is being laid out must not change it.
-    request_ = state();
     imgVBInformation.picture = iconPicture(request_.icon);
 }
 
@@ -151,15 +153,15 @@ void MessageBoxForm::onActivate() {
 
     Control* buttons[] = {&cmd1, &cmd2, &cmd3, &cmd4};
     for (int i = 0; i < 4; ++i) {
-        if (request_.captions[i].empty())
+        if (request_.buttons[i].empty())
             buttons[i]->visible = false;
         else
-            buttons[i]->caption = request_.captions[i];
+            buttons[i]->caption = request_.buttons[i];
     }
 
     if (request_.showText) {
         Text1.visible = true;
-        Text1.text = request_.answerText;
+        Text1.text = request_.text;
     } else {
         Text1.visible = false;
     }
@@ -193,7 +195,7 @@ void MessageBoxForm::colourButtons() {
         const unsigned char last = static_cast<unsigned char>(c.name.back());
         // A name that ends in no digit, as cmdDummy's, names no button number.
         if (!std::isdigit(last)) continue;
-        const bool isDefaultButton = (last - '0') == request_.defaultButton;
+        const bool isDefaultButton = (last - '0') == static_cast<int>(request_.defaultButton);
         c.backColor = isDefaultButton ? kDefaultButtonColor : kOtherButtonColor;
         c.isDefault = isDefaultButton;
     }
@@ -207,10 +209,9 @@ void MessageBoxForm::onClick(Control& control, MouseButton) {
 }
 
 void MessageBoxForm::pressNumbered(int number) {
-    MessageBoxState& shared = state();
-    shared.answer = button(number)->caption;
+    answer_->button = static_cast<MessageBoxButton>(number);
     // Only the first two buttons confirm an input.
-    if (number <= 2 && request_.showText) shared.answerText = Text1.text;
+    if (number <= 2 && request_.showText) answer_->text = Text1.text;
     unload();
 }
 
@@ -238,7 +239,7 @@ Control* MessageBoxForm::buttonWithCaption(const std::string& caption) const {
 }
 
 Control* MessageBoxForm::defaultButtonControl() const {
-    Control* b = button(request_.defaultButton);
+    Control* b = button(static_cast<int>(request_.defaultButton));
     return b && b->visible ? b : nullptr;
 }
 
@@ -248,53 +249,38 @@ MessageBoxRecord MessageBoxForm::record() const {
     r.number = request_.number;
     r.message = request_.message;
     r.shownText = lblMessage.caption;
-    r.buttons = request_.captions;
+    r.buttons = request_.buttons;
     r.defaultButton = request_.defaultButton;
     r.showText = request_.showText;
     r.icon = request_.icon;
-    r.answer = state().answer;
-    r.answerText = request_.showText ? state().answerText : request_.answerText;
+    r.answer = answer_->button;
+    r.answerText = answer_->text;
     return r;
 }
 
-std::string showMessageBox(const std::string& caption, int msgNumber, const std::string& message,
-                           const std::array<std::string, 4>& captions, bool showText, int defaultButton,
-                           MessageBoxIcon icon) {
-    MessageBoxState& shared = state();
+MessageBoxAnswer showMessageBox(const MessageBoxRequest& request) {
+    MessageBoxRequest shown = request;
+    if (shown.number != kNoMessageNumber)
+        shown.message = "Message Number: " + std::to_string(shown.number) + "\r\n" + shown.message;
+    // A box that cannot be shown answers with no button, and its input line with what it held.
+    MessageBoxAnswer answer{MessageBoxButton::None, shown.text};
     runGuarded(kCallLabel, [&] {
-        shared.captions = captions;
-        shared.title = caption;
-        shared.number = msgNumber;
-        shared.message = msgNumber == kNoNumberShown
-                             ? message
-                             : "Message Number: " + std::to_string(msgNumber) + "\r\n" + message;
-        shared.showText = showText;
-        shared.defaultButton = defaultButton;
-        shared.icon = icon;
-        // A box closed without a button answers with no caption rather than the last box's answer.
-        shared.answer.clear();
-
         Desktop& desktop = program().desktop;
-        auto owned = std::make_unique<MessageBoxForm>();
-        owned->caption = caption;
+        auto owned = std::make_unique<MessageBoxForm>(shown);
+        owned->caption = shown.title;
+        const std::shared_ptr<const MessageBoxAnswer> given = owned->answer();
         MessageBoxForm& box = static_cast<MessageBoxForm&>(desktop.load(std::move(owned)));
         box.activateOnce();
         MessageBoxRecord record = box.record();
-        // The box is gone once showModal returns: only the shared answer is read after it.
+        // The box is gone once showModal returns: only the answer it shares is read after it.
         desktop.showModal(box);
-        record.answer = shared.answer;
-        if (showText) record.answerText = shared.answerText;
+        answer = *given;
+        record.answer = answer.button;
+        record.answerText = answer.text;
         lastRecord() = record;
         observers().notify(record);
     });
-    return shared.answer;
-}
-
-std::string MA_MBX(const std::string& Caption, int MsgNumber, const std::string& Message,
-                   const std::string& Cmd1, bool ShowText, const std::string& Cmd2, const std::string& Cmd3,
-                   const std::string& Cmd4, int DefaultButton) {
-    return showMessageBox(Caption, MsgNumber, Message, {Cmd1, Cmd2, Cmd3, Cmd4}, ShowText, DefaultButton,
-                          MessageBoxIcon::Information);
+    return answer;
 }
 
 }  // namespace lw

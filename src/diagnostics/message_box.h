@@ -1,10 +1,11 @@
 #pragma once
-// The program's own message box MessageBoxForm and its call MA_MBX: up to four buttons with free captions, a
-// coloured default, an optional input line and a message number on show. Callers tell the answer by the
-// caption of the button pressed.
+// The program's own message box MessageBoxForm: up to four buttons with free captions, a coloured
+// default, an optional input line and a message number on show. A caller hands a MessageBoxRequest and
+// is told which button was pressed.
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,53 +16,65 @@ namespace lw {
 
 enum class MessageBoxIcon { Information, Exclamation, Question };
 
-// The values a call hands the box and the answer it hands back. They are process-wide because the answer
-// outlives the box; a modal box keeps two calls from overlapping.
-struct MessageBoxState {
+// The buttons of a box by their place, left to right. None is a box closed without a button, or a
+// default that no button bears.
+enum class MessageBoxButton { None = 0, First = 1, Second = 2, Third = 3, Fourth = 4 };
+
+// The number that puts no "Message Number" line on top of the message.
+constexpr int kNoMessageNumber = 800;
+
+// What a box shows: by default a box with the one button "OK", the first the default. The input line
+// and the icon are set by name.
+struct MessageBoxRequest {
+    MessageBoxRequest() = default;
+    MessageBoxRequest(std::string title, std::string message, int number = kNoMessageNumber,
+                      std::array<std::string, 4> buttons = {"OK", "", "", ""},
+                      MessageBoxButton defaultButton = MessageBoxButton::First);
+
     std::string title;
-    int number = 800;
-    std::array<std::string, 4> captions;  // cmd1..cmd4; an empty caption hides the button
-    std::string message;                  // with the number line when there is one
-    bool showText = false;
-    int defaultButton = 1;
+    std::string message;
+    int number = kNoMessageNumber;
+    std::array<std::string, 4> buttons{"OK", "", "", ""};  // an empty caption hides its button
+    MessageBoxButton defaultButton = MessageBoxButton::First;
+    bool showText = false;  // the input line
+    std::string text;       // what the input line shows at first
     MessageBoxIcon icon = MessageBoxIcon::Information;
-    std::string answer;      // out: the caption of the button pressed, empty when none was
-    std::string answerText;  // in and out: shown in Text1, read back by cmd1 and cmd2 with the input line
 };
 
-MessageBoxState& messageBoxState();
+// What the operator did with a box.
+struct MessageBoxAnswer {
+    MessageBoxButton button = MessageBoxButton::None;
+    // The input line as the first or second button confirmed it; the request's text otherwise.
+    std::string text;
+};
 
 // One box as it was shown and answered, for the drivers that report or check it.
 struct MessageBoxRecord {
     std::string title;
-    int number = 800;
+    int number = kNoMessageNumber;
     std::string message;    // as built by the call: number line included, line ends as given
     std::string shownText;  // the label's caption: lines joined by CR, long lines broken
     std::array<std::string, 4> buttons;
-    int defaultButton = 1;
+    MessageBoxButton defaultButton = MessageBoxButton::First;
     bool showText = false;
     MessageBoxIcon icon = MessageBoxIcon::Information;
-    std::string answer;
+    MessageBoxButton answer = MessageBoxButton::None;
     std::string answerText;
+
+    // The caption of the button pressed, empty when none was.
+    std::string answerCaption() const;
 };
 
 // The last box that was answered, and callbacks run after each box closes, with its answer.
 const std::optional<MessageBoxRecord>& lastMessageBox();
 int addMessageBoxObserver(std::function<void(const MessageBoxRecord&)> observer);
 void removeMessageBoxObserver(int id);
-// Empties the state and the last record (the observers stay): a fresh program starts with no answer.
+// Forgets the last record (the observers stay): a fresh program starts with no answer.
 void resetMessageBoxes();
 
-// Shows the box modally and returns the caption of the pressed button (also in messageBoxState().answer).
-// MsgNumber 800 shows no number line; any other puts "Message Number: <n>" on top.
-std::string MA_MBX(const std::string& Caption, int MsgNumber, const std::string& Message,
-                   const std::string& Cmd1, bool ShowText, const std::string& Cmd2, const std::string& Cmd3,
-                   const std::string& Cmd4, int DefaultButton);
-
-// MA_MBX with a chosen icon: the report form asks for a description with the exclamation icon.
-std::string showMessageBox(const std::string& caption, int msgNumber, const std::string& message,
-                           const std::array<std::string, 4>& captions, bool showText, int defaultButton,
-                           MessageBoxIcon icon);
+// Shows the box modally and tells which button closed it. A number other than kNoMessageNumber puts
+// "Message Number: <n>" on top of the message.
+MessageBoxAnswer showMessageBox(const MessageBoxRequest& request);
 
 // Breaks a trimmed line of more than 50 characters once, at its last blank within the first 50, dropping
 // the blank; shorter lines come back unchanged. A long line with no such blank raises error 5, as the
@@ -89,7 +102,7 @@ public:
     static constexpr Color kDefaultButtonColor = 0x0000C000;
     static constexpr Color kOtherButtonColor = 0x00C0FFC0;
 
-    MessageBoxForm();
+    explicit MessageBoxForm(MessageBoxRequest request = {});
 
     Control& lblMessage;
     Control& imgVBInformation;
@@ -103,8 +116,10 @@ public:
     // lblMessage's height as designed, noted at loadForm.
     int lblMessageDesignHeight = 0;
 
-    // The call's values as the box took them at loadForm.
-    const MessageBoxState& request() const { return request_; }
+    // What the box was asked to show.
+    const MessageBoxRequest& request() const { return request_; }
+    // The answer once a button was pressed. The caller keeps it: the box is gone once it is answered.
+    std::shared_ptr<const MessageBoxAnswer> answer() const { return answer_; }
     // The box as it stands: title, number, texts, buttons; the answer once a button was pressed.
     MessageBoxRecord record() const;
 
@@ -115,7 +130,7 @@ public:
     // The visible button that bears the default number, or nullptr (a default of 9 names none).
     Control* defaultButtonControl() const;
 
-    // Runs onActivateForm once for this showing; MA_MBX calls it before showing the box.
+    // Runs onActivateForm once for this showing; showMessageBox calls it before showing the box.
     void activateOnce();
 
     void onLoad() override;
@@ -126,7 +141,8 @@ private:
     void pressNumbered(int number);
     void colourButtons();
 
-    MessageBoxState request_;
+    MessageBoxRequest request_;
+    std::shared_ptr<MessageBoxAnswer> answer_;
     bool activated_ = false;
 };
 

@@ -8,6 +8,6 @@ class Form;
 
 // Puts the picture of the form on the clipboard, replacing what was there. A failed copy leaves the
 // clipboard as it was and reports nothing.
-void CopyEntirePicture(Form& form);
+void copyEntirePicture(Form& form);
 
 }  // namespace lw

@@ -3,19 +3,16 @@
 #include "documents/file_dialogs.h"
 
 #include "diagnostics/error_tail.h"
-#include "model/app_error.h"
 #include "model/program.h"
 #include "shell/paths.h"
 #include "shell/startup.h"
 #include "store/inf_store.h"
-#include "text/case.h"
-#include "text/cp1252.h"
 
 namespace lw {
 
 namespace {
 
-constexpr const char* kLabel = "M8_CommonDialogReplacement:OpenOrSaveFile";
+constexpr const char* kLabel = "M8_CommonDialogReplacement:chooseFileToOpenOrSave";
 constexpr const char* kOpenTitle = "Select File, Press OPEN button -OR - Press Delete Key to DELETE the File";
 constexpr const char* kSaveTitle =
     "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
@@ -37,48 +34,51 @@ std::string folderOf(const std::string& path) {
     return slash == std::string::npos ? std::string() : path.substr(0, slash);
 }
 
-}  // namespace
-
-std::string OpenOrSaveFile(int SaveMode, const std::string& FileName) {
-    return runGuardedOr<std::string>(kLabel, "", [&] {
-        Globals& g = program().g;
-        const bool save = SaveMode != 0;
-        const std::string key = save ? "LastSaveFolder" : "LastOpenFolder";
-        std::string startFolder = readUserInf(key);
-        if (startFolder.empty()) startFolder = store::ReadINF("TaxForms", "Folder", "", g.UserInfFile);
-
-        FileDialogRequest request;
-        request.save = save;
-        request.title = save ? kSaveTitle : kOpenTitle;
-        request.startFolder = startFolder;
-        if (save) request.proposedName = beforeNul(FileName).substr(0, kOfferedName);
-        putFilter(g.FileFilter, request);
-
-        std::optional<std::string> answer = program().ui.fileDialog(request);
-        if (!answer) return std::string(1, text::kFieldSeparator);
-        const std::string path = beforeNul(*answer);
-        const std::string folder = folderOf(path);
-        if (folder != startFolder) {
-            writeUserInf(key, folder);
-            (save ? g.LastSaveFolder : g.LastOpenFolder) = folder;
-        }
-        return path;
-    });
+// The key of the user INF file that remembers the last folder of the dialog.
+const char* rememberedFolderKey(FileDialogMode mode) {
+    return mode == FileDialogMode::Save ? "LastSaveFolder" : "LastOpenFolder";
 }
 
-void verifyRememberedFolder(const std::string& sKind) {
+}  // namespace
+
+std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName) {
+    return runGuardedOr<std::optional<std::string>>(
+        kLabel, std::string(), [&]() -> std::optional<std::string> {
+            Globals& g = program().g;
+            const bool save = mode == FileDialogMode::Save;
+            const std::string key = rememberedFolderKey(mode);
+            std::string startFolder = readUserInf(key);
+            if (startFolder.empty())
+                startFolder = store::readInfValue("TaxForms", "Folder", "", g.edition.userInfFile);
+
+            FileDialogRequest request;
+            request.save = save;
+            request.title = save ? kSaveTitle : kOpenTitle;
+            request.startFolder = startFolder;
+            if (save) request.proposedName = beforeNul(fileName).substr(0, kOfferedName);
+            putFilter(g.edition.fileFilter, request);
+
+            std::optional<std::string> answer = program().ui.fileDialog(request);
+            if (!answer) return std::nullopt;
+            const std::string path = beforeNul(*answer);
+            const std::string folder = folderOf(path);
+            if (folder != startFolder) {
+                writeUserInf(key, folder);
+                (save ? g.choices.lastSaveFolder : g.choices.lastOpenFolder) = folder;
+            }
+            return path;
+        });
+}
+
+void verifyRememberedFolder(FileDialogMode mode) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
-        std::string key;
-        if (text::equalsNoCase(sKind, "Open"))
-            key = "LastOpenFolder";
-        else if (text::toLower(sKind) == "save")
-            key = "LastSaveFolder";
-        else
-            throw AppError(900, "Program Error", "M3_Ledgerwick:Verify_INF_Entry");
+        const std::string key = rememberedFolderKey(mode);
         const Globals& g = program().g;
-        const std::string folder = store::ReadINF(g.UserNameUC, key, "", g.UserInfFile);
+        const std::string folder =
+            store::readInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::SaveINF(g.UserNameUC, key, "", g.UserInfFile);
+        if (!folderExists(folder))
+            store::writeInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
     });
 }
 

@@ -1,17 +1,19 @@
 #pragma once
 // The one place that asks the operator for a path, and remembers the folder used.
 
+#include <optional>
 #include <string>
 
 namespace lw {
 
-// SaveMode 0 opens, any other saves; FileName is the name proposed in save mode. Returns the full path,
-// or "·" (the byte 0xB7) when the operator cancels.
-std::string OpenOrSaveFile(int SaveMode, const std::string& FileName);
+enum class FileDialogMode { Open, Save };
 
-// Runs just before each dialog. sKind "Open" (any case) or "save" (any case): the remembered folder of
-// that dialog is emptied in the user INF file when it no longer exists. Any other kind is a program
-// error, logged.
-void verifyRememberedFolder(const std::string& sKind);
+// Asks for a path; fileName is the name proposed in save mode. Returns the full path, or nothing when
+// the operator cancels. A fault is logged and gives an empty path, which the write or read then refuses.
+std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName);
+
+// Runs just before each dialog: the remembered folder of that dialog is emptied in the user INF file
+// when it no longer exists.
+void verifyRememberedFolder(FileDialogMode mode);
 
 }  // namespace lw

@@ -19,8 +19,8 @@ namespace {
 
 constexpr const char* kBuildLabel = "M4_FileCode:Build_Record";
 constexpr const char* kOpenLabel = "M4_FileCode:Open_File";
-constexpr const char* kCardsError = "Error SS_ITIN";
-const std::string kCancel(1, text::kFieldSeparator);
+// What a cancelled open leaves as the file name: the dialog's cancel mark.
+const std::string kCancelMark(1, text::kFieldSeparator);
 
 Globals& g() { return program().g; }
 
@@ -50,31 +50,26 @@ std::vector<store::RecordField> filledControls(const Form& form) {
 
 // The form just read has its say once the Open command is done with it.
 void afterFileOpened() {
-    auto* form = dynamic_cast<CatalogueForm*>(g().CurrentForm);
+    auto* form = dynamic_cast<CatalogueForm*>(g().document.currentForm);
     if (form && form->isLoaded()) form->afterFileOpened();
 }
 
 }  // namespace
 
-std::string buildRecord() {
-    std::string line;
+std::optional<std::string> buildRecord() {
+    std::optional<std::string> line;
     runGuarded(kBuildLabel, [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
         if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
-        if (auto* rules = dynamic_cast<CatalogueForm*>(form)) {
-            // What a refused check leaves behind (only the cards refuse).
-            line = kCardsError;
-            rules->checkBeforeRecord();
-            line.clear();
-        }
+        if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->checkBeforeRecord();
         std::vector<store::RecordField> fields = filledControls(*form);
         if (auto* pictures = dynamic_cast<ChosenPictures*>(form)) {
             fields.push_back({"PIC1", std::to_string(pictures->chosenPicture(1))});
             fields.push_back({"PIC2", std::to_string(pictures->chosenPicture(2))});
         }
-        line = store::buildRecordLine(g().RecordPrefix, year, fields);
+        line = store::buildRecordLine(g().document.catalogue.recordPrefix, year, fields);
     });
     return line;
 }
@@ -82,7 +77,7 @@ std::string buildRecord() {
 void openDataFile() {
     runGuarded(kOpenLabel, [] {
         try {
-            if (Form* current = g().CurrentForm; current && current->isLoaded() && current->isChild)
+            if (Form* current = g().document.currentForm; current && current->isLoaded() && current->isChild)
                 current->unload();
         } catch (const ProgramEnded&) {
             throw;
@@ -90,9 +85,11 @@ void openDataFile() {
             // The form on the screen goes whatever its unloading says.
         }
         // A remembered folder that has gone would send the dialog astray.
-        verifyRememberedFolder("OPEN");
-        g().CurrentFileName = OpenOrSaveFile(0, "");
-        if (g().CurrentFileName == kCancel) return;
+        verifyRememberedFolder(FileDialogMode::Open);
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Open, "");
+        // The mark stands as the file name until the next open or save chooses one.
+        g().document.currentFileName = chosen.value_or(kCancelMark);
+        if (!chosen) return;
         readDataFile();
         afterFileOpened();
         program().ui.refresh();

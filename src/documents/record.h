@@ -1,14 +1,19 @@
 #pragma once
 // The one-line data file of a form: building it from the form on the screen, and reading it back.
 
+#include <optional>
 #include <string>
 
 namespace lw {
 
-// The line for CurrentForm, without its line end; "Error SS_ITIN" when the cards do not pair up.
-std::string buildRecord();
-// Reads CurrentFileName into the form its first field names; returns FormTitle.
-std::string readDataFile();
+class Form;
+
+// The line for CurrentForm, without its line end; nothing when the form makes none, as cards that do
+// not pair up (the operator has been told why).
+std::optional<std::string> buildRecord();
+// Reads CurrentFileName into the form its first field names; returns that form, or nullptr when nothing
+// was opened.
+Form* readDataFile();
 // The Open command: unloads the form on the screen, asks for a file, reads it.
 void openDataFile();
 // Passes every DATE and DATEX field of CurrentForm through the date edit, in control order; the

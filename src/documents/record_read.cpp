@@ -79,7 +79,7 @@ void unloadEveryFormButTheFrame() {
 }
 
 Form& openFormOf(const std::string& field0, const std::string& path) {
-    const std::string formName = GetFormInfo(store::catalogueKeyOf(field0), "FormName");
+    const std::string formName = readFormInfo(store::catalogueKeyOf(field0), "FormName");
     unloadEveryFormButTheFrame();
     if (formName.empty())
         throw AppError(kNoSuchForm,
@@ -89,7 +89,7 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
     if (!form)
         throw AppError(kNoSuchForm, "The form " + formName + " of the file " + path + " cannot be opened.",
                        kReadLabel);
-    g().CurrentForm = form;
+    g().document.currentForm = form;
     return *form;
 }
 
@@ -104,7 +104,8 @@ int portraitNamedBy(const std::string& value) {
 
 void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
     const int number = portraitNamedBy(value);
-    form.at(pictureBox).picture = number > 0 ? portraitFile(g().PicturesFolder, number) : std::string();
+    form.at(pictureBox).picture =
+        number > 0 ? portraitFile(g().edition.picturesFolder, number) : std::string();
     if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = number;
 }
 
@@ -153,12 +154,12 @@ void readField(Form& form, const std::string& field0, const std::string& text) {
 // An opened file's dates go through the same walk as after a change of year.
 void recheckDates() { recheckYearDates(); }
 
-std::string readDataFile() {
+Form* readDataFile() {
     Form* form = nullptr;
     std::vector<std::string> fields;
     // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
     runGuarded(kReadLabel, [&] {
-        const std::string path = g().CurrentFileName;
+        const std::string path = g().document.currentFileName;
         if (path.empty()) return;
         std::string line = store::withCheckKeys(readRecordLine(path));
         for (int pass = 0; pass < 2; ++pass) {
@@ -181,7 +182,7 @@ std::string readDataFile() {
         if (fields.size() > 2) readField(opened, fields[0], fields[2]);
         form = &opened;
     });
-    if (!form) return "";
+    if (!form) return nullptr;
     // From the second key field on, a fault reaches the caller's handler.
     for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
     recheckDates();
@@ -189,10 +190,10 @@ std::string readDataFile() {
     // and said so there, the operator reads the path of the file just opened.
     if (Control* status = form->find("labelMisc"); status && status->caption.empty()) {
         status->foreColor = kRed;
-        status->caption = g().CurrentFileName;
+        status->caption = g().document.currentFileName;
     }
     if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->afterFileRead();
-    return g().FormTitle;
+    return form;
 }
 
 }  // namespace lw

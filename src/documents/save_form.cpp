@@ -57,9 +57,7 @@ int lineCount(const std::string& text) {
     return lines;
 }
 
-void tell(const std::string& source, const std::string& message) {
-    MA_MBX(source, 800, message, "OK", false, "", "", "", 1);
-}
+void tell(const std::string& source, const std::string& message) { showMessageBox({source, message}); }
 
 }  // namespace
 
@@ -70,7 +68,7 @@ bool writeRecord(const std::string& Path, const std::string& Record, const std::
     // Each line starts with a short word, so that the box can break a long path after it.
     if (!folderExists(folder) || !canWriteInto(folder)) {
         // The remembered folder may be the one that is gone: the next dialog must not start there.
-        verifyRememberedFolder("SAVE");
+        verifyRememberedFolder(FileDialogMode::Save);
         tell(Source, std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
                          "This folder does not exist or cannot be written. Choose another folder and save "
                          "again.");
@@ -154,8 +152,6 @@ SaveForm::SaveForm()
 
 void SaveForm::onLoad() {
     runGuarded("F7_Save:Form_Load", [this] {
-        // A form closed by any other way than its buttons has written nothing.
-        g().SaveResult = kSaveResultDone;
         cmdNewSequence.caption =
             std::string("ASSIGN Next Sequence Number") + kLineEnd + "CREATE new file" + kLineEnd + "EXIT";
         cmdExit.caption = "Exit WITHOUT SAVING";
@@ -219,13 +215,15 @@ void SaveForm::onSave() {
             return;
         }
         if (text::equalsNoCase(Text1.text, F7_BaseName)) {
-            g().SaveResult = kSaveResultWrite;
-            unload();
+            end(SaveOutcome::WriteSamePath);
             return;
         }
         // A rename: the record goes under the new name first, so a failed write leaves the old file whole.
-        g().FormRecord = buildRecord();
-        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().FormRecord, kSaveLabel)) return;
+        const std::optional<std::string> record = buildRecord();
+        if (!record) return;
+        g().document.formRecord = *record;
+        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().document.formRecord, kSaveLabel))
+            return;
         const std::string old = pathOf(F7_Folder, F7_BaseName, Text2.text);
         std::error_code ec;
         std::filesystem::remove(old, ec);
@@ -233,8 +231,7 @@ void SaveForm::onSave() {
             tell(kSaveLabel, std::string("The file was saved under its new name, but the old file is still "
                                          "there.") +
                                  kLineEnd + "File: " + old + kLineEnd + "Reason: " + ec.message());
-        g().SaveResult = kSaveResultDone;
-        unload();
+        end(SaveOutcome::Done);
     });
 }
 
@@ -272,15 +269,27 @@ void SaveForm::onNewSequence() {
             setFocus(Text1);
             return;
         }
-        if (!writeRecord(target, g().FormRecord, kSequenceLabel)) return;
-        g().SaveResult = kSaveResultDone;
-        unload();
+        if (!writeRecord(target, g().document.formRecord, kSequenceLabel)) return;
+        end(SaveOutcome::Done);
     });
 }
 
-void SaveForm::onExit() {
-    g().SaveResult = kSaveResultDone;
+void SaveForm::onExit() { end(SaveOutcome::Done); }
+
+void SaveForm::end(SaveOutcome outcome) {
+    *outcome_ = outcome;
     unload();
+}
+
+SaveOutcome SaveForm::run(const std::string& path) {
+    Desktop& desktop = program().desktop;
+    auto owned = std::make_unique<SaveForm>();
+    owned->F7_Path = path;
+    // A form closed by any other way than its buttons has written nothing.
+    const std::shared_ptr<const SaveOutcome> outcome = owned->outcome();
+    SaveForm& form = static_cast<SaveForm&>(desktop.load(std::move(owned)));
+    if (form.isLoaded()) desktop.showModal(form);
+    return *outcome;
 }
 
 }  // namespace lw

@@ -2,15 +2,13 @@
 // SaveForm, the form shown when the file being saved exists already: keep its name, rename it, or move
 // on to the next free sequence number; and the atomic write of a data file that the saves share.
 
+#include <memory>
 #include <string>
 
 #include "model/form.h"
+#include "model/save_outcome.h"
 
 namespace lw {
-
-// The values SaveForm leaves in SaveResult, a text global: saveDataFile writes the file itself only on "2".
-constexpr const char* kSaveResultWrite = "2";  // write under the same path
-constexpr const char* kSaveResultDone = "4";   // stop: the form wrote what was wanted, or nothing was
 
 // Writes the record and its line end to the path, whole or not at all. On failure the file on disk is
 // unchanged, the operator is told why in a box titled with Source, and the result is false; a folder that
@@ -24,7 +22,14 @@ public:
 
     SaveForm();
 
-    // Given by saveDataFile before the form is loaded.
+    // Shows the form modally for a path that holds a file, and tells how it ended.
+    static SaveOutcome run(const std::string& path);
+
+    // How the form has ended: Done until a button says otherwise. The caller keeps it, as the form is
+    // gone once it is closed.
+    std::shared_ptr<const SaveOutcome> outcome() const { return outcome_; }
+
+    // Given by run before the form is loaded.
     std::string F7_Path;
     // Split from the path at loadForm.
     std::string F7_Folder;
@@ -55,6 +60,11 @@ public:
     // The next path of the name's "_###" sequence that no file holds, or "" when the name has no such
     // ending. 7 goes on as 008, 999 as 1000.
     static std::string nextSequencePath(const std::string& path);
+
+private:
+    void end(SaveOutcome outcome);
+
+    std::shared_ptr<SaveOutcome> outcome_ = std::make_shared<SaveOutcome>(SaveOutcome::Done);
 };
 
 // "Current File: ..." with its options, as Label2 shows it; F99 on the command line shows the raw form.

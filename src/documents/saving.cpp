@@ -3,7 +3,6 @@
 #include "documents/saving.h"
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -28,9 +27,6 @@ namespace {
 
 const char* const kNameLabel = "M4_FileCode:Build_FileName";
 const char* const kSaveLabel = "M4_FileCode:Save_File";
-const char* const kK1Error = "Error K1";
-const char* const kCardsError = "Error SS_ITIN";
-const char* const kCancel = "\xB7";
 // The first template, which the configuration form chooses when the operator has chosen none.
 const char* const kFirstTemplate = "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>";
 
@@ -38,7 +34,7 @@ Globals& g() { return program().g; }
 
 // CurrentForm outlives the form it names: only a form still on the desktop counts.
 Form* loadedCurrentForm() {
-    Form* current = g().CurrentForm;
+    Form* current = g().document.currentForm;
     if (!current) return nullptr;
     const std::vector<Form*> forms = program().desktop.forms();
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
@@ -85,43 +81,48 @@ std::string safeFileName(const std::string& name) {
 
 namespace {
 
-std::string buildFileName(int& FocusIndex) {
+std::optional<std::string> buildFileName(int& FocusIndex) {
     Form* found = loadedCurrentForm();
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
     Form& form = *found;
-    const std::string formKey = g().FormKey;
+    const std::string formKey = g().document.formKey;
     // A form outside the catalogue has the common rules.
     auto* rules = dynamic_cast<CatalogueForm*>(&form);
 
     if (const std::optional<std::string> own = rules ? rules->ownFileName() : std::nullopt) {
-        g().FormRecord = buildRecord();
+        const std::optional<std::string> record = buildRecord();
+        // What FormRecord reads once a form that names itself has refused to make its line.
+        g().document.formRecord = record.value_or("Error " + formKey);
+        if (!record) return std::nullopt;
         return safeFileName(*own);
     }
 
-    if (rules && !rules->requiredFieldsFilled(FocusIndex)) return kK1Error;
+    if (rules && !rules->requiredFieldsFilled(FocusIndex)) return std::nullopt;
 
     std::string other;
-    if (text::isNumeric(g().OtherInfo)) {
-        other = fieldText(form, static_cast<int>(*text::toDouble(g().OtherInfo)));
+    if (text::isNumeric(g().document.catalogue.otherInfo)) {
+        other = fieldText(form, static_cast<int>(*text::toDouble(g().document.catalogue.otherInfo)));
         other = other.substr(0, other.find('\r'));
     }
 
     FocusIndex = 0;
     validateActiveControl(form);
-    g().FormRecord = buildRecord();
+    const std::optional<std::string> record = buildRecord();
+    g().document.formRecord = record.value_or("");
+    if (!record) return std::nullopt;
 
     std::string name;
-    if (const std::optional<int> nameIndex = firstFieldIndex(g().NameAddrIndex)) {
+    if (const std::optional<int> nameIndex = firstFieldIndex(g().document.catalogue.nameAddrIndex)) {
         name = fieldText(form, *nameIndex);
         if (other == name) other.clear();
     }
     if (name.empty()) raiseDataError(800, "Name is MANDATORY", kNameLabel);
 
-    std::string fileName =
-        g().FileNameFormat.empty() ? kFirstTemplate + g().FileExtension : g().FileNameFormat;
+    std::string fileName = g().choices.fileNameFormat.empty() ? kFirstTemplate + g().edition.fileExtension
+                                                              : g().choices.fileNameFormat;
     fileName = replaceNoCase(fileName, "<FORM>", formKey);
 
-    if (const std::optional<int> numberIndex = firstFieldIndex(g().SSNIndex)) {
+    if (const std::optional<int> numberIndex = firstFieldIndex(g().document.catalogue.ssnIndex)) {
         if (fieldText(form, *numberIndex).empty()) {
             FocusIndex = *numberIndex;
             raiseDataError(801, "Social Security/Taxpayer ID Number is MANDATORY", kNameLabel);
@@ -151,37 +152,31 @@ std::string buildFileName(int& FocusIndex) {
     return safeFileName(fileName);
 }
 
-// Shows SaveForm for a path that holds a file; true when saveDataFile is still to write it.
-bool askAboutExistingFile(const std::string& path) {
-    Desktop& desktop = program().desktop;
-    auto owned = std::make_unique<SaveForm>();
-    owned->F7_Path = path;
-    g().SaveResult = kSaveResultDone;
-    SaveForm& form = static_cast<SaveForm&>(desktop.load(std::move(owned)));
-    if (form.isLoaded()) desktop.showModal(form);
-    return g().SaveResult != kSaveResultDone;
-}
-
 void saveFile(int& FocusIndex) {
-    std::string name = proposeFileName(FocusIndex);
-    if (text::equalsNoCase(g().FormRecord, kCardsError) || text::equalsNoCase(name, kK1Error) || name.empty())
-        return;
+    const std::optional<std::string> proposed = proposeFileName(FocusIndex);
+    if (!proposed || proposed->empty()) return;
 
-    const std::string& extension = g().FileExtension;
-    name = replaceNoCase(name, extension, "") + extension;
+    const std::string& extension = g().edition.fileExtension;
+    const std::string name = replaceNoCase(*proposed, extension, "") + extension;
 
-    std::string path = g().CurrentFileName;
+    std::string path = g().document.currentFileName;
     if (path.empty()) {
         // A remembered folder that has gone would send the dialog astray.
-        verifyRememberedFolder("SAVE");
+        verifyRememberedFolder(FileDialogMode::Save);
         // The path chosen is not kept: the next Save of a new form asks again.
-        path = OpenOrSaveFile(1, name);
-        if (path == kCancel) return;
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Save, name);
+        if (!chosen) return;
+        path = *chosen;
     }
 
-    if (fileExists(path) && !askAboutExistingFile(path)) return;
+    if (fileExists(path)) {
+        const SaveOutcome outcome = SaveForm::run(path);
+        // Kept on the document for the runner, which reads how the last such form ended.
+        g().document.lastSaveOutcome = outcome;
+        if (outcome != SaveOutcome::WriteSamePath) return;
+    }
 
-    if (!writeRecord(path, g().FormRecord, kSaveLabel)) return;
+    if (!writeRecord(path, g().document.formRecord, kSaveLabel)) return;
 
     if (auto* saved = dynamic_cast<CatalogueForm*>(loadedCurrentForm())) saved->afterSaved();
 
@@ -195,8 +190,9 @@ void saveFile(int& FocusIndex) {
 
 }  // namespace
 
-std::string proposeFileName(int& FocusIndex) {
-    return runGuardedOr<std::string>(kNameLabel, std::string(), [&] { return buildFileName(FocusIndex); });
+std::optional<std::string> proposeFileName(int& FocusIndex) {
+    return runGuardedOr<std::optional<std::string>>(kNameLabel, std::nullopt,
+                                                    [&] { return buildFileName(FocusIndex); });
 }
 
 void saveDataFile() {

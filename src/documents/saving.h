@@ -1,12 +1,14 @@
 #pragma once
 // Naming a document from its content, and writing it.
 
+#include <optional>
 #include <string>
 
 namespace lw {
 
-// The proposed file name, or "Error K1"; fills FormRecord. FocusIndex names the field to return to.
-std::string proposeFileName(int& FocusIndex);
+// The proposed file name; fills FormRecord. Nothing when the form lacks what a name or a record is made
+// of: the operator has been told why. FocusIndex names the field to return to.
+std::optional<std::string> proposeFileName(int& FocusIndex);
 
 // A file name that stays in its folder on Linux and Windows alike: / \ : * ? " < > | and control
 // characters become "-".

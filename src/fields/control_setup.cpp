@@ -64,14 +64,15 @@ const FieldRules& rulesOfTheFormOf(const Control& ctl) {
 
 }  // namespace
 
-Color legendColor(int index) { return g().LegendColors.at(static_cast<std::size_t>(index)); }
+Color legendColor(int index) { return g().edition.legendColors.at(static_cast<std::size_t>(index)); }
 
 void setUpControl(Control& ctl, bool bSetUp) {
     const std::string name = text::toUpper(ctl.name);
     if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
-        g().LastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
-        if (g().CurrentForm) {
-            if (Control* status = g().CurrentForm->find("labelMisc")) status->caption = ctl.toolTipText;
+        g().document.lastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
+        if (g().document.currentForm) {
+            if (Control* status = g().document.currentForm->find("labelMisc"))
+                status->caption = ctl.toolTipText;
         }
     }
     if (bSetUp)
@@ -145,9 +146,9 @@ void setUpBackColor(Control& ctl) {
 
 void refocusAfterTaxpayerFill() {
     Globals& globals = g();
-    Form* form = globals.CurrentForm;
+    Form* form = globals.document.currentForm;
     if (!form) return;
-    const std::string key = globals.LastFieldKey;
+    const std::string key = globals.document.lastFieldKey;
     const std::size_t colon = key.find(':');
     const std::string name = colon == std::string::npos ? key : key.substr(0, colon);
     const int i = colon == std::string::npos ? 0 : std::stoi(key.substr(colon + 1));

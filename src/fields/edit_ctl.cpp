@@ -20,7 +20,7 @@ bool editUnknownAmount(Control& ctl) {
 }
 
 std::string formTaxYear() {
-    const Form& form = *program().g.CurrentForm;
+    const Form& form = *program().g.document.currentForm;
     return form.at("TaxYear", 0).caption + form.at("TaxYear", 1).caption;
 }
 
@@ -33,10 +33,10 @@ bool editByTag(Control& ctl) {
     if (tag == "MONEY" || tag == "SMONEY") return editMoney(ctl);
     if (tag == "AMONEY") return editUnknownAmount(ctl);
     if (tag == "-MONEY") return editMoneyNegativeOk(ctl);
-    if (tag == "DATE") return editDate(ctl, "");
+    if (tag == "DATE") return editDate(ctl, program().g.taxYear, "");
     if (tag == "DATEX") {
-        if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
-        return editDate(ctl, formTaxYear());
+        if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");
+        return editDate(ctl, program().g.taxYear, formTaxYear());
     }
     if (tag == "YEAR") return editYear(ctl);
     if (tag == "VERIFICATION") return editVerificationCode(ctl);
@@ -48,7 +48,7 @@ bool editByTag(Control& ctl) {
 
 }  // namespace
 
-bool EditCtl(Control& ctl) {
+bool editField(Control& ctl) {
     bool result = true;
     runGuarded("M7_Edits:EditCtl", [&] {
         // A form without a status line may use the edits too.

@@ -1,5 +1,5 @@
 #pragma once
-// What leaving a typed field does: EditCtl picks the edit by the field's Tag, the edit rewrites the Text
+// What leaving a typed field does: editField picks the edit by the field's Tag, the edit rewrites the Text
 // to its normal form, and the outcome is painted. A true result lets the focus leave.
 // Every edit catches its own failures: the field takes the failure colour of its type with red text,
 // the status line labelMisc of CurrentForm tells why, and the focus is asked back to the field.
@@ -11,8 +11,8 @@
 
 namespace lw {
 
-// The dispatcher that onText1Validate calls: Cancel = !EditCtl(ctl). An empty field always stands.
-bool EditCtl(Control& ctl);
+// The dispatcher that onText1Validate calls: Cancel = !editField(ctl). An empty field always stands.
+bool editField(Control& ctl);
 
 // Amounts: "$1,234.50"; SMONEY has no dollar sign; a negative amount shows in parentheses.
 bool editMoney(Control& ctl);
@@ -36,9 +36,9 @@ bool editPhone(Control& ctl);
 // Looks for the text of Text1(iIndex) of CurrentForm among Text1(0) to Text1(n-1), n being the number of
 // items of the comma list; the items' values are not used. 99 for no duplicate, else the index found; a
 // duplicate is selected for overtyping and the operator told.
-std::int32_t DuplicateTinCheck(const std::string& sIndexList, int iIndex);
+std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex);
 
 // Places of sText where sFind starts, overlapping ones included; blind to case unless bCaseSensitive.
-std::int16_t CountCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive);
+std::int16_t countCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive);
 
 }  // namespace lw

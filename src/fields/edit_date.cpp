@@ -28,18 +28,18 @@ bool placeholderDateStands(const std::string& month, const std::string& day) {
 
 std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.size() - 4) : s; }
 
-std::string formTaxYear() {
+std::string formTaxYear(const TaxYearChoice& inForce) {
     const Globals& g = program().g;
-    if (!formKeyHasTaxYear(g.FormKey) || !g.CurrentForm)
-        return g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
-    return g.CurrentForm->at("TaxYear", 0).caption + g.CurrentForm->at("TaxYear", 1).caption;
+    if (!formKeyHasTaxYear(g.document.formKey) || !g.document.currentForm) return inForce.text();
+    return g.document.currentForm->at("TaxYear", 0).caption +
+           g.document.currentForm->at("TaxYear", 1).caption;
 }
 
 void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
     const std::string old = ctl.text;
     ctl.text = old.substr(0, 6) + year;
-    MA_MBX(kSource, number, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---",
-           "OK", false, "", "", "", 1);
+    showMessageBox(
+        {kSource, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---", number});
 }
 
 }  // namespace
@@ -67,11 +67,11 @@ bool formatDateText(Control& ctl) {
     return result;
 }
 
-bool editDate(Control& ctl, const std::string& sRequiredYear) {
+bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& sRequiredYear) {
     bool result = true;
     try {
         clearStatusLine();
-        const std::string taxYear = formTaxYear();
+        const std::string taxYear = formTaxYear(inForce);
         if (!formatDateText(ctl))
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);
@@ -83,7 +83,7 @@ bool editDate(Control& ctl, const std::string& sRequiredYear) {
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, 6, "");
-        if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
+        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }
     return result;

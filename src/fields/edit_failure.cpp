@@ -6,7 +6,7 @@ namespace lw {
 
 namespace {
 Control* statusLine() {
-    Form* form = program().g.CurrentForm;
+    Form* form = program().g.document.currentForm;
     return form ? form->find("labelMisc") : nullptr;
 }
 }  // namespace

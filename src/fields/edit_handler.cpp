@@ -18,7 +18,7 @@ bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::fu
     } catch (...) {
         const Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
-        if (program().g.bDebug && !isDataError(fault.number)) stopForProgrammer(label, fault);
+        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(label, fault);
         if (ctl.form) ctl.form->setFocus(ctl);
         return false;
     }

@@ -58,11 +58,11 @@ bool editSsnOrItin(Control& ctl) {
     });
 }
 
-std::int32_t DuplicateTinCheck(const std::string& sIndexList, int iIndex) {
+std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex) {
     std::int32_t result = 99;
     runGuarded("M7_Edits:DuplicateTinCheck", [&] {
-        if (!program().g.CurrentForm) throw AppError(err::kObjectRequired, "Object required");
-        Form& form = *program().g.CurrentForm;
+        if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");
+        Form& form = *program().g.document.currentForm;
         Control& field = form.at("Text1", iIndex);
         if (field.text.empty()) return;
         // The loop counter, not the list's items, picks the fields compared.
@@ -75,8 +75,7 @@ std::int32_t DuplicateTinCheck(const std::string& sIndexList, int iIndex) {
                 status->caption = "Duplicate SSN/ITIN number";
                 status->foreColor = kRed;
             }
-            MA_MBX("DuplicateTinCheck", 800, "Duplicate SS/ITIN Number on this screen", "OK", false, "", "",
-                   "", 1);
+            showMessageBox({"DuplicateTinCheck", "Duplicate SS/ITIN Number on this screen"});
             return;
         }
     });

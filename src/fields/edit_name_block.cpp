@@ -13,7 +13,7 @@ bool editNameBlock(Control& ctl) {
     static const std::string kLineBreak = "\r\n";
     std::string block = ctl.text;
     while (block.compare(0, kLineBreak.size(), kLineBreak) == 0) block.erase(0, kLineBreak.size());
-    // A block of blank lines only keeps the focus with no message: EditCtl paints it red.
+    // A block of blank lines only keeps the focus with no message: editField paints it red.
     if (block.empty()) return false;
 
     const std::vector<std::string> lines = text::split(block, kLineBreak);

@@ -13,7 +13,7 @@ bool editVerificationCode(Control& ctl) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_VerificationCode";
     return runEdit(ctl, kLabel, {9, false}, [&] {
         const std::string& code = ctl.text;
-        const int hyphens = CountCharacters(code, "-", false);
+        const int hyphens = countCharacters(code, "-", false);
         const bool rightLength = (code.size() == 16 && hyphens == 0) || (code.size() == 19 && hyphens == 3);
         if (!rightLength)
             throw AppError(
@@ -24,7 +24,7 @@ bool editVerificationCode(Control& ctl) {
     });
 }
 
-std::int16_t CountCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive) {
+std::int16_t countCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive) {
     const std::string haystack = bCaseSensitive ? sText : text::toUpper(sText);
     const std::string needle = bCaseSensitive ? sFind : text::toUpper(sFind);
     std::int32_t count = 0;

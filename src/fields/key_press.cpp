@@ -1,7 +1,8 @@
 #include "fields/key_press.h"
 
+#include "model/desktop.h"
 #include "model/keys.h"
-#include "model/program.h"
+#include "model/ports.h"
 #include "text/case.h"
 
 namespace lw {
@@ -65,6 +66,8 @@ void filterFieldKey(Control& ctl, int& keyAscii) {
     if (!passes) keyAscii = 0;
 }
 
-void SendTabKey() { program().desktop.sendKey(keys::kTab, 0, 0); }
+void sendTabKey(const Form& form) {
+    if (Desktop* desktop = form.desktop()) desktop->sendKey(keys::kTab, 0, 0);
+}
 
 }  // namespace lw

@@ -11,7 +11,8 @@ namespace lw {
 // Lets the key through, changes it, or swallows it (keyAscii 0) by the field's Tag. Never reports.
 void filterFieldKey(Control& ctl, int& keyAscii);
 
-// Sends a Tab keystroke to the focused field after the running handler, with no waiting.
-void SendTabKey();
+// Sends a Tab keystroke to the focused field of the form's desktop after the running handler, with no
+// waiting.
+void sendTabKey(const Form& form);
 
 }  // namespace lw

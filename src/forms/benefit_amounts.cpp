@@ -86,8 +86,7 @@ std::string rrbShortfallReason(RrbShortfall shortfall) {
 
 std::string partBPremiumOfYearInForce() {
     const Globals& g = program().g;
-    const std::string& year = g.TaxYears[static_cast<std::size_t>(g.TaxYearIndex)];
-    return store::ReadINF(year, "MCPartBPremium", "", g.SSMCInfFile);
+    return store::readInfValue(g.taxYear.text(), "MCPartBPremium", "", g.edition.ssmcInfFile);
 }
 
 }  // namespace lw

@@ -36,7 +36,7 @@ void BenefitStatementForm::onLoad() {
 void BenefitStatementForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isText1(ctl)) return;
     runGuarded(validateLabel(), [&] {
-        if (!EditCtl(ctl)) {
+        if (!editField(ctl)) {
             Cancel = true;
             return;
         }
@@ -88,7 +88,7 @@ void BenefitStatementForm::countWithoutOverflow(const std::function<void()>& ari
 
 void BenefitStatementForm::reportShortfall(int redField, int number, const std::string& reason) {
     field(redField).foreColor = kRed;
-    MA_MBX(computeLabel_, number, benefitErrorMessage(reason), "OK", false, "", "", "", 1);
+    showMessageBox({computeLabel_, benefitErrorMessage(reason), number});
     computationFailed = true;
 }
 

@@ -43,7 +43,7 @@ void CardsForm::refuse(int& keyAscii, const std::string& message) {
 }
 
 void CardsForm::showCard(int Index, const char* pictureName) {
-    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.PicturesFolder, pictureName);
+    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
 }
 
 void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
@@ -51,7 +51,7 @@ void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); 
 void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (keyAscii == keys::kEnter) SendTabKey();
+    if (keyAscii == keys::kEnter) sendTabKey(*this);
     if (!isNumberField(ctl)) {
         if (keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 32;
         return;
@@ -94,7 +94,7 @@ void CardsForm::onValidate(Control& ctl, bool& Cancel) {
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (Index % 2 == 0 && DuplicateTinCheck(kNumberFields, Index) != 99) Cancel = true;
+    if (Index % 2 == 0 && checkDuplicateNumbers(kNumberFields, Index) != 99) Cancel = true;
 }
 
 void CardsForm::giveOwnLook() {
@@ -143,7 +143,7 @@ void CardsForm::afterFileRead() {
         const Control& c = *owned;
         if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
         at("Image1", c.index / 2).picture =
-            joinPath(program().g.PicturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+            joinPath(program().g.edition.picturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
     }
 }
 

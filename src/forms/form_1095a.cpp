@@ -74,7 +74,7 @@ void Form1095A::onValidate(Control& ctl, bool& Cancel) {
 void Form1095A::onText1KeyPress(int Index, int& keyAscii) {
     runGuarded("TF_1095A:Text1_KeyPress", [&] {
         if (keyAscii == keys::kEnter) {
-            SendTabKey();
+            sendTabKey(*this);
             keyAscii = 0;
             return;
         }
@@ -102,7 +102,7 @@ void Form1095A::copyDown(int Index) {
 
 void Form1095A::onText1Validate(int Index, bool& Cancel) {
     runGuarded("TF_1095A:Text1_Validate", [&] {
-        if (!EditCtl(at("Text1", Index))) {
+        if (!editField(at("Text1", Index))) {
             Cancel = true;
             return;
         }

@@ -16,7 +16,7 @@ EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) {
 
 void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (isFieldArray(ctl) && keyAscii == keys::kEnter) {
-        SendTabKey();
+        sendTabKey(*this);
         keyAscii = 0;
     }
     TaxForm::onKeyPress(ctl, keyAscii);

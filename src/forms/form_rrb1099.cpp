@@ -94,7 +94,9 @@ void FormRrb1099::totalGrossPaid() {
 
 void FormRrb1099::copyIdentity() {
     const Globals& g = program().g;
-    for (const std::string* list : {&g.SSNIndex, &g.NameAddrIndex, &g.MedicareClaimNoIndex, &g.EINIndex}) {
+    for (const std::string* list :
+         {&g.document.catalogue.ssnIndex, &g.document.catalogue.nameAddrIndex,
+          &g.document.catalogue.medicareClaimNoIndex, &g.document.catalogue.einIndex}) {
         // A form whose catalogue names no such pair has nothing to copy.
         if (list->empty()) continue;
         const std::vector<std::string> items = text::split(*list, ",");

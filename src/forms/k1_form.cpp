@@ -92,7 +92,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
 void K1Form::leavingRoutine(Control& field, int count) {
     field.backColor = kWhite;
     field.foreColor = kBlack;
-    if (!EditCtl(field)) {
+    if (!editField(field)) {
         setFocus(field);
         return;
     }
@@ -150,11 +150,11 @@ void K1Form::refillAfterClear() { restoreK1DesignValues(*this); }
 bool K1Form::requiredFieldsFilled(int& focusIndex) {
     const Globals& g = program().g;
     const std::pair<std::optional<int>, const K1RequiredField*> required[] = {
-        {firstFieldIndex(g.SSNIndex), &design_.numberRequired},
-        {firstFieldIndex(g.NameAddrIndex), &design_.nameRequired}};
+        {firstFieldIndex(g.document.catalogue.ssnIndex), &design_.numberRequired},
+        {firstFieldIndex(g.document.catalogue.nameAddrIndex), &design_.nameRequired}};
     for (const auto& [index, rule] : required) {
         if (!index || !at("Text1", *index).text.empty()) continue;
-        MA_MBX("M4_FileCode:Build_FileName", rule->number, rule->message, "OK", false, "", "", "", 1);
+        showMessageBox({"M4_FileCode:Build_FileName", rule->message, rule->number});
         at("SSTab1").listIndex = rule->tab;
         // The save's last step focuses focusIndex: it must land on the same field.
         focusIndex = *index;

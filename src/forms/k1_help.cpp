@@ -26,14 +26,14 @@ std::vector<std::string> keep(const Form& form, const char* name, bool tags) {
 
 void keepK1DesignValues(Form& form) {
     Globals& g = program().g;
-    g.K1Text2 = keep(form, "Text2", false);
-    g.K1Tag3 = keep(form, "Text3", true);
-    g.K1Text4 = keep(form, "Text4", false);
-    g.K1Tag5 = keep(form, "Text5", true);
+    g.document.k1Design.text2 = keep(form, "Text2", false);
+    g.document.k1Design.tag3 = keep(form, "Text3", true);
+    g.document.k1Design.text4 = keep(form, "Text4", false);
+    g.document.k1Design.tag5 = keep(form, "Text5", true);
 }
 
 void restoreK1DesignValues(Form& form) {
-    const Globals& kept = program().g;
+    const K1DesignValues& kept = program().g.document.k1Design;
     const auto restore = [&form](const char* name, const std::vector<std::string>& values, bool tags) {
         for (Control* field : form.arrayOf(name)) {
             const std::size_t i = static_cast<std::size_t>(field->index);
@@ -41,10 +41,10 @@ void restoreK1DesignValues(Form& form) {
             (tags ? field->tag : field->text) = values[i];
         }
     };
-    restore("Text2", kept.K1Text2, false);
-    restore("Text3", kept.K1Tag3, true);
-    restore("Text4", kept.K1Text4, false);
-    restore("Text5", kept.K1Tag5, true);
+    restore("Text2", kept.text2, false);
+    restore("Text3", kept.tag3, true);
+    restore("Text4", kept.text4, false);
+    restore("Text5", kept.tag5, true);
 }
 
 void openK1CodeList(Form& form, Control& field) {
@@ -69,7 +69,8 @@ void openK1CodeList(Form& form, Control& field) {
             const bool left = name == "TEXT2";
             Control& amount = form.at(left ? "Text3" : "Text5", index);
             // A code picked earlier for the row may have lifted the money check: it comes back first.
-            const std::vector<std::string>& designTags = left ? program().g.K1Tag3 : program().g.K1Tag5;
+            const std::vector<std::string>& designTags =
+                left ? program().g.document.k1Design.tag3 : program().g.document.k1Design.tag5;
             amount.tag = designTags.at(static_cast<std::size_t>(index));
             if (members.F97_K1OverRide == "X") amount.tag.clear();
             desktop.setFocus(amount);

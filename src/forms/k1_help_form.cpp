@@ -115,8 +115,8 @@ void K1HelpForm::onLoad() {
 }
 
 void K1HelpForm::readSection() {
-    const std::vector<std::string> lines =
-        store::ReadINFSection(k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile, kK1HelpSectionBuffer);
+    const std::vector<std::string> lines = store::readInfSection(
+        k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
     for (const std::string& line : lines) Grid1.items.push_back(k1HelpGridRow(line));
 }
 

@@ -28,7 +28,7 @@ void addMovingHoliday(const std::string& year, const char* month, const char* we
     for (int day = 1; day <= 7; ++day) {
         const auto date = text::dayOf(std::string(month) + "/" + twoDigits(day) + "/" + year);
         if (!date || text::weekdayName(*date) != weekday) continue;
-        g().DL_HolidayList += std::string(",") + month + "/" + twoDigits(day + later);
+        g().choices.holidayList += std::string(",") + month + "/" + twoDigits(day + later);
         return;
     }
 }
@@ -42,16 +42,16 @@ text::CalendarDay dateOrFault(const std::string& mmddyyyy) {
 
 }  // namespace
 
-void buildLicenseHolidays() {
-    const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
+void buildLicenseHolidays(const TaxYearChoice& taxYear) {
+    const std::string year = taxYear.text();
     addMovingHoliday(year, "01", "Mon", 14);
     addMovingHoliday(year, "09", "Mon", 0);
     addMovingHoliday(year, "11", "Thu", 21);
-    g().DL_Holidays = text::split(g().DL_HolidayList, ",");
+    g().choices.holidays = text::split(g().choices.holidayList, ",");
 }
 
 bool isLicenseHoliday(const std::string& sMonthDay) {
-    for (const std::string& holiday : g().DL_Holidays)
+    for (const std::string& holiday : g().choices.holidays)
         if (holiday == sMonthDay) return true;
     return false;
 }

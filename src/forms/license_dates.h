@@ -6,6 +6,7 @@
 #include <string>
 
 #include "model/control.h"
+#include "model/tax_year_choice.h"
 #include "text/calendar.h"
 
 namespace lw {
@@ -14,8 +15,8 @@ namespace lw {
 constexpr const char* kFixedHolidays = "01/01,02/20,05/30,06/19,07/04,11/11,12/25";
 
 // Adds the third Monday of January, the first Monday of September and the fourth Thursday of November
-// of the tax year in force to DL_HolidayList, and splits it into DL_Holidays.
-void buildLicenseHolidays();
+// of the tax year to DL_HolidayList (none for 20XX), and splits it into DL_Holidays.
+void buildLicenseHolidays(const TaxYearChoice& taxYear);
 bool isLicenseHoliday(const std::string& sMonthDay);
 bool isWeekend(const text::CalendarDay& dDate);
 // Monday and Friday stay; Saturday goes back a day; Sunday, Tuesday, Wednesday and Thursday go on a day.

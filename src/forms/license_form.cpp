@@ -17,9 +17,9 @@ LicenseForm::LicenseForm() : TaxForm("F3_DL") {}
 void LicenseForm::onLoad() {
     TaxForm::onLoad();
     for (Control* portrait : arrayOf("picDL"))
-        portrait->picture = portraitFile(program().g.PicturesFolder, portrait->index + 1);
-    program().g.DL_HolidayList = kFixedHolidays;
-    buildLicenseHolidays();
+        portrait->picture = portraitFile(program().g.edition.picturesFolder, portrait->index + 1);
+    program().g.choices.holidayList = kFixedHolidays;
+    buildLicenseHolidays(program().g.taxYear);
 }
 
 void LicenseForm::onClick(Control& ctl, MouseButton button) {
@@ -31,7 +31,7 @@ void LicenseForm::onClick(Control& ctl, MouseButton button) {
 
 void LicenseForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
-    if (!EditCtl(ctl)) {
+    if (!editField(ctl)) {
         ctl.select(0, 99);
         setFocus(ctl);
         Cancel = true;

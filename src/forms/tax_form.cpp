@@ -36,7 +36,7 @@ void TaxForm::onKeyPress(Control& ctl, int& keyAscii) {
 }
 
 void TaxForm::onValidate(Control& ctl, bool& Cancel) {
-    if (isFieldArray(ctl)) Cancel = !EditCtl(ctl);
+    if (isFieldArray(ctl)) Cancel = !editField(ctl);
 }
 
 void TaxForm::onLostFocus(Control& ctl) {

@@ -59,9 +59,8 @@ void TaxpayerSheetForm::onLoad() {
 }
 
 void TaxpayerSheetForm::showAgeYear() {
-    const std::string& year = program().g.TaxYears[static_cast<std::size_t>(program().g.TaxYearIndex)];
     Control& yearDigits = at("TaxYear", 1);
-    yearDigits.caption = year.size() >= 2 ? year.substr(year.size() - 2) : year;
+    yearDigits.caption = program().g.taxYear.digits();
     const std::string caption = "Age as of 12/31/20" + yearDigits.caption;
     at("LabelTPAge", 0).caption = caption;
     at("LabelTPAge", 1).caption = caption;
@@ -94,7 +93,7 @@ void TaxpayerSheetForm::afterFileRead() {
 }
 
 // The ages follow the birth dates just read.
-void TaxpayerSheetForm::afterFileOpened() { UpdateAllAges(*this); }
+void TaxpayerSheetForm::afterFileOpened() { updateAllAges(*this); }
 
 bool TaxpayerSheetForm::cutToDocument() {
     bool secondBlockUsed = false;
@@ -114,24 +113,24 @@ void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
 void TaxpayerSheetForm::onValidate(Control& ctl, bool& Cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (!EditCtl(ctl)) {
+    if (!editField(ctl)) {
         Cancel = true;
         return;
     }
     if (!isTextOne(ctl)) return;
     const std::string index = std::to_string(ctl.index);
     // A repeated number is pointed out; the field may still be left.
-    if (listContains(kNumberFields, index)) DuplicateTinCheck(kNumberFields, ctl.index);
+    if (listContains(kNumberFields, index)) checkDuplicateNumbers(kNumberFields, ctl.index);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
-        for (const auto& row : program().g.PersonTable)
-            if (row[1] == index) UpdateAge(*this, row[1], row[2]);
+        for (const auto& row : program().g.taxpayers.personTable)
+            if (row[1] == index) updateAge(*this, row[1], row[2]);
     });
 }
 
 void TaxpayerSheetForm::afterYearChange() {
     if (!isLoaded()) return;
-    UpdateAllAges(*this);
+    updateAllAges(*this);
     showAgeYear();
 }
 

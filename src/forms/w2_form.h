@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/tax_form.h"
+#include "model/year_rates.h"
 
 namespace lw {
 
@@ -11,7 +12,7 @@ public:
     FormW2();
 
     void onLoad() override;
-    // EditCtl first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
+    // editField first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
     void onValidate(Control& ctl, bool& Cancel) override;
     // The verification-code rule of box 9.
     void onActivate() override;
@@ -19,9 +20,9 @@ public:
     void afterYearChange() override;
 
     // Social security tax withheld (box 4) from Social security wages (box 3).
-    void computeSocialSecurityTax();
+    void computeSocialSecurityTax(const Rates& rates);
     // Medicare tax withheld (box 6) from Medicare wages and tips (box 5).
-    void computeMedicareTax();
+    void computeMedicareTax(const Rates& rates);
 };
 
 // Makes TF_W2 known by name, in place of the standard tax form.

@@ -33,7 +33,8 @@ public:
     Form* activeChild() const { return activeChild_; }
     void activate(Form& child);
     Form* topModal() const { return modal_.empty() ? nullptr : modal_.back(); }
-    // The form that takes the operator's input: an open modal box first, then the active child, then the frame.
+    // The form that takes the operator's input: an open modal box first, then the active child, then the
+    // frame.
     Form* inputForm() const;
     std::vector<Form*> forms() const;
 
@@ -66,8 +67,6 @@ public:
 
 private:
     bool moveFocus(Control& to);
-    void editText(Control& control, const std::string& insert);
-    void editKey(Control& control, int keyCode, int shift);
     void runPending();
     void destroyUnloaded();
 

@@ -13,7 +13,7 @@ Program::Program(UiPort& ui_, PlatformPort& platform_) : ui(ui_), platform(platf
     current = this;
     // The shared procedures work on CurrentForm; a form that is gone is no longer current.
     desktop.setUnloadObserver([this](Form& form) {
-        if (g.CurrentForm == &form) g.CurrentForm = nullptr;
+        if (g.document.currentForm == &form) g.document.currentForm = nullptr;
     });
 }
 

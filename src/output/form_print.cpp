@@ -18,7 +18,7 @@ Globals& g() { return program().g; }
 }  // namespace
 
 std::string currentPrinter() {
-    if (!g().CurrentPrinter.empty()) return g().CurrentPrinter;
+    if (!g().choices.currentPrinter.empty()) return g().choices.currentPrinter;
     const std::vector<std::string> printers = program().platform.printers();
     return printers.empty() ? std::string() : printers.front();
 }
@@ -29,17 +29,16 @@ void askAndPrint(Form& form) {
         if (owned->isTextBox()) owned->backColor = kWhite;
     // A configured printer that has gone leaves the current one, without a word.
     for (const std::string& printer : program().platform.printers()) {
-        if (printer == g().PrinterName) {
-            g().CurrentPrinter = printer;
+        if (printer == g().choices.printerName) {
+            g().choices.currentPrinter = printer;
             break;
         }
     }
     runGuarded("M3_Ledgerwick:Form_Print", [&] {
-        if (g().bDebug) {
-            const std::string answer =
-                showMessageBox("Print?", 800, "Do you want to print?", {"Yes", "No", "", ""}, false, 1,
-                               MessageBoxIcon::Question);
-            if (answer == "No") return;
+        if (g().process.debug) {
+            MessageBoxRequest ask{"Print?", "Do you want to print?", kNoMessageNumber, {"Yes", "No"}};
+            ask.icon = MessageBoxIcon::Question;
+            if (showMessageBox(ask).button == MessageBoxButton::Second) return;
         }
         if (program().platform.printers().empty())
             throw AppError(kPrinterError,

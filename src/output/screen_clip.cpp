@@ -51,7 +51,7 @@ void paintAsPaper(Form& form) {
                 break;
             case ControlKind::Label:
             case ControlKind::CheckLabel:
-                if (g().bDebug) c.backColor = kWhite;
+                if (g().process.debug) c.backColor = kWhite;
                 if (rules)
                     rules->paintLabelAsPaper(c);
                 else
@@ -83,7 +83,7 @@ void putBack(Form& form) {
 // Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
 bool clipScreen() {
     runGuarded("M5_ClipCode:Screen_Clip", [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
         cutToDocument(*form);
         paintAsPaper(*form);
@@ -105,7 +105,7 @@ void clipCurrentForm() {
         if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->beforeClip();
         form->at("labelMisc").visible = false;
         // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
-        if (clipScreen()) CopyEntirePicture(*form);
+        if (clipScreen()) copyEntirePicture(*form);
     });
     if (!restyled) return;
     // The form comes back whatever the clip did.

@@ -69,7 +69,8 @@ std::string formatTaxpayerName(const std::string& Name) {
     return runGuardedOr<std::string>("M3_Ledgerwick:Format_TPName", std::string(), [&] {
         if (Name.empty()) return std::string();
         const TPNameParts parts = taxpayerNameParts(Name);
-        const bool firstBeforeLast = program().g.FileNameFormat.find("<FIRST>_<LAST>") != std::string::npos;
+        const bool firstBeforeLast =
+            program().g.choices.fileNameFormat.find("<FIRST>_<LAST>") != std::string::npos;
         return parts.line + text::kFieldSeparator + (firstBeforeLast ? parts.firstLast : parts.lastFirst);
     });
 }

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "headless/headless_program.h"
 #include "render/render_job.h"
-#include "script/headless_program.h"
 
 int main(int argc, char** argv) {
     std::vector<std::string> arguments(argv + 1, argv + argc);
@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     // The pages are drawn off-screen: no display is needed.
-    lw::script::prepareHeadlessQt();
+    lw::headless::prepareHeadlessQt();
     QApplication app(argc, argv);
-    return lw::render::renderDocuments(*options, lw::script::shippedFilesOf(argv[0]), std::cout, std::cerr);
+    return lw::render::renderDocuments(*options, lw::headless::shippedFilesOf(argv[0]), std::cout, std::cerr);
 }

@@ -9,11 +9,11 @@
 #include <sstream>
 
 #include "forms/k1_paper.h"
+#include "headless/headless_program.h"
 #include "model/app_error.h"
 #include "model/containers.h"
 #include "model/program.h"
 #include "output/screen_clip.h"
-#include "script/headless_program.h"
 #include "store/scratch_folder.h"
 #include "text/cp1252.h"
 #include "ui/document_pages.h"
@@ -49,7 +49,7 @@ private:
 std::string utf8(const std::string& cp1252) { return text::cp1252ToUtf8(cp1252); }
 
 // What the program told the operator while it read the file, if anything went wrong.
-std::string troubleSince(const script::Session& session, std::size_t reports, std::size_t boxes) {
+std::string troubleSince(const headless::Session& session, std::size_t reports, std::size_t boxes) {
     if (session.reports.size() > reports) return utf8(session.reports.back().description);
     if (session.boxes.size() > boxes) {
         std::string text = utf8(session.boxes.back().text);
@@ -75,7 +75,7 @@ public:
         session_.executableFolder = executableFolder;
         // The tax year of the documents is the one in force on a day of that year past its first of March.
         if (options.year) session_.today = DateTime{*options.year, 6, 15, 12, 0, 0};
-        headless_ = std::make_unique<script::HeadlessProgram>(session_);
+        headless_ = std::make_unique<headless::HeadlessProgram>(session_);
     }
 
     bool started() const { return !root_.path().empty() && !session_.ended; }
@@ -124,8 +124,8 @@ private:
     // The program runs on a disk of its own, so that rendering leaves the trainer's settings and
     // remembered folders as they were.
     store::ScratchFolder root_{"ledgerwick-render"};
-    script::Session session_;
-    std::unique_ptr<script::HeadlessProgram> headless_;
+    headless::Session session_;
+    std::unique_ptr<headless::HeadlessProgram> headless_;
 };
 
 std::string progress(std::size_t done, std::size_t total) {

@@ -88,35 +88,44 @@ void ScriptRunner::clickTab(Control& tabs, const std::string& which) {
     program_->desktop.choose(tabs, tabs.items[static_cast<std::size_t>(tab)]);
 }
 
+// A menu item that cannot be chosen is a fault of the script, named with the reason.
+void ScriptRunner::chooseMenuItem(const std::vector<std::string>& words) {
+    need(words, 2, "menu ITEM");
+    auto* frame = dynamic_cast<FrameForm*>(program_->desktop.frame());
+    MenuItem* item = frame ? frame->findMenu(words[1]) : nullptr;
+    if (!item) throw ScriptError("no menu item " + words[1]);
+    if (!item->enabled || !item->visible) {
+        for (const MenuEntry& entry : menuTable()) {
+            if (text::equalsNoCase(entry.item, words[1]) && entry.opensForm[0] != '\0' &&
+                !hasForm(entry.opensForm))
+                throw ScriptError("menu item " + words[1] + " opens " + entry.opensForm +
+                                  ", which this program does not have yet");
+        }
+        throw ScriptError("menu item " + words[1] + " is " + (item->visible ? "disabled" : "hidden"));
+    }
+    program_->desktop.chooseMenu(item->name);
+}
+
+void ScriptRunner::pressFrameButton(const std::vector<std::string>& words) {
+    need(words, 2, "button CAPTION");
+    Form* frame = program_->desktop.frame();
+    Control* pressed = nullptr;
+    for (Control* button : frame ? frame->arrayOf("cmdBtn") : std::vector<Control*>{})
+        if (text::equalsNoCase(button->caption, codePage(words[1]))) pressed = button;
+    if (!pressed) throw ScriptError("no button " + words[1] + " on the frame");
+    if (!pressed->enabled) throw ScriptError("the button " + words[1] + " is not available yet");
+    program_->desktop.click(*pressed);
+}
+
 void ScriptRunner::act(const std::vector<std::string>& words) {
     const std::string& command = words[0];
     requireRunning(command);
     Desktop& desktop = program_->desktop;
     try {
         if (command == "menu") {
-            need(words, 2, "menu ITEM");
-            auto* frame = dynamic_cast<FrameForm*>(desktop.frame());
-            MenuItem* item = frame ? frame->findMenu(words[1]) : nullptr;
-            if (!item) throw ScriptError("no menu item " + words[1]);
-            if (!item->enabled || !item->visible) {
-                for (const MenuEntry& entry : menuTable()) {
-                    if (text::equalsNoCase(entry.item, words[1]) && entry.opensForm[0] != '\0' &&
-                        !hasForm(entry.opensForm))
-                        throw ScriptError("menu item " + words[1] + " opens " + entry.opensForm +
-                                          ", which this program does not have yet");
-                }
-                throw ScriptError("menu item " + words[1] + " is " + (item->visible ? "disabled" : "hidden"));
-            }
-            desktop.chooseMenu(item->name);
+            chooseMenuItem(words);
         } else if (command == "button") {
-            need(words, 2, "button CAPTION");
-            Form* frame = desktop.frame();
-            Control* pressed = nullptr;
-            for (Control* button : frame ? frame->arrayOf("cmdBtn") : std::vector<Control*>{})
-                if (text::equalsNoCase(button->caption, codePage(words[1]))) pressed = button;
-            if (!pressed) throw ScriptError("no button " + words[1] + " on the frame");
-            if (!pressed->enabled) throw ScriptError("the button " + words[1] + " is not available yet");
-            desktop.click(*pressed);
+            pressFrameButton(words);
         } else if (command == "focus") {
             need(words, 2, "focus CTL");
             desktop.click(control(words[1]));

@@ -8,12 +8,10 @@
 #include <random>
 #include <sstream>
 
-#include "forms/register_forms.h"
+#include "headless/headless_program.h"
 #include "model/app_error.h"
 #include "model/program.h"
-#include "script/headless_program.h"
 #include "script/script_words.h"
-#include "shell/frame_window_model.h"
 #include "text/words.h"
 
 namespace lw::script {
@@ -204,7 +202,7 @@ void ScriptRunner::start() {
     started_ = true;
     ensureRoot();
     out_ << "start " << session_.edition << " in " << session_.root << "\n";
-    headless_ = std::make_unique<HeadlessProgram>(session_);
+    headless_ = std::make_unique<headless::HeadlessProgram>(session_);
     program_ = &headless_->program();
     if (session_.ended) out_ << "the program ended\n";
 }
@@ -214,7 +212,7 @@ void ScriptRunner::requireRunning(const std::string& what) const {
 }
 
 void ScriptRunner::queueAnswer(const std::vector<std::string>& words) {
-    QueuedAnswer answer{line_, words[0], {}};
+    headless::QueuedAnswer answer{line_, words[0], {}};
     for (std::size_t i = 1; i < words.size(); ++i) answer.words.push_back(codePage(words[i]));
     if (words[0] == "answer") need(words, 2, "answer \"CAPTION\"");
     if (words[0] == "file") need(words, 2, "file \"PATH\" or file cancel");

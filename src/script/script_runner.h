@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script_session.h"
+#include "headless/session.h"
 #include "script/script_words.h"
 
 namespace lw {
@@ -16,9 +16,11 @@ struct Control;
 class Form;
 }  // namespace lw
 
-namespace lw::script {
-
+namespace lw::headless {
 class HeadlessProgram;
+}  // namespace lw::headless
+
+namespace lw::script {
 
 class ScriptRunner {
 public:
@@ -29,12 +31,16 @@ public:
     int run(std::istream& script);
 
 private:
+    class Checks;  // the kinds of `expect`, in script_checks.cpp
+
     void execute(const std::vector<std::string>& words);
     void setUp(const std::vector<std::string>& words);
     void start();
     void ensureRoot();
     void prepareFile(const std::vector<std::string>& words);
     void act(const std::vector<std::string>& words);
+    void chooseMenuItem(const std::vector<std::string>& words);
+    void pressFrameButton(const std::vector<std::string>& words);
     void clickTab(Control& tabs, const std::string& which);
     void queueAnswer(const std::vector<std::string>& words);
     void check(const std::vector<std::string>& words);
@@ -54,8 +60,8 @@ private:
     void requireRunning(const std::string& what) const;
 
     std::ostream& out_;
-    Session session_;
-    std::unique_ptr<HeadlessProgram> headless_;
+    headless::Session session_;
+    std::unique_ptr<headless::HeadlessProgram> headless_;
     Program* program_ = nullptr;
     bool started_ = false;
     int line_ = 0;

@@ -10,7 +10,6 @@
 #include "shell/catalogue_form.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
-#include "shell/tax_year.h"
 #include "text/case.h"
 #include "text/pieces.h"
 
@@ -32,7 +31,7 @@ int frameInnerWidth() {
 
 // A form outside the catalogue has the common rules: the digits on TaxYear(1), text boxes in Tahoma 10.
 void showYearDigits(Form& frm) {
-    const std::string digits = taxYearDigits();
+    const std::string digits = g().taxYear.digits();
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm))
         form->showYearDigits(digits);
     else
@@ -81,18 +80,18 @@ int frameInnerHeight() {
 }
 
 void initCatalogueForm(Form& frm) {
-    g().CurrentForm = &frm;
+    g().document.currentForm = &frm;
     loadFormInfo();
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
     resetFormLook();
-    writeYearCaptions();
+    writeYearCaptions(g().taxYear);
 }
 
 void resetFormLook() {
     runGuarded("M3_Ledgerwick:Form_Init_Reset", [] {
-        Form& form = *g().CurrentForm;
+        Form& form = *g().document.currentForm;
         const std::string key = formKeyOf(form.name());
-        g().FormKey = key;
+        g().document.formKey = key;
         form.backColor = kButtonFace;
         auto* catalogueForm = dynamic_cast<CatalogueForm*>(&form);
         if (catalogueForm) catalogueForm->giveOwnLook();
@@ -132,11 +131,11 @@ void resetFormLook() {
     });
 }
 
-void writeYearCaptions() {
-    runGuarded("M3_Ledgerwick:Form_Init_Captions", [] {
-        const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-        if (year.empty() || !g().CurrentForm) return;
-        Form& form = *g().CurrentForm;
+void writeYearCaptions(const TaxYearChoice& taxYear) {
+    runGuarded("M3_Ledgerwick:Form_Init_Captions", [&taxYear] {
+        const std::string year = taxYear.text();
+        if (year.empty() || !g().document.currentForm) return;
+        Form& form = *g().document.currentForm;
         for (const auto& owned : form.controls()) {
             Control& c = *owned;
             if (!isLabel(c)) continue;
@@ -145,7 +144,7 @@ void writeYearCaptions() {
                 c.caption = withLineBreaks(text::replaceAll(c.caption, "20??", year));
                 continue;
             }
-            c.caption = longText(GetFormInfo(form.name(), c.name), year);
+            c.caption = longText(readFormInfo(form.name(), c.name), year);
         }
     });
 }
@@ -171,21 +170,21 @@ void sizeBorderToControls(Control& myBorder) {
     myBorder.width = right - 60;
 }
 
-bool formHasTaxYear() { return formKeyHasTaxYear(g().FormKey); }
+bool formHasTaxYear() { return formKeyHasTaxYear(g().document.formKey); }
 
 void placeInFrame(Form& frm) {
     runGuarded("M3_Ledgerwick:Form_Position", [&] {
         Desktop& desktop = program().desktop;
         for (Form* open : desktop.forms()) {
             auto* kept = dynamic_cast<CatalogueForm*>(open);
-            if (kept && !g().bStartup && kept->keepsTheScreen()) {
+            if (kept && !g().process.starting && kept->keepsTheScreen()) {
                 // The new form does not open, and the shared procedures work on the form that kept the
                 // screen again, with its own catalogue values.
                 if (open != &frm) {
                     desktop.unload(frm);
                     desktop.activate(*open);
-                    g().CurrentForm = open;
-                    g().FormKey = formKeyOf(open->name());
+                    g().document.currentForm = open;
+                    g().document.formKey = formKeyOf(open->name());
                     loadFormInfo();
                 }
                 return;
@@ -198,9 +197,9 @@ void placeInFrame(Form& frm) {
         // The form shows, and so activates, when it is placed and dated.
         desktop.activate(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm))
-            frm.setFocus(form->focusOnOpening(g().FocusOnStartup));
+            frm.setFocus(form->focusOnOpening(g().document.catalogue.focusOnStartup));
         else
-            frm.setFocus(frm.at("Text1", g().FocusOnStartup));
+            frm.setFocus(frm.at("Text1", g().document.catalogue.focusOnStartup));
     });
 }
 
@@ -219,9 +218,9 @@ Form* openCatalogueForm(const std::string& formName) {
 
 void changeTaxYear(Form& frm) {
     runGuarded("M3_Ledgerwick:Year_Change", [&] {
-        g().TaxYearIndex = nextTaxYearIndex(g().TaxYearIndex);
-        writeYearCaptions();
-        writeUserInf("LastTaxYear", g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)]);
+        g().taxYear = g().taxYear.next();
+        writeYearCaptions(g().taxYear);
+        writeUserInf("LastTaxYear", g().taxYear.text());
         if (formHasTaxYear()) showYearDigits(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
         recheckYearDates();
@@ -229,23 +228,24 @@ void changeTaxYear(Form& frm) {
 }
 
 void recheckYearDates() {
-    Form* form = g().CurrentForm;
+    Form* form = g().document.currentForm;
     if (!form) return;
     for (const auto& owned : form->controls()) {
         Control& c = *owned;
         if (!c.isTextBox()) continue;
         bool stands = true;
         if (c.tag == "DATE")
-            stands = editDate(c, "");
+            stands = editDate(c, g().taxYear, "");
         else if (c.tag == "DATEX")
-            stands = editDate(c, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+            stands =
+                editDate(c, g().taxYear, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
         if (!stands) return;
     }
 }
 
 void clearForm() {
     runGuarded("M3_Ledgerwick:Form_Clear", [] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
         for (const auto& owned : form->controls()) {
             Control& c = *owned;
@@ -258,10 +258,10 @@ void clearForm() {
         if (auto* catalogueForm = dynamic_cast<CatalogueForm*>(form)) catalogueForm->refillAfterClear();
     });
     // The form may have no status line: the rest goes on regardless.
-    if (Form* form = g().CurrentForm) {
+    if (Form* form = g().document.currentForm) {
         if (Control* status = form->find("labelMisc")) status->caption.clear();
     }
-    g().CurrentFileName.clear();
+    g().document.currentFileName.clear();
 }
 
 void toggleCheck(Control& chk) { chk.caption = chk.caption.empty() ? "X" : ""; }

@@ -3,6 +3,7 @@
 // frame (one form at a time), clearing, and the yearly re-dating.
 
 #include "model/form.h"
+#include "model/tax_year_choice.h"
 
 namespace lw {
 
@@ -10,8 +11,9 @@ namespace lw {
 void initCatalogueForm(Form& frm);
 // Fonts, colours and field set-up of CurrentForm; also run after printing to restore its look.
 void resetFormLook();
-// Writes the tax year in force into the labels of CurrentForm and reads its long texts.
-void writeYearCaptions();
+// Writes the tax year into the labels of CurrentForm and reads its long texts; a year not set up yet
+// writes nothing.
+void writeYearCaptions(const TaxYearChoice& taxYear);
 // Sizes the border shape to all the controls of its form.
 void sizeBorderToControls(Control& myBorder);
 // Places a form in the frame, unloading every other child, unless a form on the screen keeps it (the

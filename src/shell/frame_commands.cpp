@@ -41,7 +41,7 @@ void askTheFormBeforeEnding() {
 
 void quitProgram() {
     if (hasChildForms()) {
-        g().bQuitting = true;
+        g().process.quitting = true;
         askTheFormBeforeEnding();
     }
     program().ui.quit();
@@ -53,14 +53,14 @@ bool outputBlocked(Form& active) {
     if (!form) return false;
     const std::string text = form->outputRefusal();
     if (text.empty()) return false;
-    MA_MBX("F0_MDI:cmdBtn_Click", 801, text, "OK", false, "", "", "", 1);
+    showMessageBox({"F0_MDI:cmdBtn_Click", text, 801});
     return true;
 }
 
 // Every text box in the order of the form's controls; the first that does not stand keeps the focus.
 bool allFieldsStand(Form& form) {
     for (const auto& owned : form.controls()) {
-        if (owned->isTextBox() && !EditCtl(*owned)) return false;
+        if (owned->isTextBox() && !editField(*owned)) return false;
     }
     return true;
 }
@@ -100,7 +100,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             return;
         }
         if (pressed == "CONFIGURE") {
-            g().CurrentFileName.clear();
+            g().document.currentFileName.clear();
             openCatalogueForm("F1_Configure");
         }
         Form* active = program().desktop.activeChild();
@@ -115,7 +115,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             else
                 clearAndFocusFirstField(*active);
         } else if (pressed == "CLOSE") {
-            g().CurrentFileName.clear();
+            g().document.currentFileName.clear();
             active->unload();
             return;
         } else if (pressed == "CHANGE TAX YR") {
@@ -131,13 +131,13 @@ void onFrameButton(FrameForm& frame, Control& button) {
             logError("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number,
                      fault.description);
         if (fault.number == 343) return;
-        if (g().bDebug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
+        if (g().process.debug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
         logError("F0_MDI:cmdBtn_Click", fault.number, fault.description);
     }
 }
 
 void onLegendClick(FrameForm& frame) {
-    if (!text::containsNoCase(g().CommandWords, "taskbar")) return;
+    if (!text::containsNoCase(g().process.commandWords, "taskbar")) return;
     if (frame.bTaskbarHidden)
         showTaskbar(frame);
     else
@@ -146,7 +146,7 @@ void onLegendClick(FrameForm& frame) {
 
 // The menu's Clear works on CurrentForm, where the button's works on the form on the screen.
 void onMenuClear() {
-    Form* current = g().CurrentForm;
+    Form* current = g().document.currentForm;
     if (!current || current->name().empty()) return;
     if (auto* form = dynamic_cast<CatalogueForm*>(current))
         form->clearCommand(true);
@@ -179,7 +179,7 @@ void FrameForm::onMenu(const std::string& itemName) {
     runGuarded("F0_MDI:mnu_Click", [&] {
         for (const MenuEntry& entry : menuTable()) {
             if (entry.opensForm[0] != '\0' && text::equalsNoCase(entry.item, itemName)) {
-                g().CurrentFileName.clear();
+                g().document.currentFileName.clear();
                 openCatalogueForm(entry.opensForm);
                 return;
             }
@@ -200,15 +200,15 @@ void FrameForm::onMenu(const std::string& itemName) {
         } else if (is("mnuControlClip")) {
             if (hooks().mdiClip) hooks().mdiClip();
         } else if (is("mnuControlGuide")) {
-            if (!program().ui.openDocument(g().UserGuideFile))
-                throw AppError(900, "(2) Error encountered opening " + g().UserGuideFile,
+            if (!program().ui.openDocument(g().edition.userGuideFile))
+                throw AppError(900, "(2) Error encountered opening " + g().edition.userGuideFile,
                                "F0_MDI:mnuControlGuide_Click");
         }
     });
 }
 
 void FrameForm::onQueryUnload(bool&) {
-    g().bQuitting = true;
+    g().process.quitting = true;
     askTheFormBeforeEnding();
 }
 

@@ -49,23 +49,23 @@ std::string removeWordNoCase(std::string text, const std::string& word) {
 }  // namespace
 
 std::string readUserInf(const std::string& key) {
-    return store::ReadINF(g().UserNameUC, key, "", g().UserInfFile);
+    return store::readInfValue(g().process.userNameUpper, key, "", g().edition.userInfFile);
 }
 
 void writeUserInf(const std::string& key, const std::string& value) {
-    store::SaveINF(g().UserNameUC, key, value, g().UserInfFile);
+    store::writeInfValue(g().process.userNameUpper, key, value, g().edition.userInfFile);
 }
 
-void SaveInfFolders(const std::string& InfFile, const std::string& DefaultFolder) {
+void saveRememberedFolders(const std::string& InfFile, const std::string& DefaultFolder) {
     for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
-        if (store::ReadINF(g().UserNameUC, key, "", InfFile).empty())
-            store::SaveINF(g().UserNameUC, key, DefaultFolder, InfFile);
+        if (store::readInfValue(g().process.userNameUpper, key, "", InfFile).empty())
+            store::writeInfValue(g().process.userNameUpper, key, DefaultFolder, InfFile);
     }
 }
 
 void setUpTaxFormsFolder(FrameForm& frame) {
     const std::string root = platform().rootFolder();
-    std::string byDefault = text::endsWithNoCase(g().UserInfFile, "UserVenturo.inf")
+    std::string byDefault = text::endsWithNoCase(g().edition.userInfFile, "UserVenturo.inf")
                                 ? joinPath(root, "VenturoForms")
                                 : joinPath(root, "TaxFormsLW");
     frame.TaxFormsFolder = readUserInf("TaxFormsFolder");
@@ -77,24 +77,24 @@ void setUpTaxFormsFolder(FrameForm& frame) {
 
 void setUpInfFilePaths() {
     const std::string infFolder = infFilesFolder(platform().rootFolder());
-    g().FormsInfFile = joinPath(infFolder, "Forms.inf");
-    g().SSMCInfFile = joinPath(infFolder, "SSMC.inf");
-    g().K1HelpInfFile = joinPath(infFolder, "K1Help.inf");
-    g().PicturesFolder = platform().executableFolder();
+    g().edition.formsInfFile = joinPath(infFolder, "Forms.inf");
+    g().edition.ssmcInfFile = joinPath(infFolder, "SSMC.inf");
+    g().edition.k1HelpInfFile = joinPath(infFolder, "K1Help.inf");
+    g().edition.picturesFolder = platform().executableFolder();
 }
 
 namespace {
 
 // The two editions set themselves up line for line alike, each from its own table of places.
 void setUpEdition(FrameForm& frame, const Edition& edition) {
-    g().UserInfFile = edition.userInfFile;
-    g().UserGuideFile = edition.guideFile;
+    g().edition.userInfFile = edition.userInfFile;
+    g().edition.userGuideFile = edition.guideFile;
     frame.IconFile = edition.iconFile;
     if (text::containsNoCase(platform().executableFolder(), kDevelopmentTreeMarker))
         frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
-    SaveInfFolders(g().UserInfFile, edition.defaultFormsFolder);
-    g().FileExtension = edition.fileExtension;
-    g().FileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
+    saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
+    g().edition.fileExtension = edition.fileExtension;
+    g().edition.fileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
     setUpTaxFormsFolder(frame);
 }
 
@@ -103,27 +103,30 @@ void setUpTestPath(FrameForm& frame) {
     const std::string root = platform().rootFolder();
     frame.DevFormsFolder = frame.DevAppFolder + "/Forms";
     frame.DevInfFolder = frame.DevAppFolder + "/InfFiles";
-    g().PicturesFolder = frame.DevSharedFolder + "/Pictures";
-    g().FormsInfFile = frame.DevInfFolder + "/Forms.inf";
-    g().SSMCInfFile = frame.DevInfFolder + "/SSMC.inf";
-    g().K1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
+    g().edition.picturesFolder = frame.DevSharedFolder + "/Pictures";
+    g().edition.formsInfFile = frame.DevInfFolder + "/Forms.inf";
+    g().edition.ssmcInfFile = frame.DevInfFolder + "/SSMC.inf";
+    g().edition.k1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
     installShippedInfFiles(platform().executableFolder(), frame.DevInfFolder);
 
-    std::string answer =
-        MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9);
-    bool venturo = answer == "Venturo";
+    const MessageBoxRequest ask{"Ledgerwick - Testing",
+                                "Choose System to Test",
+                                kNoMessageNumber,
+                                {"Venturo", "Other"},
+                                MessageBoxButton::None};
+    bool venturo = showMessageBox(ask).button == MessageBoxButton::First;
     Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.VersionMajor)
                               : othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor);
     frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
     frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
-    g().UserInfFile = edition.userInfFile;
-    g().FileExtension = edition.fileExtension;
-    g().FileFilter = fileFilter(venturo ? "Tax Form Files (*.venturo)" : "Tax Form Files (*.taxform)",
-                                edition.filterPattern);
-    g().UserGuideFile = frame.DevAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.VersionMajor + "_" +
-                        edition.name + "_UserGuide.pdf";
+    g().edition.userInfFile = edition.userInfFile;
+    g().edition.fileExtension = edition.fileExtension;
+    g().edition.fileFilter = fileFilter(venturo ? "Tax Form Files (*.venturo)" : "Tax Form Files (*.taxform)",
+                                        edition.filterPattern);
+    g().edition.userGuideFile = frame.DevAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.VersionMajor +
+                                "_" + edition.name + "_UserGuide.pdf";
     // The editions would also fix the forms folder here; the test path leaves it empty.
-    SaveInfFolders(g().UserInfFile, edition.defaultFormsFolder);
+    saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
 }
 
 }  // namespace
@@ -133,12 +136,12 @@ void setUpFrame(FrameForm& frame) {
         pause(500);
         frame.VersionMajor = versionMajorText();
         frame.VersionFull = versionFullText();
-        g().CommandWords = platform().commandLine();
-        g().ComputerNameUC = text::toUpper(environmentInBuffer("ComputerName"));
-        g().UserNameUC = text::toUpper(environmentInBuffer("UserName"));
-        if (text::containsNoCase(g().CommandWords, "debug")) {
-            g().bDebug = true;
-            g().CommandWords = text::trim(removeWordNoCase(g().CommandWords, "debug"));
+        g().process.commandWords = platform().commandLine();
+        g().process.computerNameUpper = text::toUpper(environmentInBuffer("ComputerName"));
+        g().process.userNameUpper = text::toUpper(environmentInBuffer("UserName"));
+        if (text::containsNoCase(g().process.commandWords, "debug")) {
+            g().process.debug = true;
+            g().process.commandWords = text::trim(removeWordNoCase(g().process.commandWords, "debug"));
         }
         const std::string root = platform().rootFolder();
         frame.DevAppFolder = joinPath(root, "Apps/Ledgerwick_" + frame.VersionMajor);
@@ -163,10 +166,10 @@ void setUpFrame(FrameForm& frame) {
                                "Path not found: " + frame.TaxFormsFolder + " (" + ec.message() + ")");
         }
         if (MenuItem* guide = frame.findMenu("mnuControlGuide"))
-            guide->visible = fileExists(g().UserGuideFile);
+            guide->visible = fileExists(g().edition.userGuideFile);
         std::vector<Control*> legend = frame.arrayOf("txtLegend");
-        for (std::size_t i = 1; i < legend.size() && i < g().LegendColors.size(); ++i)
-            g().LegendColors[i] = legend[i]->backColor;
+        for (std::size_t i = 1; i < legend.size() && i < g().edition.legendColors.size(); ++i)
+            g().edition.legendColors[i] = legend[i]->backColor;
     });
 }
 
@@ -186,26 +189,26 @@ void fillPersonTable() {
         {"OP4", "20", "5"}, {"OP5", "24", "6"}, {"OP6", "28", "7"}, {"OP7", "32", "8"},
     };
     for (int r = 0; r < 9; ++r)
-        for (int c = 0; c < 3; ++c) g().PersonTable[r][c] = rows[r][c];
+        for (int c = 0; c < 3; ++c) g().taxpayers.personTable[r][c] = rows[r][c];
 }
 
 }  // namespace
 
 void onFrameLoad(FrameForm& frame) {
     runGuarded("F0_MDI:FormLoad", [&] {
-        g().CurrentForm = &frame;
+        g().document.currentForm = &frame;
         if (platform().earlierInstanceRunning()) {
-            MA_MBX("F0_MDI:FormLoad", 800,
-                   "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
-                   "Ledgerwick ICON on the Taskbar to restore.",
-                   "OK", false, "", "", "", 1);
+            showMessageBox(
+                {"F0_MDI:FormLoad",
+                 "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
+                 "Ledgerwick ICON on the Taskbar to restore."});
             std::string title = frame.caption;
             frame.caption.clear();
             platform().activateEarlierInstance(title);
             program().ui.quit();
             return;
         }
-        g().bStartup = true;
+        g().process.starting = true;
         frame.top = 0;
         frame.height = 11020;
         frame.width = 16500;
@@ -216,16 +219,16 @@ void onFrameLoad(FrameForm& frame) {
         installShippedInfFiles(platform().executableFolder(), infFilesFolder(platform().rootFolder()));
         setUpFrame(frame);
 
-        g().LastOpenFolder = readUserInf("LastOpenFolder");
+        g().choices.lastOpenFolder = readUserInf("LastOpenFolder");
         pause(250);
-        g().LastSaveFolder = readUserInf("LastSaveFolder");
+        g().choices.lastSaveFolder = readUserInf("LastSaveFolder");
         pause(250);
-        forgetVanishedFolder("LastOpenFolder", g().LastOpenFolder);
-        forgetVanishedFolder("LastSaveFolder", g().LastSaveFolder);
+        forgetVanishedFolder("LastOpenFolder", g().choices.lastOpenFolder);
+        forgetVanishedFolder("LastSaveFolder", g().choices.lastSaveFolder);
 
         openFirstChild(frame);
 
-        g().bStartup = false;
+        g().process.starting = false;
         fillPersonTable();
     });
 }

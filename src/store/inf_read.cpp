@@ -41,8 +41,8 @@ void forEachLineOfSection(std::string_view text, std::string_view section, Take 
 
 }  // namespace
 
-std::string ReadINF(const std::string& section, const std::string& key, const std::string& defaultValue,
-                    const std::string& file) {
+std::string readInfValue(const std::string& section, const std::string& key, const std::string& defaultValue,
+                         const std::string& file) {
     std::string text;
     if (!readFileBytes(file, text)) return defaultOf(defaultValue);
     std::string_view wantedKey = trimInfBlanks(key);
@@ -58,7 +58,7 @@ std::string ReadINF(const std::string& section, const std::string& key, const st
     return std::string(value.substr(0, kValueMax));
 }
 
-std::vector<std::string> ReadINFSection(const std::string& section, const std::string& file,
+std::vector<std::string> readInfSection(const std::string& section, const std::string& file,
                                         std::size_t bufferSize) {
     std::vector<std::string> lines;
     std::string text;

@@ -30,8 +30,8 @@ void createFolders(const std::filesystem::path& folder) {
 
 }  // namespace
 
-void SaveINF(const std::string& section, const std::string& key, const std::string& value,
-             const std::string& file) {
+void writeInfValue(const std::string& section, const std::string& key, const std::string& value,
+                   const std::string& file) {
     const std::filesystem::path path(file);
     createFolders(path.parent_path());
 

@@ -24,16 +24,16 @@ constexpr std::size_t kInfValueBuffer = 1024;
 // The value of `key` in `section`, at most 1023 characters. A key written with nothing behind '='
 // gives the empty string. A missing file, section or key gives `defaultValue` without its trailing
 // blanks, also at most 1023 characters. Never throws for the file's content.
-std::string ReadINF(const std::string& section, const std::string& key, const std::string& defaultValue,
-                    const std::string& file);
+std::string readInfValue(const std::string& section, const std::string& key, const std::string& defaultValue,
+                         const std::string& file);
 
 // Sets `key` of `section` to `value`, creating the missing folders, the file, the section and the key.
 // Only the one line changes; a new key goes at the end of its section, a new section at the end of the
 // file. CR, LF and NUL in a name or value are written as blanks, so a value stays on one line. The file
 // is replaced whole or not at all. Throws InfWriteError: number 76 when a folder cannot be created,
 // 900 with "Error Writing <section>/<key>/<value>\r\nto <file>" when the file cannot be read or written.
-void SaveINF(const std::string& section, const std::string& key, const std::string& value,
-             const std::string& file);
+void writeInfValue(const std::string& section, const std::string& key, const std::string& value,
+                   const std::string& file);
 
 // The lines of `section` as the platform's section call gives them through a buffer of `bufferSize`
 // characters: each line takes its length plus one NUL, and one more NUL ends the list.
@@ -44,7 +44,7 @@ void SaveINF(const std::string& section, const std::string& key, const std::stri
 //   that fit whole, then the first part of the next line if at least one character of it fits.
 //   Nothing at all comes back for a bufferSize below 3.
 // A missing file or section gives an empty list.
-std::vector<std::string> ReadINFSection(const std::string& section, const std::string& file,
+std::vector<std::string> readInfSection(const std::string& section, const std::string& file,
                                         std::size_t bufferSize);
 
 }  // namespace lw::store

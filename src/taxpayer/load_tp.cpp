@@ -36,8 +36,8 @@ int firstIndexOf(const std::string& list) {
 
 // The general fill: the block to the first name field, the number to the first number field.
 void fillGeneral(Form& form, const TPInfoRec& A) {
-    const int nameIndex = firstIndexOf(g().NameAddrIndex);
-    const int numberIndex = firstIndexOf(g().SSNIndex);
+    const int nameIndex = firstIndexOf(g().document.catalogue.nameAddrIndex);
+    const int numberIndex = firstIndexOf(g().document.catalogue.ssnIndex);
     if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.NameAddr;
     if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.SSN;
 }
@@ -46,13 +46,13 @@ void fillGeneral(Form& form, const TPInfoRec& A) {
 
 void readTaxpayers(const std::string& Who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
-        Form* form = g().CurrentForm;
+        Form* form = g().document.currentForm;
         if (!form) return;
-        readPerson("TP1", g().TP1Info);
-        readPerson("TP2", g().TP2Info);
+        readPerson("TP1", g().taxpayers.taxpayer1);
+        readPerson("TP2", g().taxpayers.taxpayer2);
         const bool second = Who == "TP 2";
-        const TPInfoRec& A = second ? g().TP2Info : g().TP1Info;
-        const TPInfoRec& B = second ? g().TP1Info : g().TP2Info;
+        const TPInfoRec& A = second ? g().taxpayers.taxpayer2 : g().taxpayers.taxpayer1;
+        const TPInfoRec& B = second ? g().taxpayers.taxpayer1 : g().taxpayers.taxpayer2;
         // A form that fills itself or goes on in its own way says so; any other has the common rules.
         auto* rules = dynamic_cast<CatalogueForm*>(form);
         if (!rules || !rules->fillTaxpayers(Who, A, B)) fillGeneral(*form, A);

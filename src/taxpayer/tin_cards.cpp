@@ -36,7 +36,7 @@ std::string firstLine(const std::string& block) {
 StoredCase readStoredCase() {
     StoredCase found;
     for (const std::string& entry :
-         store::ReadINFSection(g().UserNameUC, g().UserInfFile, store::kInfValueBuffer)) {
+         store::readInfSection(g().process.userNameUpper, g().edition.userInfFile, store::kInfValueBuffer)) {
         const std::size_t eq = entry.find('=');
         if (entry.empty() || eq == std::string::npos) continue;
         const std::string key = text::toLower(entry.substr(0, eq));
@@ -101,9 +101,9 @@ void fillTaxpayersCard(Form& form, int Who) {
             const std::string& number = form.at("Text1", n).text;
             if (number.empty()) continue;
             if (number[0] == '9')
-                form.at("Image1", n / 2).picture = joinPath(g().PicturesFolder, "ITIN.jpg");
+                form.at("Image1", n / 2).picture = joinPath(g().edition.picturesFolder, "ITIN.jpg");
             else if (number[0] >= '1' && number[0] <= '8')
-                form.at("Image1", n / 2).picture = joinPath(g().PicturesFolder, "SSN.jpg");
+                form.at("Image1", n / 2).picture = joinPath(g().edition.picturesFolder, "SSN.jpg");
         }
     });
 }

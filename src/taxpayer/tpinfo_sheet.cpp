@@ -1,5 +1,6 @@
 #include "taxpayer/tpinfo_sheet.h"
 
+#include <optional>
 #include <vector>
 
 #include "diagnostics/error_tail.h"
@@ -27,17 +28,17 @@ bool endsIn20XX(const std::string& s) {
 
 }  // namespace
 
-std::string ageAtYearEnd(Form& form, const std::string& DOB) {
-    const std::string& year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-    if (year.size() >= 2 && year.substr(year.size() - 2) == "XX") return "N/A";
+std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice& taxYear) {
+    if (taxYear.isPlaceholder()) return "N/A";
     const std::vector<std::string> parts = text::split(DOB, "/");
     bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) &&
                   isYearDigits(parts[1]) && isYearDigits(parts[2]);
     const int born = isDate ? std::stoi(parts[2]) : 0;
     isDate = isDate && text::isCalendarDate(born, std::stoi(parts[0]), std::stoi(parts[1]));
     // A birth date that is no date cannot be aged, as the classic date conversion refuses it.
-    if (!isDate || !isYearDigits(year)) throw AppError(err::kTypeMismatch, "Type mismatch");
-    const int age = std::stoi(year) - born;
+    const std::optional<int> year = taxYear.number();
+    if (!isDate || !year) throw AppError(err::kTypeMismatch, "Type mismatch");
+    const int age = *year - born;
     if (age < 0) {
         if (Control* status = form.find("labelMisc")) {
             status->foreColor = kRed;
@@ -47,24 +48,24 @@ std::string ageAtYearEnd(Form& form, const std::string& DOB) {
     return std::to_string(age);
 }
 
-void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
+void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
     const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
     Control& age = sheet.at("Text2", std::stoi(AgeIndex));
     if (dob.text.empty()) return;
-    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text);
+    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text, g().taxYear);
 }
 
-void UpdateAllAges(Form& sheet) {
+void updateAllAges(Form& sheet) {
     // A row that cannot be aged leaves the others to be aged all the same.
-    for (const auto& row : g().PersonTable)
-        runGuarded("F5_TPInfo:UpdateAge", [&] { UpdateAge(sheet, row[1], row[2]); });
+    for (const auto& row : g().taxpayers.personTable)
+        runGuarded("F5_TPInfo:UpdateAge", [&] { updateAge(sheet, row[1], row[2]); });
 }
 
 void saveTaxpayerSheet() {
     runGuarded("M6_TPInfo:TPInfo_Save", [] {
         std::string fields[6];
         const std::vector<std::string> pieces =
-            text::split(g().FormRecord, std::string(1, text::kFieldSeparator));
+            text::split(g().document.formRecord, std::string(1, text::kFieldSeparator));
         for (std::size_t i = 2; i < pieces.size(); ++i) {
             const std::string head = text::toUpper(pieces[i].substr(0, 5));
             for (int k = 0; k < 6; ++k)
@@ -76,7 +77,7 @@ void saveTaxpayerSheet() {
         writeUserInf("TP2NameAddr", fields[3]);
         writeUserInf("TP2SSN", fields[4]);
         writeUserInf("TP2DOB", fields[5]);
-        Form* sheet = g().CurrentForm;
+        Form* sheet = g().document.currentForm;
         if (!sheet) return;
         for (int i = 6, k = 1; i <= 30; i += 4, ++k) {
             const std::string& name = sheet->at("Text1", i).text;

@@ -4,21 +4,23 @@
 
 #include <string>
 
+#include "model/tax_year_choice.h"
+
 namespace lw {
 
 class Form;
 
-// The calendar year of 12/31 of the tax year in force less the year of birth: no correction for the
-// birthday, since none falls after December 31. "N/A" while 20XX is in force. A negative age is returned
-// as it is, with "One or more date(s) are invalid" in red on the form's status line.
-std::string ageAtYearEnd(Form& form, const std::string& DOB);
+// The calendar year of 12/31 of the tax year less the year of birth: no correction for the birthday,
+// since none falls after December 31. "N/A" for the year 20XX. A negative age is returned as it is, with
+// "One or more date(s) are invalid" in red on the form's status line.
+std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice& taxYear);
 
 // The age of one row of the sheet, from its date field into its age field. An empty date leaves the
 // age as it was; a date in 20XX has no age.
-void UpdateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex);
+void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex);
 
 // Every row of the sheet aged again, as after a change of the tax year.
-void UpdateAllAges(Form& sheet);
+void updateAllAges(Form& sheet);
 
 // Run by saveDataFile once a sheet's line is written: the two taxpayers from the line, the seven others
 // from the fields, in the order the store has them.

@@ -81,8 +81,11 @@ void FormView::detach() {
     hide();
 }
 
+Desktop* FormView::desktop() const { return form_ && hasProgram() ? form_->desktop() : nullptr; }
+
 bool FormView::isModelFocus(const Control& control) const {
-    return hasProgram() && program().desktop.focus() == &control;
+    const Desktop* on = desktop();
+    return on && on->focus() == &control;
 }
 
 namespace {
@@ -145,75 +148,91 @@ QWidget* FormView::createEditor(Control& control) {
     switch (control.kind) {
         case ControlKind::TextBox:
             // A field whose text may take several lines on paper shows them in an editor of lines.
-            if (breaksLines(control)) {
-                auto* box = new LinesEditor(this);
-                box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-                box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-                box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-                box->setAcceptDrops(false);
-                box->viewport()->installEventFilter(this);
-                box->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);
-                controlOfWidget_.insert(box->viewport(), &control);
-                connect(box, &QPlainTextEdit::cursorPositionChanged, this,
-                        [this, &control] { takeSelection(control); });
-                connect(box, &QPlainTextEdit::selectionChanged, this,
-                        [this, &control] { takeSelection(control); });
-                editor = box;
-            } else {
-                QLineEdit* line = takeIdleField();
-                if (!line) {
-                    line = new QLineEdit(this);
-                    if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
-                    line->setAcceptDrops(false);
-                    line->setDragEnabled(false);
-                }
-                connect(line, &QLineEdit::cursorPositionChanged, this,
-                        [this, &control] { takeSelection(control); });
-                connect(line, &QLineEdit::selectionChanged, this,
-                        [this, &control] { takeSelection(control); });
-                editor = line;
-            }
+            editor = breaksLines(control) ? createLinesEditor(control) : createLineField(control);
             break;
-        case ControlKind::ComboBox: {
-            auto* combo = new QComboBox(this);
-            connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, &control](int row) {
-                if (!form_ || row < 0 || row >= static_cast<int>(control.items.size())) return;
-                const std::string entry = control.items[static_cast<size_t>(row)];
-                forwardInput([&] { program().desktop.choose(control, entry); });
-            });
-            editor = combo;
+        case ControlKind::ComboBox:
+            editor = createComboBox(control);
             break;
-        }
         case ControlKind::CommandButton:
-            if (!control.picture.empty()) {
-                auto* tool = new QToolButton(this);
-                tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-                tool->setIcon(commandIcon(control.picture));
-                connect(tool, &QToolButton::clicked, this, [this, &control] {
-                    if (form_) forwardInput([&] { program().desktop.click(control); });
-                });
-                editor = tool;
-            } else {
-                auto* push = new QPushButton(this);
-                push->setAutoDefault(false);
-                connect(push, &QPushButton::clicked, this, [this, &control] {
-                    if (form_) forwardInput([&] { program().desktop.click(control); });
-                });
-                editor = push;
-            }
+            editor = createCommandButton(control);
             break;
-        case ControlKind::OptionButton: {
-            auto* option = new QRadioButton(this);
-            option->setAutoExclusive(false);
-            connect(option, &QRadioButton::clicked, this, [this, &control] {
-                if (form_) forwardInput([&] { program().desktop.click(control); });
-            });
-            editor = option;
+        case ControlKind::OptionButton:
+            editor = createOptionButton(control);
             break;
-        }
         default:
             return nullptr;
     }
+    adoptEditor(control, editor);
+    return editor;
+}
+
+QWidget* FormView::createLinesEditor(Control& control) {
+    auto* box = new LinesEditor(this);
+    box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    box->setAcceptDrops(false);
+    box->viewport()->installEventFilter(this);
+    box->viewport()->setContextMenuPolicy(Qt::PreventContextMenu);
+    controlOfWidget_.insert(box->viewport(), &control);
+    connect(box, &QPlainTextEdit::cursorPositionChanged, this, [this, &control] { takeSelection(control); });
+    connect(box, &QPlainTextEdit::selectionChanged, this, [this, &control] { takeSelection(control); });
+    return box;
+}
+
+QWidget* FormView::createLineField(Control& control) {
+    QLineEdit* line = takeIdleField();
+    if (!line) {
+        line = new QLineEdit(this);
+        if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
+        line->setAcceptDrops(false);
+        line->setDragEnabled(false);
+    }
+    connect(line, &QLineEdit::cursorPositionChanged, this, [this, &control] { takeSelection(control); });
+    connect(line, &QLineEdit::selectionChanged, this, [this, &control] { takeSelection(control); });
+    return line;
+}
+
+QWidget* FormView::createComboBox(Control& control) {
+    auto* combo = new QComboBox(this);
+    connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, &control](int row) {
+        Desktop* on = desktop();
+        if (!on || row < 0 || row >= static_cast<int>(control.items.size())) return;
+        const std::string entry = control.items[static_cast<size_t>(row)];
+        forwardInput([&] { on->choose(control, entry); });
+    });
+    return combo;
+}
+
+// A button with a picture shows it above its caption.
+QWidget* FormView::createCommandButton(Control& control) {
+    if (!control.picture.empty()) {
+        auto* tool = new QToolButton(this);
+        tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        tool->setIcon(commandIcon(control.picture));
+        connect(tool, &QToolButton::clicked, this, [this, &control] {
+            if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
+        });
+        return tool;
+    }
+    auto* push = new QPushButton(this);
+    push->setAutoDefault(false);
+    connect(push, &QPushButton::clicked, this, [this, &control] {
+        if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
+    });
+    return push;
+}
+
+QWidget* FormView::createOptionButton(Control& control) {
+    auto* option = new QRadioButton(this);
+    option->setAutoExclusive(false);
+    connect(option, &QRadioButton::clicked, this, [this, &control] {
+        if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
+    });
+    return option;
+}
+
+void FormView::adoptEditor(Control& control, QWidget* editor) {
     // A legend entry is read as the words it shows, not as a field to fill; said before any screen reader
     // first asks after the editor.
     if (control.wordsOnly) editor->setProperty(kWordsOnlyProperty, true);
@@ -227,7 +246,6 @@ QWidget* FormView::createEditor(Control& control) {
     editors_.insert(&control, editor);
     controlOfWidget_.insert(editor, &control);
     editor->show();
-    return editor;
 }
 
 void FormView::refresh() {
@@ -280,8 +298,9 @@ void FormView::refresh() {
 }
 
 void FormView::placeFocus() {
-    if (!form_ || !hasProgram()) return;
-    Desktop& desktop = program().desktop;
+    Desktop* on = desktop();
+    if (!on) return;
+    Desktop& desktop = *on;
     Control* focus = desktop.focus();
     QWidget* target = nullptr;
     if (focus && focus->form == form_) {

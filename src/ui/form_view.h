@@ -65,8 +65,19 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
+    // The desktop the form stands on; none once it has left it or the program has ended.
+    Desktop* desktop() const;
     QSize extent_;
+    // The widget that edits a control, by its kind: a field of one line or of lines, a list to choose
+    // from, a button or an option button; none for a control the face paints.
     QWidget* createEditor(Control& control);
+    QWidget* createLinesEditor(Control& control);
+    QWidget* createLineField(Control& control);
+    QWidget* createComboBox(Control& control);
+    QWidget* createCommandButton(Control& control);
+    QWidget* createOptionButton(Control& control);
+    // Names the editor, leaves the focus to the model, and starts watching it.
+    void adoptEditor(Control& control, QWidget* editor);
     QLineEdit* takeIdleField();
     // Moves the idle fields to the window of the view that let them go, so that they outlive that view.
     void shelterIdleFields();

@@ -28,8 +28,8 @@ MouseButton modelButton(Qt::MouseButton button) {
     }
 }
 
-void refuse(const std::string& why) {
-    if (hasProgram()) program().ui.inputRefused(why);
+void refuse(Desktop* on, const std::string& why) {
+    if (on) on->ui().inputRefused(why);
 }
 
 const char* const kNotInCodePage =
@@ -67,25 +67,25 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool FormView::forwardKey(Control* control, QKeyEvent* event) {
-    if (!form_ || !hasProgram()) return true;
+    Desktop* on = desktop();
+    if (!on) return true;
     const std::optional<ModelKey> key = modelKey(*event);
     if (!key) {
-        refuse(kNotInCodePage);
+        refuse(on, kNotInCodePage);
         return true;
     }
     if (!key->tab && key->keyCode == 0 && key->keyAscii == 0) return true;  // a key the model has no code for
     if (key->keyAscii == keys::kCtrlV && !toCp1252(QApplication::clipboard()->text())) {
-        refuse(kClipboardNotInCodePage);
+        refuse(on, kClipboardNotInCodePage);
         return true;
     }
-    Desktop& desktop = program().desktop;
     forwardInput([&] {
         if (key->tab) {
-            desktop.tab(key->backwards);
+            on->tab(key->backwards);
             return;
         }
-        desktop.pressKey(key->keyCode, key->shift, key->keyAscii);
-        for (char c : key->more) desktop.typeCharacter(c);
+        on->pressKey(key->keyCode, key->shift, key->keyAscii);
+        for (char c : key->more) on->typeCharacter(c);
     });
     // A closed list steps through its entries with the arrows and opens with Alt+Down or F4.
     if (form_ && control && control->kind == ControlKind::ComboBox && isModelFocus(*control) && !key->tab) {
@@ -98,7 +98,7 @@ bool FormView::forwardKey(Control* control, QKeyEvent* event) {
             const int next = control->listIndex + step;
             if (next >= 0 && next < static_cast<int>(control->items.size())) {
                 const std::string entry = control->items[static_cast<size_t>(next)];
-                forwardInput([&] { desktop.choose(*control, entry); });
+                forwardInput([&] { on->choose(*control, entry); });
             }
         }
     }
@@ -106,14 +106,15 @@ bool FormView::forwardKey(Control* control, QKeyEvent* event) {
 }
 
 void FormView::forwardCommitted(const QString& text) {
-    if (!form_ || !hasProgram() || text.isEmpty()) return;
+    Desktop* on = desktop();
+    if (!on || text.isEmpty()) return;
     const std::optional<std::string> bytes = toCp1252(text);
     if (!bytes) {
-        refuse(kNotInCodePage);
+        refuse(on, kNotInCodePage);
         return;
     }
     forwardInput([&] {
-        for (char c : *bytes) program().desktop.typeCharacter(c);
+        for (char c : *bytes) on->typeCharacter(c);
     });
 }
 
@@ -121,7 +122,8 @@ bool FormView::forwardTextMouse(Control& control, QEvent* event) {
     auto* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
         case QEvent::MouseButtonPress:
-            forwardInput([&] { program().desktop.click(control, modelButton(mouse->button())); });
+            if (Desktop* on = desktop())
+                forwardInput([&] { on->click(control, modelButton(mouse->button())); });
             // The caret is placed only in a field the model let the focus into.
             return !form_ || mouse->button() != Qt::LeftButton || !isModelFocus(control);
         case QEvent::MouseButtonDblClick:
@@ -139,23 +141,25 @@ bool FormView::forwardComboMouse(Control& control, QEvent* event) {
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick)
         return false;
     if (mouse->button() != Qt::LeftButton) return true;
-    if (!isModelFocus(control)) forwardInput([&] { program().desktop.setFocus(control); });
+    Desktop* on = desktop();
+    if (on && !isModelFocus(control)) forwardInput([&] { on->setFocus(control); });
     return !form_ || !isModelFocus(control);
 }
 
 void FormView::mousePressEvent(QMouseEvent* event) {
     Control* control = controlAt(event->position().toPoint());
-    if (!control || !hasProgram()) return;
+    Desktop* on = desktop();
+    if (!control || !on) return;
     const ControlKind kind = control->kind;
     if (kind == ControlKind::TabControl || kind == ControlKind::Grid || kind == ControlKind::ListBox) {
         const int entry = entryAt(*control, event->position().toPoint(), kScreenScale);
         if (entry < 0 || event->button() != Qt::LeftButton) return;
         const std::string chosen = control->items[static_cast<size_t>(entry)];
-        forwardInput([&] { program().desktop.choose(*control, chosen); });
+        forwardInput([&] { on->choose(*control, chosen); });
         return;
     }
     const MouseButton button = modelButton(event->button());
-    forwardInput([&] { program().desktop.click(*control, button); });
+    forwardInput([&] { on->click(*control, button); });
 }
 
 void FormView::mouseDoubleClickEvent(QMouseEvent*) {

@@ -29,11 +29,12 @@ void FormView::renameFields() {
 }
 
 void FormView::clickFromAssistant(Control& control) {
-    if (form_ && hasProgram()) forwardInput([&] { program().desktop.click(control); });
+    if (form_ && hasProgram() && form_->desktop()) forwardInput([&] { form_->desktop()->click(control); });
 }
 
 void FormView::chooseFromAssistant(Control& control, const std::string& entry) {
-    if (form_ && hasProgram()) forwardInput([&] { program().desktop.choose(control, entry); });
+    if (form_ && hasProgram() && form_->desktop())
+        forwardInput([&] { form_->desktop()->choose(control, entry); });
 }
 
 }  // namespace lw::ui

@@ -44,7 +44,8 @@ const QColor kChildAreaColor(0xAB, 0xAB, 0xAB);
 
 }  // namespace
 
-FrameWindow::FrameWindow(Form& frame, QWidget* parent) : QMainWindow(parent), frame_(&frame) {
+FrameWindow::FrameWindow(Form& frame, QWidget* parent)
+    : QMainWindow(parent), frame_(&frame), desktop_(frame.desktop()) {
     setObjectName(QString::fromStdString(frame.name()));
     auto* central = new QWidget(this);
     auto* layout = new QHBoxLayout(central);
@@ -112,13 +113,17 @@ void FrameWindow::refresh() {
 
 // The active child; before one is active, the child form loaded last, which shows as it loads.
 Form* FrameWindow::shownChild() const {
-    if (!hasProgram()) return nullptr;
-    Desktop& desktop = program().desktop;
+    if (!hasProgram() || !desktop_) return nullptr;
+    const Desktop& desktop = *desktop_;
     Form* shown = desktop.activeChild();
     if (shown) return shown;
     for (Form* form : desktop.forms())
         if (form->isChild && form->isLoaded() && form != frame_) shown = form;
     return shown;
+}
+
+void FrameWindow::chooseMenu(const std::string& itemName) {
+    if (hasProgram() && desktop_) forwardInput([&] { desktop_->chooseMenu(itemName); });
 }
 
 QAction* FrameWindow::actionFor(const MenuItem& item, QWidget* owner) {
@@ -128,8 +133,7 @@ QAction* FrameWindow::actionFor(const MenuItem& item, QWidget* owner) {
         action->setSeparator(true);
     } else {
         const std::string name = item.name;
-        connect(action, &QAction::triggered, this,
-                [name] { forwardInput([&] { program().desktop.chooseMenu(name); }); });
+        connect(action, &QAction::triggered, this, [this, name] { chooseMenu(name); });
     }
     return action;
 }
@@ -165,8 +169,7 @@ void FrameWindow::buildMenus() {
         actions_.push_back(menu->menuAction());
         const std::string name = top.name;
         // Opening a menu is its Click: the program may enable or hide items before they show.
-        connect(menu, &QMenu::aboutToShow, this,
-                [name] { forwardInput([&] { program().desktop.chooseMenu(name); }); });
+        connect(menu, &QMenu::aboutToShow, this, [this, name] { chooseMenu(name); });
         addItems(menu, top.items);
     }
 }
@@ -248,7 +251,7 @@ void FrameWindow::formUnloaded(Form& form) {
 void FrameWindow::showStatus(const QString& message) { statusBar()->showMessage(message, 8000); }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
-    if (programEnded() || !frame_ || !hasProgram()) {
+    if (programEnded() || !frame_ || !hasProgram() || !desktop_) {
         event->accept();
         return;
     }
@@ -258,10 +261,10 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
         forwardInput(closeHandler_);
         return;
     }
-    forwardInput([frame] {
-        Desktop& desktop = program().desktop;
-        desktop.unload(*frame);
-        if (desktop.frame() != frame) program().ui.quit();
+    Desktop* desktop = desktop_;
+    forwardInput([frame, desktop] {
+        desktop->unload(*frame);
+        if (desktop->frame() != frame) desktop->ui().quit();
     });
 }
 

@@ -47,12 +47,15 @@ private:
     void buildMenus();
     void addItems(QMenu* menu, const std::vector<MenuItem>& items);
     QAction* actionFor(const MenuItem& item, QWidget* owner);
+    void chooseMenu(const std::string& itemName);
     void mirrorMenus();
     void showChild(Form* child);
     void makeRoomFor(const QWidget& child);
     Form* shownChild() const;
 
     Form* frame_;
+    // The desktop the frame stands on, which outlives the window: menus and the close box go to it.
+    Desktop* desktop_;
     FormView* panel_ = nullptr;
     QScrollArea* panelArea_ = nullptr;
     QScrollArea* childArea_ = nullptr;

@@ -65,7 +65,7 @@ void ModalDialog::closeEvent(QCloseEvent* event) {
     if (form_ && hasProgram()) {
         Form* form = form_;
         event->ignore();
-        forwardInput([form] { program().desktop.unload(*form); });
+        forwardInput([form] { form->unload(); });
         return;
     }
     QDialog::closeEvent(event);
@@ -74,7 +74,7 @@ void ModalDialog::closeEvent(QCloseEvent* event) {
 void ModalDialog::reject() {
     if (form_ && hasProgram()) {
         Form* form = form_;
-        forwardInput([form] { program().desktop.unload(*form); });
+        forwardInput([form] { form->unload(); });
         return;
     }
     QDialog::reject();

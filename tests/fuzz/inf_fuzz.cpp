@@ -60,17 +60,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     put(input);
 
     const std::string name = nameFrom(input);
-    const std::string value = ReadINF(name, name, " default ", scratchFile);
+    const std::string value = readInfValue(name, name, " default ", scratchFile);
     check(value.size() < kInfValueBuffer);
-    ReadINF("Fuzz", "Key", "", scratchFile);
+    readInfValue("Fuzz", "Key", "", scratchFile);
     const std::size_t buffer = size == 0 ? 0 : static_cast<unsigned char>(input[0]) * 8;
     std::size_t used = 1;
-    for (const std::string& line : ReadINFSection(name, scratchFile, buffer)) used += line.size() + 1;
+    for (const std::string& line : readInfSection(name, scratchFile, buffer)) used += line.size() + 1;
     check(buffer < 3 || used <= buffer);
-    ReadINFSection("Fuzz", scratchFile, 32767);
+    readInfSection("Fuzz", scratchFile, 32767);
 
     const std::string written = "value of the fuzz";
     put(infWithValue(input, "Fuzz", "Key", written));
-    check(ReadINF("Fuzz", "Key", "", scratchFile) == written);
+    check(readInfValue("Fuzz", "Key", "", scratchFile) == written);
     return 0;
 }

@@ -43,13 +43,22 @@ std::vector<std::string> splitAt(const std::string& text, char separator) {
 // The form the operator works on: the active child, else the form the shared procedures work on.
 const Form* formAtHand() {
     if (const Form* active = program().desktop.activeChild()) return active;
-    const Form* current = program().g.CurrentForm;
+    const Form* current = program().g.document.currentForm;
     const auto forms = program().desktop.forms();
     return std::find(forms.begin(), forms.end(), current) != forms.end() ? current : nullptr;
 }
 
+// The message of the box opened last: one still open (a report can come while it is laid out), else the
+// last one answered.
+std::string latestBoxMessage() {
+    const auto forms = program().desktop.forms();
+    for (auto it = forms.rbegin(); it != forms.rend(); ++it)
+        if (const auto* box = dynamic_cast<const MessageBoxForm*>(*it)) return box->request().message;
+    return lastMessageBox() ? lastMessageBox()->message : std::string();
+}
+
 std::string userStoreValue(const std::string& key) {
-    return store::ReadINF(program().g.UserNameUC, key, "", program().g.UserInfFile);
+    return store::readInfValue(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
 }
 
 // The key fields of the first line of a data file, as the file now stands: fields 2 and on.
@@ -92,8 +101,8 @@ const std::map<std::string, Rule>& rules() {
     static const std::map<std::string, Rule> all = {
         {"k1-line-with-fewer-than-three-parts",
          [](const ShownReport&, const SessionFacts&) {
-             const auto lines = store::ReadINFSection(k1HelpMembers().F97_K1Key, program().g.K1HelpInfFile,
-                                                      kK1HelpSectionBuffer);
+             const auto lines = store::readInfSection(
+                 k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
              return std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
                  return std::count(line.begin(), line.end(), '|') < 2;
              });
@@ -135,7 +144,7 @@ const std::map<std::string, Rule>& rules() {
          }},
         {"message-line-without-blank",
          [](const ShownReport&, const SessionFacts&) {
-             std::string message = messageBoxState().message;
+             std::string message = latestBoxMessage();
              for (std::size_t at = message.find("\r\n"); at != std::string::npos;
                   at = message.find("\r\n", at))
                  message.erase(at + 1, 1);

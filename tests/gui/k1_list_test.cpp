@@ -36,8 +36,8 @@ protected:
     void SetUp() override {
         GuiTest::SetUp();
         ASSERT_TRUE(folder_.isValid());
-        program_->g.K1HelpInfFile = folder_.filePath(QStringLiteral("K1Help.inf")).toStdString();
-        std::ofstream(program_->g.K1HelpInfFile, std::ios::binary)
+        program_->g.edition.k1HelpInfFile = folder_.filePath(QStringLiteral("K1Help.inf")).toStdString();
+        std::ofstream(program_->g.edition.k1HelpInfFile, std::ios::binary)
             << "[K1-1065-Box13]\r\n"
                "A|Cash contributions, 60% limit {Schedule A line 11}|\r\n"
                "H|Investment interest expense {Form 4952 line 1}|\r\n"
@@ -123,7 +123,7 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
 // The shipped lists of one box of each form and the longest list, drawn as the dialog shows them. With
 // LW_SCREENSHOT_DIR set the pictures are kept there to be looked at.
 TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
-    program_->g.K1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
+    program_->g.edition.k1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
     for (const char* key : {"K1-1041-Box13", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box17"}) {
         k1HelpMembers().F97_K1Key = key;
         Form& list = desktop().load(std::make_unique<K1HelpForm>(), false);

@@ -332,7 +332,7 @@ void printThroughTheQueue(ui::FrameWindow& window) {
     ASSERT_GE(queue, 0) << "the configuration form does not list the queue " << kQueue.toStdString();
     emit printers->activated(queue);
     settle();
-    EXPECT_EQ(program().g.PrinterName, kQueue.toStdString());
+    EXPECT_EQ(program().g.choices.printerName, kQueue.toStdString());
 
     open(window, "mnuW2");
     ASSERT_EQ(program().desktop.activeChild()->name(), "TF_W2");

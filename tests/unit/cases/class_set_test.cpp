@@ -187,6 +187,33 @@ TEST(ClassSet, WhatCannotBeMadeIsRefusedBeforeAnythingIsWritten) {
     EXPECT_FALSE(fs::exists(out));
 }
 
+TEST(ClassSet, AWageBaseThatIsNoAmountIsNoFigureAtAll) {
+    // The shipped lists and profiles beside figures of the case's own.
+    const fs::path shipped = freshFolder("own-figures");
+    fs::create_directories(shipped);
+    for (const char* name : {"CaseLists.inf", "CaseProfiles.inf"})
+        fs::copy_file(fs::path(kShipped) / name, shipped / name);
+    auto refusal = [&](const std::string& wageBase) {
+        std::ofstream(shipped / "SSMC.inf", std::ios::binary | std::ios::trunc)
+            << "[2025]\r\nSSRate=6.2\r\nSSMax=" << wageBase << "\r\n";
+        auto options = optionsFor(freshFolder("own-figures-out"), 1, 1);
+        options.year = 2025;
+        try {
+            ClassSet set(std::move(options), shipped.string(), "");
+            return std::string("no refusal");
+        } catch (const ClassSetRefused& refused) {
+            return refused.why;
+        }
+    };
+    EXPECT_NE(refusal("lots").find("no Social Security and Medicare figures for the year 2025"),
+              std::string::npos);
+    EXPECT_NE(refusal("").find("no Social Security and Medicare figures for the year 2025"),
+              std::string::npos);
+    EXPECT_EQ(refusal("176,100"), "no refusal");
+    EXPECT_EQ(refusal("176100"), "no refusal");
+    fs::remove_all(shipped);
+}
+
 TEST(ClassSet, ASetStoppedHalfWayLeavesNoAnswerKeyOfAnEarlierSet) {
     const fs::path out = freshFolder("stopped");
     ASSERT_EQ(make(optionsFor(out, 2, 1)), 0);

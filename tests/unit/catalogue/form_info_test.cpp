@@ -23,55 +23,55 @@ struct FormInfoTest : ::testing::Test {
              << "[Long]\r\nExact=" << std::string(1023, 'x') << "\r\nOver=" << std::string(1500, 'y')
              << "\r\n";
         file.close();
-        test.program->g.FormsInfFile = path;
-        test.program->g.CurrentForm = &form;
+        test.program->g.edition.formsInfFile = path;
+        test.program->g.document.currentForm = &form;
     }
 };
 
 TEST_F(FormInfoTest, AFormNameAndARecordPrefixLeadToTheSameSection) {
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "RecordPrefix"), "1099-MISC");
-    EXPECT_EQ(GetFormInfo("1099-MISC", "RecordPrefix"), "1099-MISC");
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "RecordPrefix"), "1099-MISC");
+    EXPECT_EQ(readFormInfo("1099-MISC", "RecordPrefix"), "1099-MISC");
 }
 
 TEST_F(FormInfoTest, ASectionTextWithoutAnUnderscoreIsUsedAsItStands) {
-    EXPECT_EQ(GetFormInfo("Plain", "FormName"), "Plain");
+    EXPECT_EQ(readFormInfo("Plain", "FormName"), "Plain");
 }
 
 TEST_F(FormInfoTest, SpacesInsideAValueStay) {
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces");
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "RTL1"), "Long text  with  spaces");
 }
 
 TEST_F(FormInfoTest, AValueOf1023CharactersComesWholeAndALongerOneIsCut) {
-    EXPECT_EQ(GetFormInfo("X_Long", "Exact").size(), 1023u);
-    EXPECT_EQ(GetFormInfo("X_Long", "Over"), std::string(1023, 'y'));
+    EXPECT_EQ(readFormInfo("X_Long", "Exact").size(), 1023u);
+    EXPECT_EQ(readFormInfo("X_Long", "Over"), std::string(1023, 'y'));
 }
 
 TEST_F(FormInfoTest, MissingValuesAreEmpty) {
-    EXPECT_EQ(GetFormInfo("TF_NOWHERE", "FormName"), "");
-    test.program->g.FormsInfFile = (test.root / "missing.inf").string();
-    EXPECT_EQ(GetFormInfo("TF_1099MISC", "FormName"), "");
+    EXPECT_EQ(readFormInfo("TF_NOWHERE", "FormName"), "");
+    test.program->g.edition.formsInfFile = (test.root / "missing.inf").string();
+    EXPECT_EQ(readFormInfo("TF_1099MISC", "FormName"), "");
 }
 
 TEST_F(FormInfoTest, LoadFillsTheValuesOfTheCurrentForm) {
     loadFormInfo();
     const Globals& g = test.program->g;
-    EXPECT_EQ(g.FormTitle, "TF_1099MISC");
-    EXPECT_EQ(g.RecordPrefix, "1099-MISC");
-    EXPECT_EQ(g.SSNIndex, "6");
-    EXPECT_EQ(g.OtherInfo, "0");
-    EXPECT_EQ(g.DOBIndex, "");
-    EXPECT_EQ(g.FocusOnStartup, 4);
-    EXPECT_EQ(g.FocusAfterTPButton, 7);
+    EXPECT_EQ(g.document.catalogue.formTitle, "TF_1099MISC");
+    EXPECT_EQ(g.document.catalogue.recordPrefix, "1099-MISC");
+    EXPECT_EQ(g.document.catalogue.ssnIndex, "6");
+    EXPECT_EQ(g.document.catalogue.otherInfo, "0");
+    EXPECT_EQ(g.document.catalogue.dobIndex, "");
+    EXPECT_EQ(g.document.catalogue.focusOnStartup, 4);
+    EXPECT_EQ(g.document.catalogue.focusAfterTaxpayerButton, 7);
 }
 
 TEST_F(FormInfoTest, AFocusValueThatIsNoNumberKeepsThatOfTheFormBefore) {
     loadFormInfo();
     Form plain("X_Plain");
-    test.program->g.CurrentForm = &plain;
+    test.program->g.document.currentForm = &plain;
     loadFormInfo();
-    EXPECT_EQ(test.program->g.FormTitle, "Plain");
-    EXPECT_EQ(test.program->g.FocusOnStartup, 4);
-    EXPECT_EQ(test.program->g.FocusAfterTPButton, 7);
+    EXPECT_EQ(test.program->g.document.catalogue.formTitle, "Plain");
+    EXPECT_EQ(test.program->g.document.catalogue.focusOnStartup, 4);
+    EXPECT_EQ(test.program->g.document.catalogue.focusAfterTaxpayerButton, 7);
 }
 
 }  // namespace

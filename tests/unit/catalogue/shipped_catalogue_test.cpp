@@ -19,8 +19,8 @@ TEST(ShippedCatalogue, HasThirtyThreeFormsWithTheirKeys) {
     std::set<std::string> prefixes;
     for (const CatalogueEntry& entry : catalogue()) {
         SCOPED_TRACE(entry.form);
-        EXPECT_EQ(store::ReadINF(entry.section, "FormName", "", formsInf()), entry.form);
-        std::string prefix = store::ReadINF(entry.section, "RecordPrefix", "", formsInf());
+        EXPECT_EQ(store::readInfValue(entry.section, "FormName", "", formsInf()), entry.form);
+        std::string prefix = store::readInfValue(entry.section, "RecordPrefix", "", formsInf());
         EXPECT_FALSE(prefix.empty());
         EXPECT_TRUE(prefixes.insert(prefix).second) << "two forms share the prefix " << prefix;
         EXPECT_EQ(formKeyOf(entry.form), entry.formKey);
@@ -30,7 +30,7 @@ TEST(ShippedCatalogue, HasThirtyThreeFormsWithTheirKeys) {
 TEST(ShippedCatalogue, TheFocusOfEveryFormNamesOneOfItsFields) {
     for (const CatalogueEntry& entry : catalogue()) {
         SCOPED_TRACE(entry.form);
-        std::string focus = store::ReadINF(entry.section, "FocusOnStartup", "", formsInf());
+        std::string focus = store::readInfValue(entry.section, "FocusOnStartup", "", formsInf());
         ASSERT_FALSE(focus.empty());
         if (entry.textArrays.empty()) continue;
         EXPECT_LT(std::stoi(focus), entry.textArrays.front().count);

@@ -92,12 +92,12 @@ protected:
             addErrorReportObserver([this](const ErrorReportRecord& r) { reports.push_back(r); });
         program_ = std::make_unique<Program>(ui, platform);
         Globals& globals = g();
-        globals.UserNameUC = "TESTER";
-        globals.UserInfFile = file("UserVenturo.inf");
-        globals.SSMCInfFile = file("SSMC.inf");
-        globals.FormsInfFile = file("Forms.inf");
-        globals.FileExtension = ".venturo";
-        writeFile(globals.SSMCInfFile, kTestSSMC);
+        globals.process.userNameUpper = "TESTER";
+        globals.edition.userInfFile = file("UserVenturo.inf");
+        globals.edition.ssmcInfFile = file("SSMC.inf");
+        globals.edition.formsInfFile = file("Forms.inf");
+        globals.edition.fileExtension = ".venturo";
+        writeFile(globals.edition.ssmcInfFile, kTestSSMC);
     }
 
     void TearDown() override {
@@ -121,12 +121,14 @@ protected:
         return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
     }
 
-    std::string userInf(const std::string& key) { return store::ReadINF("TESTER", key, "", g().UserInfFile); }
+    std::string userInf(const std::string& key) {
+        return store::readInfValue("TESTER", key, "", g().edition.userInfFile);
+    }
     void setUserInf(const std::string& key, const std::string& value) {
-        store::SaveINF("TESTER", key, value, g().UserInfFile);
+        store::writeInfValue("TESTER", key, value, g().edition.userInfFile);
     }
     std::string ssmc(const std::string& year, const std::string& key) {
-        return store::ReadINF(year, key, "", g().SSMCInfFile);
+        return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
     }
 
     ConfigUi ui;

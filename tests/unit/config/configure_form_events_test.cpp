@@ -25,7 +25,7 @@ TEST_P(StatusClick, SetsTheStatusAndItsIncomeTexts) {
     open();
     desktop().click(*form->optStatus[static_cast<std::size_t>(row.option)]);
     const std::string income = row.income;
-    EXPECT_EQ(g().FilingStatus, row.status);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), row.status);
     EXPECT_EQ(form->Frame4.caption,
               std::string("Medicare Info --- Goto www.cms.gov --- Filing Status: ") + row.status);
     EXPECT_EQ(form->lblMC[3]->caption,
@@ -65,7 +65,8 @@ TEST_F(ConfigureFormTest, ATypedRateLosesItsPercentOnLeaving) {
     EXPECT_TRUE(form->bChanged);
     tab();
     EXPECT_EQ(form->txtSSRate.text, "6.2");
-    EXPECT_EQ(g().SSRate, "6.2");
+    EXPECT_EQ(g().rates.socialSecurityRate.text(), "6.2");
+    EXPECT_EQ(g().rates.socialSecurityRate.value(), text::Currency::fromRaw(62000));
     EXPECT_EQ(desktop().focus(), &form->txtSSMax);
     EXPECT_TRUE(boxes.empty());
 }
@@ -79,7 +80,8 @@ TEST_F(ConfigureFormTest, ABadRateKeepsTheFocusAndStillReachesTheGlobal) {
     EXPECT_EQ(desktop().focus(), &form->txtSSRate);
     EXPECT_EQ(form->txtSSRate.selStart(), 0);
     EXPECT_EQ(form->txtSSRate.selLength(), 4);
-    EXPECT_EQ(g().SSRate, "12.5");
+    EXPECT_EQ(g().rates.socialSecurityRate.text(), "12.5");
+    EXPECT_EQ(g().rates.socialSecurityRate.value(), text::Currency::fromRaw(125000));
 }
 
 TEST_F(ConfigureFormTest, TheWageBaseIsRoundedOnLeaving) {
@@ -87,7 +89,8 @@ TEST_F(ConfigureFormTest, TheWageBaseIsRoundedOnLeaving) {
     type(form->txtSSMax, "168601.50");
     tab();
     EXPECT_EQ(form->txtSSMax.text, "168,602.00");
-    EXPECT_EQ(g().SSMax, "168,602.00");
+    EXPECT_EQ(g().rates.socialSecurityWageBase.text(), "168,602.00");
+    EXPECT_EQ(g().rates.socialSecurityWageBase.value(), text::Currency::fromUnits(168602));
     EXPECT_EQ(desktop().focus(), &form->txtMCInitRate);
 }
 
@@ -98,7 +101,7 @@ TEST_F(ConfigureFormTest, APremiumOverTheLimitKeepsTheFocus) {
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("Amount CANNOT be Greater Than 3,000.00"), std::string::npos);
     EXPECT_EQ(desktop().focus(), &form->txtMCPartBPremiums);
-    EXPECT_EQ(g().MCPartBPremium, "3000.01");
+    EXPECT_EQ(g().rates.partBPremium.text(), "3000.01");
 }
 
 TEST_F(ConfigureFormTest, ClosingWithAStatusAsksNothing) {
@@ -110,7 +113,7 @@ TEST_F(ConfigureFormTest, ClosingWithAStatusAsksNothing) {
 
 TEST_F(ConfigureFormTest, ClosingWithNoStatusAsksForOneAndEndsTheProgram) {
     open();
-    g().FilingStatus.clear();
+    g().rates.filingStatus = FilingStatus::NotChosen;
     ui.queueAnswer("Single - S");
     form->unload();
     ASSERT_EQ(boxes.size(), 1u);
@@ -121,17 +124,28 @@ TEST_F(ConfigureFormTest, ClosingWithNoStatusAsksForOneAndEndsTheProgram) {
     EXPECT_EQ(boxes[0].buttons[1], "Single - S");
     EXPECT_EQ(boxes[0].buttons[2], "Married Filing Joint - MFJ");
     EXPECT_EQ(boxes[0].buttons[3], "");
-    EXPECT_EQ(boxes[0].defaultButton, 1);
-    EXPECT_EQ(g().FilingStatus, "S");
+    EXPECT_EQ(boxes[0].defaultButton, MessageBoxButton::First);
+    EXPECT_EQ(boxes[0].answer, MessageBoxButton::Second);
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::SingleOnClosing);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "S");
     EXPECT_EQ(ui.quitCalls, 1);
 }
 
 TEST_F(ConfigureFormTest, TheDefaultAnswerToTheClosingQuestionIsMFS) {
     open();
-    g().FilingStatus.clear();
+    g().rates.filingStatus = FilingStatus::NotChosen;
     form->unload();
-    EXPECT_EQ(g().FilingStatus, "MFS");
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::MarriedSeparately);
     EXPECT_EQ(ui.quitCalls, 1);
+}
+
+TEST_F(ConfigureFormTest, TheThirdAnswerToTheClosingQuestionIsMFJ) {
+    open();
+    g().rates.filingStatus = FilingStatus::NotChosen;
+    ui.queueAnswer("Married Filing Joint - MFJ");
+    form->unload();
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::MarriedJointly);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "MFJ");
 }
 
 TEST_F(ConfigureFormTest, RegisteringMakesTheFormKnownAndABadRateKeepsTheScreen) {

@@ -11,8 +11,8 @@ namespace {
 TEST_F(ConfigureFormTest, JanuaryAndFebruaryStillBelongToTheYearBefore) {
     platform.clock = DateTime{2026, 2, 28, 9, 0, 0};
     open();
-    EXPECT_EQ(g().TaxYears[1], "2025");
-    EXPECT_EQ(g().TaxYearIndex, 1);
+    EXPECT_EQ(g().taxYear.textOf(TaxYearChoice::Slot::ThisYear), "2025");
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::ThisYear);
     EXPECT_EQ(form->TaxYear0.caption, "20");
     EXPECT_EQ(form->TaxYear1.caption, "25");
     EXPECT_EQ(userInf("LastTaxYear"), "2025");
@@ -29,7 +29,7 @@ TEST_F(ConfigureFormTest, TheYearReadsAsOneNumber) {
 TEST_F(ConfigureFormTest, MarchStartsTheNewTaxYear) {
     platform.clock = DateTime{2026, 3, 1, 9, 0, 0};
     open();
-    EXPECT_EQ(g().TaxYears[1], "2026");
+    EXPECT_EQ(g().taxYear.textOf(TaxYearChoice::Slot::ThisYear), "2026");
     EXPECT_EQ(form->TaxYear1.caption, "26");
     EXPECT_EQ(form->txtSSMax.text, "184,500.00");
     EXPECT_EQ(form->txtMCPartBPremiums.text, "2434.80");
@@ -38,7 +38,7 @@ TEST_F(ConfigureFormTest, MarchStartsTheNewTaxYear) {
 TEST_F(ConfigureFormTest, ARemembered20XXSelectsIndex3) {
     setUserInf("LastTaxYear", "20XX");
     open();
-    EXPECT_EQ(g().TaxYearIndex, 3);
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::Placeholder);
     EXPECT_EQ(form->TaxYear1.caption, "XX");
     EXPECT_EQ(form->txtSSRate.text, "7.65");
     EXPECT_EQ(form->Frame3.caption, "Social Security Withholding 20XX");
@@ -48,7 +48,7 @@ TEST_F(ConfigureFormTest, ARemembered20XXSelectsIndex3) {
 TEST_F(ConfigureFormTest, ARememberedYearOutOfTheWindowShowsItsDigitsAndIsOverwritten) {
     setUserInf("LastTaxYear", "2015");
     open();
-    EXPECT_EQ(g().TaxYearIndex, 1);
+    EXPECT_EQ(g().taxYear.slot(), TaxYearChoice::Slot::ThisYear);
     EXPECT_EQ(form->TaxYear1.caption, "15");
     EXPECT_EQ(form->txtSSRate.text, "");
     EXPECT_EQ(userInf("LastTaxYear"), "2025");
@@ -56,9 +56,10 @@ TEST_F(ConfigureFormTest, ARememberedYearOutOfTheWindowShowsItsDigitsAndIsOverwr
 
 TEST_F(ConfigureFormTest, LoadStartsFromSingleAndWritesTheChangePointIntoTheCaptions) {
     open();
-    EXPECT_EQ(g().FilingStatus, "Single");
-    EXPECT_EQ(g().CurrentForm, form);
-    EXPECT_EQ(g().FormKey, "CONFIGURE");
+    EXPECT_EQ(g().rates.filingStatus, FilingStatus::Single);
+    EXPECT_STREQ(filingStatusWord(g().rates.filingStatus), "Single");
+    EXPECT_EQ(g().document.currentForm, form);
+    EXPECT_EQ(g().document.formKey, "CONFIGURE");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "200,000.00");
     EXPECT_EQ(form->lblMC[0]->caption, "Withholding Rate on Wages up to 200,000.00");
     EXPECT_EQ(form->lblMC[1]->caption, "Wages at Which Medicare Withholding Rate Changes:");
@@ -74,8 +75,8 @@ TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
     owned->lblMC[0]->caption = "up to <<InitRate>> and <<initrate>>";
     owned->lblMC[2]->caption = "over <<wage>>:";
     owned->TaxYear1.caption = "25";
-    g().CurrentForm = owned.get();
-    g().FilingStatus = "MFS";
+    g().document.currentForm = owned.get();
+    g().rates.filingStatus = FilingStatus::MarriedSeparately;
     configureFormCommonInit(*owned);
     EXPECT_EQ(owned->lblMC[0]->caption, "up to 125,000.00 and 125,000.00");
     EXPECT_EQ(owned->lblMC[2]->caption, "over 125,000.00:");
@@ -156,7 +157,7 @@ TEST_F(ConfigureFormTest, NoRememberedTemplateTakesTheFirst) {
     open();
     EXPECT_TRUE(form->optFileName[0]->value);
     EXPECT_EQ(userInf("FileNameFmt"), "0");
-    EXPECT_EQ(g().FileNameFormat, "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, TheRememberedTemplateIsChosenAgain) {
@@ -164,7 +165,7 @@ TEST_F(ConfigureFormTest, TheRememberedTemplateIsChosenAgain) {
     open();
     EXPECT_FALSE(form->optFileName[0]->value);
     EXPECT_TRUE(form->optFileName[2]->value);
-    EXPECT_EQ(g().FileNameFormat, "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, ATemplateNumberWithNoOptionIsReportedByLoad) {
@@ -182,7 +183,7 @@ TEST_F(ConfigureFormTest, ClickingATemplateRemembersIt) {
     EXPECT_TRUE(form->optFileName[3]->value);
     EXPECT_FALSE(form->optFileName[0]->value);
     EXPECT_EQ(userInf("FileNameFmt"), "3");
-    EXPECT_EQ(g().FileNameFormat, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(g().choices.fileNameFormat, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, ThePrintersComeDefaultFirstAndEachOnce) {
@@ -195,7 +196,7 @@ TEST_F(ConfigureFormTest, ThePrintersComeDefaultFirstAndEachOnce) {
     EXPECT_EQ(form->cbxPrinters.selStart(), 0);
     EXPECT_EQ(form->cbxPrinters.selLength(), 6);
     EXPECT_EQ(userInf("Printer"), "Office");
-    EXPECT_EQ(g().PrinterName, "Office");
+    EXPECT_EQ(g().choices.printerName, "Office");
 }
 
 TEST_F(ConfigureFormTest, TheRememberedPrinterIsSelected) {
@@ -203,7 +204,7 @@ TEST_F(ConfigureFormTest, TheRememberedPrinterIsSelected) {
     setUserInf("Printer", "Front");
     open();
     EXPECT_EQ(form->cbxPrinters.listIndex, 2);
-    EXPECT_EQ(g().PrinterName, "Front");
+    EXPECT_EQ(g().choices.printerName, "Front");
     EXPECT_EQ(userInf("Printer"), "Front");
 }
 
@@ -212,7 +213,7 @@ TEST_F(ConfigureFormTest, ARememberedPrinterThatIsGoneSelectsNothing) {
     setUserInf("Printer", "front");
     open();
     EXPECT_EQ(form->cbxPrinters.listIndex, -1);
-    EXPECT_EQ(g().PrinterName, "");
+    EXPECT_EQ(g().choices.printerName, "");
     EXPECT_EQ(userInf("Printer"), "front");
 }
 
@@ -221,7 +222,7 @@ TEST_F(ConfigureFormTest, WithNoPrintersTheListIsEmptyAndPrinterStaysEmpty) {
     EXPECT_TRUE(form->cbxPrinters.items.empty());
     EXPECT_EQ(form->cbxPrinters.listIndex, -1);
     EXPECT_EQ(userInf("Printer"), "");
-    EXPECT_EQ(g().PrinterName, "");
+    EXPECT_EQ(g().choices.printerName, "");
     EXPECT_TRUE(reports.empty());
 }
 
@@ -229,7 +230,7 @@ TEST_F(ConfigureFormTest, ChoosingAPrinterRemembersIt) {
     platform.machinePrinters = {"Office", "Lab"};
     open();
     desktop().choose(form->cbxPrinters, "Lab");
-    EXPECT_EQ(g().PrinterName, "Lab");
+    EXPECT_EQ(g().choices.printerName, "Lab");
     EXPECT_EQ(userInf("Printer"), "Lab");
 }
 

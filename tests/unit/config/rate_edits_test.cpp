@@ -23,7 +23,7 @@ protected:
                                  "txtMCRateAfter", "txtMCPartBPremiums", "txtOther", "txtMcMixedCase"})
             owned->add(ControlKind::TextBox, name);
         form = &desktop().load(std::move(owned));
-        g().CurrentForm = form;
+        g().document.currentForm = form;
         desktop().setFocus(form->at("Elsewhere"));
     }
 

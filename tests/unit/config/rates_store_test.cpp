@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "config/configure_form.h"
 #include "config/rates.h"
@@ -15,37 +17,49 @@ protected:
     void SetUp() override {
         ConfigTest::SetUp();
         form = std::make_unique<ConfigureForm>();
-        g().CurrentForm = form.get();
-        g().TaxYears = {"2024", "2025", "2026", "20XX"};
-        g().TaxYearIndex = 1;
+        g().document.currentForm = form.get();
+        g().taxYear = TaxYearChoice(2025);
     }
 
     void showYear(const char* digits) { form->TaxYear1.caption = digits; }
 
-    void loadYear(const char* digits, const char* status) {
+    void loadYear(const char* digits, FilingStatus status) {
         showYear(digits);
-        g().FilingStatus = status;
+        g().rates.filingStatus = status;
         loadRates();
+    }
+    const Rates& rates() { return g().rates; }
+    static std::optional<text::Currency> cents(std::int64_t count) {
+        return text::Currency::fromRaw(count * 100);
     }
 
     std::unique_ptr<ConfigureForm> form;
 };
 
 TEST_F(RatesStoreTest, LoadFillsTheFieldsAndGlobalsOfTheYear) {
-    loadYear("25", "Single");
+    loadYear("25", FilingStatus::Single);
     EXPECT_EQ(form->txtSSRate.text, "6.2");
     EXPECT_EQ(form->txtSSMax.text, "176,100.00");
     EXPECT_EQ(form->txtMCInitRate.text, "1.45");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "200,000.00");
     EXPECT_EQ(form->txtMCRateAfter.text, "2.35");
     EXPECT_EQ(form->txtMCPartBPremiums.text, "2220.00");
-    EXPECT_EQ(g().SSRate, "6.2");
-    EXPECT_EQ(g().SSMax, "176100");
-    EXPECT_EQ(g().MCInitRate, "1.45");
-    EXPECT_EQ(g().MCChgRateAfter, "200000");
-    EXPECT_EQ(g().MCRateAfter, "2.35");
-    EXPECT_EQ(g().MCPartBPremium, "2220.00");
-    EXPECT_EQ(g().MCPartBIncome, "106000");
+    EXPECT_EQ(rates().socialSecurityRate.text(), "6.2");
+    EXPECT_EQ(rates().socialSecurityWageBase.text(), "176100");
+    EXPECT_EQ(rates().medicareRate.text(), "1.45");
+    EXPECT_EQ(rates().medicareChangePoint.text(), "200000");
+    EXPECT_EQ(rates().medicareRateAfter.text(), "2.35");
+    EXPECT_EQ(rates().partBPremium.text(), "2220.00");
+    EXPECT_EQ(rates().partBIncomeLimit.text(), "106000");
+    // Each figure is read once, as it comes from the file.
+    EXPECT_EQ(rates().socialSecurityRate.value(), cents(620));
+    EXPECT_EQ(rates().socialSecurityWageBase.value(), cents(17610000));
+    EXPECT_EQ(rates().medicareRate.value(), cents(145));
+    EXPECT_EQ(rates().medicareChangePoint.value(), cents(20000000));
+    EXPECT_EQ(rates().medicareRateAfter.value(), cents(235));
+    EXPECT_EQ(rates().partBPremium.value(), cents(222000));
+    EXPECT_EQ(rates().partBIncomeLimit.value(), cents(10600000));
+    EXPECT_EQ(rates().filingStatus, FilingStatus::Single);
     EXPECT_EQ(form->Frame3.caption, "Social Security Withholding 2025");
     EXPECT_EQ(form->Frame4.caption, "Medicare Withholding 2025 --- Martial Status is Single");
     EXPECT_EQ(form->labelVersion.caption, "Ledgerwick - Version 25.1.5");
@@ -54,11 +68,11 @@ TEST_F(RatesStoreTest, LoadFillsTheFieldsAndGlobalsOfTheYear) {
 }
 
 struct StatusRow {
-    const char* status;
+    FilingStatus status;
     const char* changePoint;
 };
 
-void PrintTo(const StatusRow& row, std::ostream* os) { *os << '"' << row.status << '"'; }
+void PrintTo(const StatusRow& row, std::ostream* os) { *os << '"' << filingStatusWord(row.status) << '"'; }
 
 class ChangePointByStatus : public RatesStoreTest, public ::testing::WithParamInterface<StatusRow> {};
 
@@ -67,14 +81,17 @@ TEST_P(ChangePointByStatus, TakesTheKeyOfTheFilingStatus) {
     EXPECT_EQ(form->txtMCChgRateAfter.text, GetParam().changePoint);
 }
 
-// A clicked status ("SGL") and an empty one both fall to the joint figure.
+// A clicked status ("SGL"), one chosen on closing ("S") and none at all fall to the joint figure.
 INSTANTIATE_TEST_SUITE_P(Table, ChangePointByStatus,
-                         ::testing::Values(StatusRow{"Single", "200,000.00"}, StatusRow{"MFS", "125,000.00"},
-                                           StatusRow{"MFJ", "250,000.00"}, StatusRow{"SGL", "250,000.00"},
-                                           StatusRow{"", "250,000.00"}, StatusRow{"single", "250,000.00"}));
+                         ::testing::Values(StatusRow{FilingStatus::Single, "200,000.00"},
+                                           StatusRow{FilingStatus::MarriedSeparately, "125,000.00"},
+                                           StatusRow{FilingStatus::MarriedJointly, "250,000.00"},
+                                           StatusRow{FilingStatus::SingleByOption, "250,000.00"},
+                                           StatusRow{FilingStatus::NotChosen, "250,000.00"},
+                                           StatusRow{FilingStatus::SingleOnClosing, "250,000.00"}));
 
 TEST_F(RatesStoreTest, TheYearComesFromTheFormsTwoYearLabels) {
-    loadYear("XX", "MFS");
+    loadYear("XX", FilingStatus::MarriedSeparately);
     EXPECT_EQ(form->txtSSRate.text, "7.65");
     EXPECT_EQ(form->txtSSMax.text, "190,000.00");
     EXPECT_EQ(form->txtMCChgRateAfter.text, "130,000.00");
@@ -83,25 +100,29 @@ TEST_F(RatesStoreTest, TheYearComesFromTheFormsTwoYearLabels) {
 }
 
 TEST_F(RatesStoreTest, AYearWithNoSectionLeavesTheSixFieldsEmpty) {
-    loadYear("25", "Single");
-    loadYear("31", "Single");
+    loadYear("25", FilingStatus::Single);
+    loadYear("31", FilingStatus::Single);
     for (Control* field : {&form->txtSSRate, &form->txtSSMax, &form->txtMCInitRate, &form->txtMCChgRateAfter,
                            &form->txtMCRateAfter, &form->txtMCPartBPremiums})
         EXPECT_EQ(field->text, "") << field->name;
-    EXPECT_EQ(g().SSRate, "");
-    EXPECT_EQ(g().SSMax, "");
-    EXPECT_EQ(g().MCPartBIncome, "");
+    EXPECT_EQ(rates().socialSecurityRate.text(), "");
+    EXPECT_EQ(rates().socialSecurityWageBase.text(), "");
+    EXPECT_EQ(rates().partBIncomeLimit.text(), "");
+    EXPECT_EQ(rates().socialSecurityRate.value(), std::nullopt);
+    EXPECT_EQ(rates().socialSecurityWageBase.value(), std::nullopt);
     EXPECT_TRUE(reports.empty());
 }
 
 TEST_F(RatesStoreTest, AStoredAmountThatIsNoNumberShowsAsItStands) {
-    writeFile(g().SSMCInfFile, "[2025]\r\nSSMax=lots\r\n");
-    loadYear("25", "Single");
+    writeFile(g().edition.ssmcInfFile, "[2025]\r\nSSMax=lots\r\n");
+    loadYear("25", FilingStatus::Single);
     EXPECT_EQ(form->txtSSMax.text, "lots");
+    EXPECT_EQ(rates().socialSecurityWageBase.text(), "lots");
+    EXPECT_EQ(rates().socialSecurityWageBase.value(), std::nullopt);
 }
 
 TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
-    loadYear("25", "Single");
+    loadYear("25", FilingStatus::Single);
     form->txtSSRate.text = "6.5%";
     form->txtSSMax.text = "180,000.40";
     form->txtMCChgRateAfter.text = "168600.5";
@@ -118,14 +139,18 @@ TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
     EXPECT_EQ(ssmc("2025", "MCChgRateAfterSingle"), "200000");
     EXPECT_EQ(ssmc("2025", "MCPartBIncome"), "106000");
     EXPECT_EQ(ssmc("2026", "SSRate"), "6.2");
-    EXPECT_EQ(g().SSRate, "6.5");
-    EXPECT_EQ(g().SSMax, "180000");
-    EXPECT_EQ(g().MCChgRateAfter, "168600");
-    EXPECT_EQ(g().MCPartBPremium, "2,300.00");
+    EXPECT_EQ(rates().socialSecurityRate.text(), "6.5");
+    EXPECT_EQ(rates().socialSecurityWageBase.text(), "180000");
+    EXPECT_EQ(rates().medicareChangePoint.text(), "168600");
+    EXPECT_EQ(rates().partBPremium.text(), "2,300.00");
+    EXPECT_EQ(rates().socialSecurityRate.value(), cents(650));
+    EXPECT_EQ(rates().socialSecurityWageBase.value(), cents(18000000));
+    EXPECT_EQ(rates().medicareChangePoint.value(), cents(16860000));
+    EXPECT_EQ(rates().partBPremium.value(), cents(230000));
 }
 
 TEST_F(RatesStoreTest, SaveGoesToTheSectionShownOnTheForm) {
-    loadYear("XX", "Single");
+    loadYear("XX", FilingStatus::Single);
     form->txtSSRate.text = "8";
     storeRates();
     EXPECT_EQ(ssmc("20XX", "SSRate"), "8");
@@ -134,8 +159,8 @@ TEST_F(RatesStoreTest, SaveGoesToTheSectionShownOnTheForm) {
 }
 
 TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
-    loadYear("25", "Single");
-    const std::string before = readFile(g().SSMCInfFile);
+    loadYear("25", FilingStatus::Single);
+    const std::string before = readFile(g().edition.ssmcInfFile);
     form->txtSSRate.text = "6.5";
     form->txtMCRateAfter.text = "12.5";
     storeRates();
@@ -143,8 +168,9 @@ TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
     EXPECT_EQ(boxes[0].message,
               dataErrorText("M3_Ledgerwick:SS_MC_Edit_Rate", 802,
                             "Invalid Medicare Rate - Format is #, ##, #.#, ##.#, #.## or ##.##"));
-    EXPECT_EQ(readFile(g().SSMCInfFile), before);
-    EXPECT_EQ(g().SSRate, "6.2");
+    EXPECT_EQ(readFile(g().edition.ssmcInfFile), before);
+    EXPECT_EQ(rates().socialSecurityRate.text(), "6.2");
+    EXPECT_EQ(rates().socialSecurityRate.value(), cents(620));
 }
 
 TEST(SSMCRow, LaysOutTheItemIn22AndEachValueIn9) {
@@ -169,22 +195,22 @@ protected:
 };
 
 TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
-    loadYear("25", "Single");
+    loadYear("25", FilingStatus::Single);
     offerToSaveChangedRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 0);
 }
 
 TEST_F(CheckChangesTest, UnchangedFiguresEndTheProgramWhenTheFrameIsQuitting) {
-    loadYear("25", "Single");
-    g().bQuitting = true;
+    loadYear("25", FilingStatus::Single);
+    g().process.quitting = true;
     offerToSaveChangedRates();
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 1);
 }
 
 TEST_F(CheckChangesTest, AChangedFigureShowsTheTableAndYesSavesIt) {
-    loadYear("25", "Single");
+    loadYear("25", FilingStatus::Single);
     form->txtSSRate.text = "6.5";
     ui.queueAnswer("Yes");
     offerToSaveChangedRates();
@@ -205,21 +231,21 @@ TEST_F(CheckChangesTest, AChangedFigureShowsTheTableAndYesSavesIt) {
 }
 
 TEST_F(CheckChangesTest, NoLeavesTheFileAsItWas) {
-    loadYear("25", "Single");
-    const std::string before = readFile(g().SSMCInfFile);
+    loadYear("25", FilingStatus::Single);
+    const std::string before = readFile(g().edition.ssmcInfFile);
     form->txtMCPartBPremiums.text = "2,300.00";
     ui.queueAnswer("No");
-    g().bQuitting = true;
+    g().process.quitting = true;
     offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2220.00 2,300.00\r\n"), std::string::npos);
-    EXPECT_EQ(readFile(g().SSMCInfFile), before);
+    EXPECT_EQ(readFile(g().edition.ssmcInfFile), before);
     EXPECT_EQ(ui.quitCalls, 1);
 }
 
 TEST_F(CheckChangesTest, TheChangePointIsComparedWithTheOneSavedValue) {
     // Married filing jointly shows 250,000.00, while the saved change point is 200000.
-    loadYear("25", "MFJ");
+    loadYear("25", FilingStatus::MarriedJointly);
     ui.queueAnswer("No");
     offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);
@@ -228,8 +254,8 @@ TEST_F(CheckChangesTest, TheChangePointIsComparedWithTheOneSavedValue) {
 
 TEST_F(CheckChangesTest, TheStoredYearIsTheOneInForce) {
     // The form shows 2025, but 2026 is in force: its stored figures are the originals.
-    loadYear("25", "Single");
-    g().TaxYearIndex = 2;
+    loadYear("25", FilingStatus::Single);
+    g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::NextYear);
     ui.queueAnswer("No");
     offerToSaveChangedRates();
     ASSERT_EQ(boxes.size(), 1u);

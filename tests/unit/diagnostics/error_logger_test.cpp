@@ -61,12 +61,13 @@ TEST_F(DiagnosticsTest, DataErrorBoxHasThreeLinesEndedByBareCarriageReturns) {
     EXPECT_EQ(box.height,
               MessageBoxForm::kDesignHeight + MessageBoxForm::kLabelDesignHeight * (lines - 1) + 100);
     EXPECT_EQ(box.record.buttons, (std::array<std::string, 4>{"OK", "", "", ""}));
-    EXPECT_EQ(box.record.defaultButton, 1);
+    EXPECT_EQ(box.record.defaultButton, MessageBoxButton::First);
     EXPECT_FALSE(box.record.showText);
     EXPECT_FALSE(box.text1Visible);
-    EXPECT_EQ(box.record.answer, "");
+    EXPECT_EQ(box.record.answer, MessageBoxButton::None);
     ASSERT_TRUE(lastMessageBox().has_value());
-    EXPECT_EQ(lastMessageBox()->answer, "OK");
+    EXPECT_EQ(lastMessageBox()->answer, MessageBoxButton::First);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "OK");
 }
 
 TEST_F(DiagnosticsTest, ReportFormCarriesProgramModuleNumberDescriptionAndTime) {
@@ -101,7 +102,7 @@ protected:
 
 TEST_F(FormTextTest, CaptionWithEqualsGivesNameAndCaptionOnTwoLines) {
     loadFrame("Ledgerwick 25 =   W-2 Wage and Tax Statement  ");
-    prog().g.CurrentForm = &loadChild("TF_W2");
+    prog().g.document.currentForm = &loadChild("TF_W2");
     EXPECT_EQ(errorFormText(), "Name    = TF_W2\r\nCaption = W-2 Wage and Tax Statement");
     logError("TF_W2:Compute", 6, "Overflow");
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -110,13 +111,13 @@ TEST_F(FormTextTest, CaptionWithEqualsGivesNameAndCaptionOnTwoLines) {
 
 TEST_F(FormTextTest, TextAfterTheFirstEqualsKeepsLaterOnes) {
     loadFrame("A = B = C");
-    prog().g.CurrentForm = &loadChild("TF_1099R");
+    prog().g.document.currentForm = &loadChild("TF_1099R");
     EXPECT_EQ(errorFormText(), "Name    = TF_1099R\r\nCaption = B = C");
 }
 
 TEST_F(FormTextTest, CaptionWithoutEqualsGivesTheNameAlone) {
     loadFrame("Ledgerwick");
-    prog().g.CurrentForm = &loadChild("F1_Configure");
+    prog().g.document.currentForm = &loadChild("F1_Configure");
     EXPECT_EQ(errorFormText(), "F1_Configure");
 }
 
@@ -130,7 +131,7 @@ TEST_F(FormTextTest, NoFrameAndNoCurrentFormGiveNothing) {
 TEST_F(FormTextTest, UnloadedCurrentFormCountsAsNone) {
     loadFrame("Ledgerwick = Something");
     Form& child = loadChild("TF_W2G");
-    prog().g.CurrentForm = &child;
+    prog().g.document.currentForm = &child;
     child.unload();
     EXPECT_EQ(errorFormText(), "Name    = \r\nCaption = Something");
 }

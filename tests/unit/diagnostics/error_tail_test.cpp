@@ -131,7 +131,7 @@ TEST(RaiseDataError, CarriesNumberTextAndSource) {
 }
 
 TEST_F(DiagnosticsTest, DebugModeWritesTheFaultToStandardErrorFirst) {
-    prog().g.bDebug = true;
+    prog().g.process.debug = true;
     ::testing::internal::CaptureStderr();
     runGuarded("M4_FileCode:Read_File", [] { throw AppError(53, "File not found"); });
     const std::string written = ::testing::internal::GetCapturedStderr();
@@ -151,7 +151,7 @@ volatile std::sig_atomic_t trapped = 0;
 void onTrap(int) { trapped = trapped + 1; }
 
 TEST_F(DiagnosticsTest, DebugModeStopsOnlyWithADebuggerAttached) {
-    prog().g.bDebug = true;
+    prog().g.process.debug = true;
     auto previous = std::signal(SIGTRAP, onTrap);
     trapped = 0;
     ::testing::internal::CaptureStderr();

@@ -13,8 +13,8 @@ namespace {
 constexpr Color kGreen = 0x0000C000;
 constexpr Color kPaleGreen = 0x00C0FFC0;
 
-std::string oneButton(const std::string& message, int number = 800) {
-    return MA_MBX("M9_Test:Box", number, message, "OK", false, "", "", "", 1);
+MessageBoxButton oneButton(const std::string& message, int number = kNoMessageNumber) {
+    return showMessageBox({"M9_Test:Box", message, number}).button;
 }
 
 // Words of nine letters and a blank: blanks stand at positions 10, 20, 30 ...
@@ -105,7 +105,7 @@ TEST_F(DiagnosticsTest, LongLineWithoutBlankDoesNotEndTheProgram) {
     const std::string line(60, 'X');
     ui.queueReport("", "exit");
     ui.queueAnswer("OK");
-    EXPECT_EQ(oneButton("Short line\r\n" + line), "OK");
+    EXPECT_EQ(oneButton("Short line\r\n" + line), MessageBoxButton::First);
     // The fault is reported through the tail, then the box shows the line as it is.
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F8_ErrLog", "F9_MBX"}));
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -136,7 +136,11 @@ TEST_F(DiagnosticsTest, SingleButtonShowsAloneInTheDefaultColour) {
 
 TEST_F(DiagnosticsTest, DefaultButtonNumberNoButtonBearsColoursNoneGreen) {
     ui.queueAnswer("Venturo");
-    MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9);
+    showMessageBox({"Ledgerwick - Testing",
+                    "Choose System to Test",
+                    kNoMessageNumber,
+                    {"Venturo", "Other"},
+                    MessageBoxButton::None});
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonVisible, (std::array<bool, 4>{true, true, false, false}));
     EXPECT_EQ(box.buttonColors[0], kPaleGreen);
@@ -147,7 +151,7 @@ TEST_F(DiagnosticsTest, DefaultButtonNumberNoButtonBearsColoursNoneGreen) {
 
 TEST_F(DiagnosticsTest, DefaultFallsOnItsNumberAmongFour) {
     ui.queueAnswer("C");
-    MA_MBX("M9_Test:Box", 800, "Pick", "A", false, "B", "C", "D", 3);
+    showMessageBox({"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "B", "C", "D"}, MessageBoxButton::Third});
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonColors, (std::array<Color, 4>{kPaleGreen, kPaleGreen, kGreen, kPaleGreen}));
     EXPECT_EQ(box.record.buttons, (std::array<std::string, 4>{"A", "B", "C", "D"}));
@@ -155,7 +159,10 @@ TEST_F(DiagnosticsTest, DefaultFallsOnItsNumberAmongFour) {
 
 TEST_F(DiagnosticsTest, HiddenMiddleButtonKeepsTheOthersNumbers) {
     ui.queueAnswer("D");
-    EXPECT_EQ(MA_MBX("M9_Test:Box", 800, "Pick", "A", false, "", "", "D", 4), "D");
+    EXPECT_EQ(showMessageBox(
+                  {"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "", "", "D"}, MessageBoxButton::Fourth})
+                  .button,
+              MessageBoxButton::Fourth);
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonVisible, (std::array<bool, 4>{true, false, false, true}));
     EXPECT_EQ(box.buttonColors[3], kGreen);

@@ -11,8 +11,23 @@
 namespace lw::test {
 namespace {
 
-std::string oneButton(const std::string& message, int number = 800) {
-    return MA_MBX("M9_Test:Box", number, message, "OK", false, "", "", "", 1);
+MessageBoxButton oneButton(const std::string& message, int number = kNoMessageNumber) {
+    return showMessageBox({"M9_Test:Box", message, number}).button;
+}
+
+const MessageBoxRequest kChooseSystem{"Ledgerwick - Testing",
+                                      "Choose System to Test",
+                                      kNoMessageNumber,
+                                      {"Venturo", "Other"},
+                                      MessageBoxButton::None};
+
+// A box with an input line and four buttons.
+MessageBoxRequest askName(const std::string& text) {
+    MessageBoxRequest ask{
+        "M9_Test:Ask", "File name?", kNoMessageNumber, {"Save", "Rename", "Skip", "Cancel"}};
+    ask.showText = true;
+    ask.text = text;
+    return ask;
 }
 
 TEST_F(DiagnosticsTest, FreshBoxHasItsDesignTexts) {
@@ -38,23 +53,34 @@ TEST_F(DiagnosticsTest, LoadNotesTheLabelsDesignHeight) {
     oneButton("Hello");
 }
 
-TEST_F(DiagnosticsTest, AnswerIsTheCaptionOfThePressedButton) {
+TEST_F(DiagnosticsTest, AnswerIsThePlaceOfThePressedButton) {
     ui.queueAnswer("Other");
-    EXPECT_EQ(
-        MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9),
-        "Other");
-    EXPECT_EQ(messageBoxState().answer, "Other");
+    EXPECT_EQ(showMessageBox(kChooseSystem).button, MessageBoxButton::Second);
+    ASSERT_TRUE(lastMessageBox().has_value());
+    EXPECT_EQ(lastMessageBox()->answer, MessageBoxButton::Second);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "Other");
     ui.queueAnswer("Venturo");
-    EXPECT_EQ(
-        MA_MBX("Ledgerwick - Testing", 800, "Choose System to Test", "Venturo", false, "Other", "", "", 9),
-        "Venturo");
+    EXPECT_EQ(showMessageBox(kChooseSystem).button, MessageBoxButton::First);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "Venturo");
+}
+
+TEST_F(DiagnosticsTest, EachOfFourButtonsAnswersWithItsPlace) {
+    const MessageBoxButton places[] = {MessageBoxButton::First, MessageBoxButton::Second,
+                                       MessageBoxButton::Third, MessageBoxButton::Fourth};
+    const MessageBoxRequest pick{"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "B", "C", "D"}};
+    for (int i = 0; i < 4; ++i) {
+        ui.queueAnswer(pick.buttons[static_cast<std::size_t>(i)]);
+        EXPECT_EQ(showMessageBox(pick).button, places[i]) << pick.buttons[static_cast<std::size_t>(i)];
+    }
 }
 
 TEST_F(DiagnosticsTest, BoxLeftWithoutAButtonAnswersNothing) {
+    const MessageBoxRequest ask{"M9_Test:Box", "First", kNoMessageNumber, {"Yes", "No"}};
     ui.queueAnswer("Yes");
-    MA_MBX("M9_Test:Box", 800, "First", "Yes", false, "No", "", "", 1);
+    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::First);
     ui.queue([](Form&) {});
-    EXPECT_EQ(MA_MBX("M9_Test:Box", 800, "Second", "Yes", false, "No", "", "", 1), "");
+    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::None);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "");
     EXPECT_TRUE(prog().desktop.forms().empty());
 }
 
@@ -73,17 +99,21 @@ TEST_F(DiagnosticsTest, Number800AddsNoLine) {
 }
 
 TEST_F(DiagnosticsTest, TitleIsTheCaption) {
-    MA_MBX("F0_MDI:cmdBtn_Click", 801, "x", "OK", false, "", "", "", 1);
+    showMessageBox({"F0_MDI:cmdBtn_Click", "x", 801});
     EXPECT_EQ(ui.boxes.at(0).record.title, "F0_MDI:cmdBtn_Click");
 }
 
 TEST_F(DiagnosticsTest, UnansweredBoxTakesItsDefaultButton) {
-    EXPECT_EQ(MA_MBX("M9_Test:Box", 800, "Save?", "Yes", false, "No", "", "", 2), "No");
+    MessageBoxRequest ask{"M9_Test:Box", "Save?", kNoMessageNumber, {"Yes", "No"}};
+    ask.defaultButton = MessageBoxButton::Second;
+    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::Second);
+    EXPECT_EQ(lastMessageBox()->answerCaption(), "No");
 }
 
 TEST_F(DiagnosticsTest, InputLineShowsTheAnswerTextAndTheFirstTwoButtonsReadItBack) {
-    for (const std::string caption : {"Save", "Rename"}) {
-        messageBoxState().answerText = "OLD NAME";
+    const std::pair<std::string, MessageBoxButton> presses[] = {{"Save", MessageBoxButton::First},
+                                                                {"Rename", MessageBoxButton::Second}};
+    for (const auto& [caption, place] : presses) {
         ui.queue([&](Form& form) {
             auto& box = dynamic_cast<MessageBoxForm&>(form);
             EXPECT_TRUE(box.Text1.visible);
@@ -91,40 +121,46 @@ TEST_F(DiagnosticsTest, InputLineShowsTheAnswerTextAndTheFirstTwoButtonsReadItBa
             box.Text1.text = "NEW NAME";
             ui.press(*box.buttonWithCaption(caption));
         });
-        EXPECT_EQ(MA_MBX("M9_Test:Ask", 800, "File name?", "Save", true, "Rename", "Skip", "Cancel", 1),
-                  caption);
-        EXPECT_EQ(messageBoxState().answerText, "NEW NAME") << caption;
+        const MessageBoxAnswer answer = showMessageBox(askName("OLD NAME"));
+        EXPECT_EQ(answer.button, place) << caption;
+        EXPECT_EQ(answer.text, "NEW NAME") << caption;
+        EXPECT_EQ(lastMessageBox()->answerText, "NEW NAME") << caption;
     }
 }
 
 TEST_F(DiagnosticsTest, ThirdAndFourthButtonsDoNotReadTheInput) {
-    for (const std::string caption : {"Skip", "Cancel"}) {
-        messageBoxState().answerText = "OLD NAME";
+    const std::pair<std::string, MessageBoxButton> presses[] = {{"Skip", MessageBoxButton::Third},
+                                                                {"Cancel", MessageBoxButton::Fourth}};
+    for (const auto& [caption, place] : presses) {
         ui.queue([&](Form& form) {
             auto& box = dynamic_cast<MessageBoxForm&>(form);
             box.Text1.text = "TYPED";
             ui.press(*box.buttonWithCaption(caption));
         });
-        EXPECT_EQ(MA_MBX("M9_Test:Ask", 800, "File name?", "Save", true, "Rename", "Skip", "Cancel", 1),
-                  caption);
-        EXPECT_EQ(messageBoxState().answerText, "OLD NAME") << caption;
+        const MessageBoxAnswer answer = showMessageBox(askName("OLD NAME"));
+        EXPECT_EQ(answer.button, place) << caption;
+        EXPECT_EQ(answer.text, "OLD NAME") << caption;
     }
 }
 
 TEST_F(DiagnosticsTest, WithoutTheInputFlagTheInputIsHiddenAndNotRead) {
-    messageBoxState().answerText = "KEEP";
+    MessageBoxRequest ask{"M9_Test:Box", "No input"};
+    ask.text = "KEEP";
     ui.queue([&](Form& form) {
         auto& box = dynamic_cast<MessageBoxForm&>(form);
         EXPECT_FALSE(box.Text1.visible);
         box.Text1.text = "TYPED";
         ui.press(box.cmd1);
     });
-    oneButton("No input");
-    EXPECT_EQ(messageBoxState().answerText, "KEEP");
+    const MessageBoxAnswer answer = showMessageBox(ask);
+    EXPECT_EQ(answer.button, MessageBoxButton::First);
+    EXPECT_EQ(answer.text, "KEEP");
 }
 
 TEST_F(DiagnosticsTest, InputSitsBelowTheGrownLabel) {
-    MA_MBX("M9_Test:Ask", 802, "Two\r\nlines", "OK", true, "", "", "", 1);
+    MessageBoxRequest ask{"M9_Test:Ask", "Two\r\nlines", 802};
+    ask.showText = true;
+    showMessageBox(ask);
     const SeenBox& box = ui.boxes.at(0);
     // Three lines with the number line.
     EXPECT_EQ(box.text1Top, 240 + 3 * 255 + 100 + 100);
@@ -148,14 +184,15 @@ TEST_F(DiagnosticsTest, ObserversSeeEachBoxWithItsAnswer) {
     std::vector<MessageBoxRecord> seen;
     const int id = addMessageBoxObserver([&](const MessageBoxRecord& r) { seen.push_back(r); });
     ui.queueAnswer("No");
-    MA_MBX("F7_Save:Ask", 804, "Replace?", "Yes", false, "No", "", "", 1);
+    showMessageBox({"F7_Save:Ask", "Replace?", 804, {"Yes", "No"}});
     removeMessageBoxObserver(id);
     oneButton("Not seen");
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0].title, "F7_Save:Ask");
     EXPECT_EQ(seen[0].number, 804);
     EXPECT_EQ(seen[0].message, "Message Number: 804\r\nReplace?");
-    EXPECT_EQ(seen[0].answer, "No");
+    EXPECT_EQ(seen[0].answer, MessageBoxButton::Second);
+    EXPECT_EQ(seen[0].answerCaption(), "No");
     ASSERT_TRUE(lastMessageBox().has_value());
     EXPECT_EQ(lastMessageBox()->message, "Not seen");
     EXPECT_EQ(seen[0].icon, MessageBoxIcon::Information);
@@ -164,7 +201,7 @@ TEST_F(DiagnosticsTest, ObserversSeeEachBoxWithItsAnswer) {
 TEST_F(DiagnosticsTest, FaultShowingTheBoxGoesToTheTailAndAnswersNothing) {
     ui.failNextShowingOf = "F9_MBX";
     ui.failureText = "view failed";
-    EXPECT_EQ(oneButton("x"), "");
+    EXPECT_EQ(oneButton("x"), MessageBoxButton::None);
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->module, "M2_VenturoCommon:MA_MBX");
     EXPECT_EQ(lastErrorReport()->description, "view failed");

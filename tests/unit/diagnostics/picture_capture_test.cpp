@@ -20,19 +20,19 @@ public:
 
 TEST_F(DiagnosticsTest, PictureOfTheFormGoesToTheClipboard) {
     Form& w2 = prog().desktop.load(std::make_unique<Form>("TF_W2"));
-    CopyEntirePicture(w2);
+    copyEntirePicture(w2);
     ASSERT_EQ(ui.pictures.size(), 1u);
     EXPECT_EQ(ui.pictures[0].formName, "TF_W2");
     // No waits around the copy.
     EXPECT_TRUE(platform.sleeps.empty());
 }
 
-TEST(CopyEntirePicture, FailedCopyReportsNothing) {
+TEST(copyEntirePicture, FailedCopyReportsNothing) {
     FailingCopyUi ui;
     FakePlatform platform;
     Program program(ui, platform);
     Form& w2 = program.desktop.load(std::make_unique<Form>("TF_W2"));
-    EXPECT_NO_THROW(CopyEntirePicture(w2));
+    EXPECT_NO_THROW(copyEntirePicture(w2));
     EXPECT_EQ(ui.attempts, 1);
     EXPECT_TRUE(ui.modalForms.empty());
 }

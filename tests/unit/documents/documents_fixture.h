@@ -95,8 +95,7 @@ struct Documents : ::testing::Test {
     void SetUp() override {
         registerSmallForms();
         test.start();
-        g.TaxYears = {"2024", "2025", "2026", "20XX"};
-        g.TaxYearIndex = 1;
+        g.taxYear = TaxYearChoice(2025);
         files = test.root / "cases";
         std::filesystem::create_directories(files);
         test.ui.boxes.clear();
@@ -104,7 +103,7 @@ struct Documents : ::testing::Test {
     }
 
     Form& open(const std::string& name) {
-        g.CurrentFileName.clear();
+        g.document.currentFileName.clear();
         Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
         return *form;
@@ -133,7 +132,9 @@ struct Documents : ::testing::Test {
         if (!form) throw std::runtime_error("no form is on the screen");
         return form->at(name, index);
     }
-    std::string userInf(const std::string& key) { return store::ReadINF("TESTER", key, "", g.UserInfFile); }
+    std::string userInf(const std::string& key) {
+        return store::readInfValue("TESTER", key, "", g.edition.userInfFile);
+    }
 };
 
 }  // namespace lw::testing

@@ -12,14 +12,15 @@ constexpr const char* kOpenTitle = "Select File, Press OPEN button -OR - Press D
 constexpr const char* kSaveTitle =
     "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
 
-TEST_F(FileDialogs, CancelGivesTheSeparator) {
-    EXPECT_EQ(OpenOrSaveFile(0, ""), D);
-    EXPECT_EQ(OpenOrSaveFile(1, "A.venturo"), D);
+TEST_F(FileDialogs, CancelGivesNoPath) {
+    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), std::nullopt);
+    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Save, "A.venturo"), std::nullopt);
+    EXPECT_EQ(test.ui.fileDialogs.size(), 2u);
 }
 
 TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
-    store::SaveINF("TESTER", "LastOpenFolder", files.string(), g.UserInfFile);
-    OpenOrSaveFile(0, "ignored.venturo");
+    store::writeInfValue("TESTER", "LastOpenFolder", files.string(), g.edition.userInfFile);
+    chooseFileToOpenOrSave(FileDialogMode::Open, "ignored.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
     EXPECT_FALSE(asked.save);
@@ -31,8 +32,8 @@ TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
 }
 
 TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
-    store::SaveINF("TESTER", "LastSaveFolder", "/somewhere/saved", g.UserInfFile);
-    OpenOrSaveFile(1, "DOE,JOHN_W2_000.venturo");
+    store::writeInfValue("TESTER", "LastSaveFolder", "/somewhere/saved", g.edition.userInfFile);
+    chooseFileToOpenOrSave(FileDialogMode::Save, "DOE,JOHN_W2_000.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
     EXPECT_TRUE(asked.save);
@@ -43,52 +44,54 @@ TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
 
 TEST_F(FileDialogs, ANameLongerThanTheBufferIsNotOfferedWhole) {
     const std::string longName = std::string(300, 'N') + ".venturo";
-    OpenOrSaveFile(1, longName);
+    chooseFileToOpenOrSave(FileDialogMode::Save, longName);
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, std::string(256, 'N'));
 }
 
 TEST_F(FileDialogs, AnEmptyFolderFallsBackToTheTaxFormsFolderThenToTheDialogsOwn) {
-    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
-    OpenOrSaveFile(0, "");
-    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
-    OpenOrSaveFile(0, "");
+    store::writeInfValue("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
+    chooseFileToOpenOrSave(FileDialogMode::Open, "");
+    store::writeInfValue("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
+    chooseFileToOpenOrSave(FileDialogMode::Open, "");
     ASSERT_EQ(test.ui.fileDialogs.size(), 2u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "") << "the dialog's own default";
     EXPECT_EQ(test.ui.fileDialogs[1].startFolder, "/training/forms");
 }
 
 TEST_F(FileDialogs, ASaveInANewFolderMovesOnlyTheSaveFolder) {
-    store::SaveINF("TESTER", "LastOpenFolder", "/open/here", g.UserInfFile);
-    store::SaveINF("TESTER", "LastSaveFolder", "/save/here", g.UserInfFile);
+    store::writeInfValue("TESTER", "LastOpenFolder", "/open/here", g.edition.userInfFile);
+    store::writeInfValue("TESTER", "LastSaveFolder", "/save/here", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/new/place/DOE_W2_000.venturo");
-    EXPECT_EQ(OpenOrSaveFile(1, "DOE_W2_000.venturo"), "/new/place/DOE_W2_000.venturo");
+    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Save, "DOE_W2_000.venturo"),
+              "/new/place/DOE_W2_000.venturo");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
-    EXPECT_EQ(g.LastSaveFolder, "/new/place");
+    EXPECT_EQ(g.choices.lastSaveFolder, "/new/place");
     EXPECT_EQ(userInf("LastOpenFolder"), "/open/here");
 
     test.ui.fileAnswers.push_back("/elsewhere/x.venturo");
-    OpenOrSaveFile(0, "");
+    chooseFileToOpenOrSave(FileDialogMode::Open, "");
     EXPECT_EQ(userInf("LastOpenFolder"), "/elsewhere");
-    EXPECT_EQ(g.LastOpenFolder, "/elsewhere");
+    EXPECT_EQ(g.choices.lastOpenFolder, "/elsewhere");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
 }
 
 TEST_F(FileDialogs, TheSameFolderAsTheStartIsNotWritten) {
-    store::SaveINF("TESTER", "LastOpenFolder", "", g.UserInfFile);
-    store::SaveINF("TaxForms", "Folder", "/training/forms", g.UserInfFile);
+    store::writeInfValue("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
+    store::writeInfValue("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/training/forms/a.venturo");
-    EXPECT_EQ(OpenOrSaveFile(0, ""), "/training/forms/a.venturo");
+    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), "/training/forms/a.venturo");
     EXPECT_EQ(userInf("LastOpenFolder"), "") << "the folder equals the start folder of the fall-back";
 }
 
 TEST_F(FileDialogs, TheAnswerIsCutAtItsFirstNul) {
     test.ui.fileAnswers.push_back(std::string("/cut/here.venturo\0rest", 22));
-    EXPECT_EQ(OpenOrSaveFile(0, ""), "/cut/here.venturo");
+    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), "/cut/here.venturo");
 }
 
 TEST_F(FileDialogs, AFolderThatHasGoneIsForgottenBeforeTheOpenDialog) {
-    store::SaveINF("TESTER", "LastOpenFolder", (test.root / "vanished").string(), g.UserInfFile);
+    store::writeInfValue("TESTER", "LastOpenFolder", (test.root / "vanished").string(),
+                         g.edition.userInfFile);
     openDataFile();
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "");

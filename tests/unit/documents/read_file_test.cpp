@@ -16,27 +16,32 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
     form.at("Text1", 0).text = "MARY A SAMPLE\r\n12 MAIN ST";
     form.at("Text1", 3).text = "1,234.00";
     form.at("Check", 2).caption = "X";
-    const std::string path = write("w2.venturo", buildRecord() + "\r\n");
+    const std::string path = write("w2.venturo", buildRecord().value() + "\r\n");
     open("F4_CHK");
     openFile(path);
     ASSERT_NE(active(), nullptr);
     EXPECT_EQ(active()->name(), "TF_W2");
-    EXPECT_EQ(g.CurrentForm, active());
+    EXPECT_EQ(g.document.currentForm, active());
     EXPECT_EQ(field("Text1", 0).text, "MARY A SAMPLE\r\n12 MAIN ST");
     EXPECT_EQ(field("Text1", 3).text, "1,234.00");
     EXPECT_EQ(field("Check", 2).caption, "X");
     EXPECT_EQ(field("labelMisc").caption, path);
     EXPECT_EQ(field("labelMisc").foreColor, 255u);
-    EXPECT_EQ(g.CurrentFileName, path);
+    EXPECT_EQ(g.document.currentFileName, path);
     EXPECT_TRUE(test.ui.boxes.empty());
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
-TEST_F(ReadFile, ReturnsTheTitleOfTheForm) {
-    g.CurrentFileName = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=A\r\n");
-    EXPECT_EQ(readDataFile(), "TF_W2");
-    g.CurrentFileName.clear();
-    EXPECT_EQ(readDataFile(), "") << "no file, nothing read";
+TEST_F(ReadFile, ReturnsTheFormItFilled) {
+    g.document.currentFileName = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=A\r\n");
+    Form* read = readDataFile();
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(read, active());
+    EXPECT_EQ(read->name(), "TF_W2");
+    EXPECT_EQ(g.document.catalogue.formTitle, "TF_W2");
+    EXPECT_EQ(read->at("Text1", 0).text, "A");
+    g.document.currentFileName.clear();
+    EXPECT_EQ(readDataFile(), nullptr) << "no file, nothing read";
 }
 
 TEST_F(ReadFile, TheFileNamesTheFormWhateverIsOnTheScreenAndTheYearInForceStays) {
@@ -100,7 +105,7 @@ TEST_F(ReadFile, AnOldCardFileIsRewrittenInPlaceBeforeAnythingElse) {
     ASSERT_NE(active(), nullptr);
     EXPECT_EQ(active()->name(), "F2_SS_ITIN");
     EXPECT_EQ(field("Text1", 1).text, "JOHN GLASS_ITIN") << "a value ending in ss is changed too";
-    EXPECT_EQ(field("Image1", 0).picture, g.PicturesFolder + "/SSN.jpg");
+    EXPECT_EQ(field("Image1", 0).picture, g.edition.picturesFolder + "/SSN.jpg");
 }
 
 TEST_F(ReadFile, AnOldCardFileIsRewrittenBeforeAFaultOfItsFields) {
@@ -124,7 +129,7 @@ TEST_F(ReadFile, AnUnknownFormLeavesNoFormAndSaysWhy) {
     const std::string path = write("odd.venturo", "NOPE" + D + "2025" + D + "TXT0=A\r\n");
     openFile(path);
     EXPECT_EQ(active(), nullptr);
-    EXPECT_EQ(g.CurrentForm, nullptr);
+    EXPECT_EQ(g.document.currentForm, nullptr);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(test.ui.boxes[0].find("NOPE"), std::string::npos);
     EXPECT_NE(test.ui.boxes[0].find(path), std::string::npos);
@@ -152,8 +157,8 @@ TEST_F(ReadFile, FilesThatAreNoRecordAreRefusedUnchangedWithAMessage) {
         Form* before = active();
         test.ui.boxes.clear();
         const std::string path = write(file.name, file.bytes);
-        g.CurrentFileName = path;
-        EXPECT_EQ(readDataFile(), "");
+        g.document.currentFileName = path;
+        EXPECT_EQ(readDataFile(), nullptr);
         EXPECT_EQ(active(), before) << "nothing is unloaded for a file that is no record";
         EXPECT_EQ(contents(path), file.bytes);
         ASSERT_EQ(test.ui.boxes.size(), 1u);
@@ -174,7 +179,7 @@ TEST_F(ReadFile, CancelInOpenModeLeavesNoForm) {
     open("TF_W2");
     openDataFile();
     EXPECT_EQ(active(), nullptr);
-    EXPECT_EQ(g.CurrentFileName, D);
+    EXPECT_EQ(g.document.currentFileName, D);
     EXPECT_TRUE(test.ui.boxes.empty());
     EXPECT_TRUE(test.ui.reports.empty());
 }
@@ -213,7 +218,7 @@ TEST_F(ReadFile, TheLicenseGetsItsPicturesBack) {
     auto& license = dynamic_cast<SmallLicenseForm&>(*active());
     EXPECT_EQ(license.license1PictureIndex, 7);
     EXPECT_EQ(license.license2PictureIndex, 0);
-    EXPECT_EQ(license.at("Picture2").picture, g.PicturesFolder + "/P7GS.jpg");
+    EXPECT_EQ(license.at("Picture2").picture, g.edition.picturesFolder + "/P7GS.jpg");
     EXPECT_EQ(license.at("Picture4").picture, "");
     EXPECT_EQ(buildRecord(), "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0");
 }
@@ -221,13 +226,13 @@ TEST_F(ReadFile, TheLicenseGetsItsPicturesBack) {
 TEST_F(ReadFile, TheCardsShowTheirKindByTheFirstDigit) {
     openFile(write("cards.venturo", "SS_ITIN" + D + D + "TXT0=912-70-1234" + D + "TXT1=A" + D +
                                         "TXT2=123-45-6789" + D + "TXT3=B\r\n"));
-    EXPECT_EQ(field("Image1", 0).picture, g.PicturesFolder + "/ITIN.jpg");
-    EXPECT_EQ(field("Image1", 1).picture, g.PicturesFolder + "/SSN.jpg");
+    EXPECT_EQ(field("Image1", 0).picture, g.edition.picturesFolder + "/ITIN.jpg");
+    EXPECT_EQ(field("Image1", 1).picture, g.edition.picturesFolder + "/SSN.jpg");
     EXPECT_EQ(field("Image1", 2).picture, "");
 }
 
 TEST_F(ReadFile, TheTaxpayerSheetRefreshesTheStoreAndTheAges) {
-    store::SaveINF("TESTER", "Dependent1", "KEPT" + D + "111", g.UserInfFile);
+    store::writeInfValue("TESTER", "Dependent1", "KEPT" + D + "111", g.edition.userInfFile);
     openFile(write("tp.venturo", "TPINFO" + D + "2025" + D + "TXT0=MARY A SAMPLE" + R + "12 MAIN ST" + D +
                                      "TXT1=123-45-6789" + D + "TXT2=01/15/1980" + D + "TXT3=JOHN" + D +
                                      "TXT8=12/31/2000" + D + "TXT34=555-1212\r\n"));
@@ -246,7 +251,7 @@ TEST_F(ReadFile, TheTaxpayerSheetRefreshesTheStoreAndTheAges) {
 }
 
 TEST_F(ReadFile, AgesReadNotApplicableInThePlaceholderYear) {
-    g.TaxYearIndex = 3;
+    g.taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
     openFile(write("tp.venturo", "TPINFO" + D + "20XX" + D + "TXT2=01/15/1980\r\n"));
     EXPECT_EQ(field("Text2", 0).text, "N/A");
 }

@@ -26,10 +26,16 @@ struct StartedProgram : ::testing::TestWithParam<std::string> {
     // Saves the open form to a file of that name, unloads it and opens the file: the form read back.
     Form* saveAndReadBack(Form& form, const std::string& fileName) {
         const std::string path = (test.root / fileName).string();
-        std::ofstream(path, std::ios::binary) << buildRecord() << "\r\n";
+        std::ofstream(path, std::ios::binary) << buildRecord().value_or("") << "\r\n";
         form.unload();
-        test.program->g.CurrentFileName = path;
-        EXPECT_EQ(readDataFile(), GetParam());
+        test.program->g.document.currentFileName = path;
+        const Form* read = readDataFile();
+        EXPECT_NE(read, nullptr);
+        if (read) {
+            EXPECT_EQ(read->name(), GetParam());
+        }
+        EXPECT_EQ(test.program->g.document.catalogue.formTitle, GetParam());
+        EXPECT_EQ(read, test.program->desktop.activeChild());
         return test.program->desktop.activeChild();
     }
 };

@@ -169,34 +169,37 @@ TEST_F(SaveFormTest, ABlankNameIsRestoredAndTheFormStays) {
 
 TEST_F(SaveFormTest, TheSameNameInAnotherCaseKeepsThePath) {
     SaveForm& form = loadExisting("Doe_000.venturo");
+    const auto outcome = form.outcome();
     retype(form, "DOE_000");
     desktop.click(form.cmdSave);
     EXPECT_FALSE(isOpen());
-    EXPECT_EQ(g.SaveResult, kSaveResultWrite);
+    EXPECT_EQ(*outcome, SaveOutcome::WriteSamePath);
     EXPECT_EQ(filesIn(folder), 1);
     EXPECT_EQ(readFile(folder / "Doe_000.venturo"), "OLD\r\n");
 }
 
 TEST_F(SaveFormTest, UnchangedNameKeepsThePath) {
     SaveForm& form = loadExisting("A_000.venturo");
+    const auto outcome = form.outcome();
     desktop.click(form.cmdSave);
-    EXPECT_EQ(g.SaveResult, kSaveResultWrite);
+    EXPECT_EQ(*outcome, SaveOutcome::WriteSamePath);
     EXPECT_FALSE(isOpen());
 }
 
 TEST_F(SaveFormTest, ANewNameWritesTheRebuiltRecordThereAndRemovesTheOldFile) {
     // The form on the screen is the configuration form, whose line the rename rebuilds.
     ASSERT_NE(openCatalogueForm("F1_Configure"), nullptr);
-    g.FormRecord = "stale";
+    g.document.formRecord = "stale";
     SaveForm& form = loadExisting("A_000.venturo");
+    const auto outcome = form.outcome();
     retype(form, "B_000");
     desktop.click(form.cmdSave);
     EXPECT_FALSE(isOpen());
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
+    EXPECT_EQ(*outcome, SaveOutcome::Done);
     EXPECT_FALSE(fs::exists(folder / "A_000.venturo"));
-    EXPECT_NE(g.FormRecord, "stale");
-    EXPECT_EQ(g.FormRecord.rfind("CONFIGURE\xB7", 0), 0u) << g.FormRecord;
-    EXPECT_EQ(readFile(folder / "B_000.venturo"), g.FormRecord + "\r\n");
+    EXPECT_NE(g.document.formRecord, "stale");
+    EXPECT_EQ(g.document.formRecord.rfind("CONFIGURE\xB7", 0), 0u) << g.document.formRecord;
+    EXPECT_EQ(readFile(folder / "B_000.venturo"), g.document.formRecord + "\r\n");
     EXPECT_EQ(filesIn(folder), 1);
 }
 
@@ -233,59 +236,74 @@ TEST_F(SaveFormTest, OnlyAnUnderscoreAndThreeDigitsMakeASequence) {
 }
 
 TEST_F(SaveFormTest, NewSequenceWritesTheRecordUnderTheNextName) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7TXT13=JOHN DOE";
     writeFile(folder / "DOE_999.venturo", "OLD\r\n");
     SaveForm& form = loadExisting("DOE_998.venturo");
+    const auto outcome = form.outcome();
     desktop.click(form.cmdNewSequence);
     EXPECT_FALSE(isOpen());
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
-    EXPECT_EQ(readFile(folder / "DOE_1000.venturo"), g.FormRecord + "\r\n");
+    EXPECT_EQ(*outcome, SaveOutcome::Done);
+    EXPECT_EQ(readFile(folder / "DOE_1000.venturo"), g.document.formRecord + "\r\n");
     EXPECT_EQ(readFile(folder / "DOE_998.venturo"), "OLD\r\n");
     EXPECT_EQ(readFile(folder / "DOE_999.venturo"), "OLD\r\n");
 }
 
 TEST_F(SaveFormTest, NewSequenceFollowsTheTypedName) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7";
     SaveForm& form = loadExisting("DOE_000.venturo");
     retype(form, "SMITH_010");
     desktop.click(form.cmdNewSequence);
-    EXPECT_EQ(readFile(folder / "SMITH_011.venturo"), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(folder / "SMITH_011.venturo"), g.document.formRecord + "\r\n");
 }
 
 TEST_F(SaveFormTest, NoSequenceForAShortNumberWritesNothingAndSaysSo) {
-    g.FormRecord =
+    g.document.formRecord =
         "W-2\xB7"
         "2025\xB7";
     SaveForm& form = loadExisting("ABC_12.venturo");
+    const auto outcome = form.outcome();
     desktop.click(form.cmdNewSequence);
     EXPECT_EQ(filesIn(folder), 1);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(lastBox().find("Nothing was saved"), std::string::npos) << lastBox();
     EXPECT_TRUE(test.ui.reports.empty());
     EXPECT_TRUE(isOpen());
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
+    EXPECT_EQ(*outcome, SaveOutcome::Done);
 }
 
 TEST_F(SaveFormTest, ExitWritesNothing) {
-    g.SaveResult = kSaveResultWrite;
     SaveForm& form = loadExisting("A_000.venturo");
+    const auto outcome = form.outcome();
     retype(form, "B_000");
     desktop.click(form.cmdExit);
     EXPECT_FALSE(isOpen());
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
+    EXPECT_EQ(*outcome, SaveOutcome::Done);
     EXPECT_EQ(filesIn(folder), 1);
     EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
 }
 
 TEST_F(SaveFormTest, ClosingTheFormAnyOtherWayWritesNothing) {
-    g.SaveResult = kSaveResultWrite;
     SaveForm& form = loadExisting("A_000.venturo");
+    const auto outcome = form.outcome();
     form.unload();
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
+    EXPECT_EQ(*outcome, SaveOutcome::Done);
+    EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
+}
+
+TEST_F(SaveFormTest, RunTellsHowTheFormEnded) {
+    writeFile(folder / "A_000.venturo", "OLD\r\n");
+    const std::string path = (folder / "A_000.venturo").string();
+    test.ui.saveFormPresses = {"cmdSave", "cmdExit"};
+    EXPECT_EQ(SaveForm::run(path), SaveOutcome::WriteSamePath);
+    EXPECT_EQ(SaveForm::run(path), SaveOutcome::Done);
+    // Left with no button pressed.
+    EXPECT_EQ(SaveForm::run(path), SaveOutcome::Done);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
 }
 
 TEST_F(SaveFormTest, TheExtensionIsShownNotTyped) {

@@ -92,7 +92,9 @@ struct Saving : ::testing::Test {
     }
 
     fs::path forms() const { return test.root / "VenturoForms"; }
-    void useTemplate(int i) { g.FileNameFormat = std::string(kTemplates[i]) + g.FileExtension; }
+    void useTemplate(int i) {
+        g.choices.fileNameFormat = std::string(kTemplates[i]) + g.edition.fileExtension;
+    }
     Form& open(const std::string& name) {
         Form* form = openCatalogueForm(name);
         EXPECT_NE(form, nullptr) << name;
@@ -107,8 +109,8 @@ struct Saving : ::testing::Test {
         set(form, 4, "ABC PLUMBING");
         return form;
     }
-    std::string name(int& focus) { return proposeFileName(focus); }
-    std::string name() {
+    std::optional<std::string> name(int& focus) { return proposeFileName(focus); }
+    std::optional<std::string> name() {
         int focus = -1;
         return proposeFileName(focus);
     }
@@ -147,14 +149,14 @@ TEST_F(Saving, FirstNameFirstKeepsTheWholeCleanedLine) {
 
 TEST_F(Saving, NamingAlsoFillsTheRecord) {
     w2();
-    g.FormRecord = "stale";
+    g.document.formRecord = "stale";
     name();
-    EXPECT_EQ(g.FormRecord.rfind("W-2\xB7", 0), 0u) << g.FormRecord;
-    EXPECT_NE(g.FormRecord.find("ABC PLUMBING"), std::string::npos);
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u) << g.document.formRecord;
+    EXPECT_NE(g.document.formRecord.find("ABC PLUMBING"), std::string::npos);
 }
 
 TEST_F(Saving, WithNoTemplateChosenTheFirstIsTaken) {
-    g.FileNameFormat.clear();
+    g.choices.fileNameFormat.clear();
     w2();
     EXPECT_EQ(name(), "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
 }
@@ -168,11 +170,11 @@ TEST_F(Saving, TheFieldBeingLeftIsEditedBeforeTheRecordIsMade) {
     number.text = "123456789";
     name();
     EXPECT_EQ(number.text, "123-45-6789");
-    EXPECT_NE(g.FormRecord.find("TXT0=123-45-6789"), std::string::npos) << g.FormRecord;
+    EXPECT_NE(g.document.formRecord.find("TXT0=123-45-6789"), std::string::npos) << g.document.formRecord;
 }
 
 TEST_F(Saving, PlaceholdersAreFoundInAnyCase) {
-    g.FileNameFormat = "<last>_<First>_<FORM>_<Other>_<seq>.venturo";
+    g.choices.fileNameFormat = "<last>_<First>_<FORM>_<Other>_<seq>.venturo";
     w2();
     EXPECT_EQ(name(), "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
 }
@@ -201,7 +203,7 @@ TEST_F(Saving, ARetirementFormWithABlankPayerHasNoDoubledSeparator) {
     set(form, 4, "123-45-6789");
     for (int i = 0; i < 4; ++i) {
         useTemplate(i);
-        const std::string n = name();
+        const std::string n = name().value_or("");
         EXPECT_EQ(n.find("__"), std::string::npos) << n;
         EXPECT_NE(n.find("_000.venturo"), std::string::npos) << n;
     }
@@ -232,7 +234,7 @@ TEST_F(Saving, TwoCardsNameTheFileAfterBothPeopleAsTyped) {
     set(form, 3, "JOHN B SAMPLE");
     useTemplate(1);
     EXPECT_EQ(name(), "SS_ITIN_MARY A SAMPLE_JOHN B SAMPLE_000");
-    EXPECT_EQ(g.FormRecord.rfind("SS_ITIN\xB7\xB7", 0), 0u) << g.FormRecord;
+    EXPECT_EQ(g.document.formRecord.rfind("SS_ITIN\xB7\xB7", 0), 0u) << g.document.formRecord;
 }
 
 TEST_F(Saving, OneCardNamesOnePerson) {
@@ -242,11 +244,20 @@ TEST_F(Saving, OneCardNamesOnePerson) {
     EXPECT_EQ(name(), "SS_ITIN_MARY A SAMPLE_000");
 }
 
+TEST_F(Saving, CardsThatDoNotPairUpProposeNoName) {
+    Form& form = open("F2_SS_ITIN");
+    set(form, 0, "123-45-6789");
+    EXPECT_EQ(name(), std::nullopt);
+    EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
+    ASSERT_EQ(test.ui.boxes.size(), 1u);
+    EXPECT_NE(lastBox().find("One or more SS or ITIN cards has a Number without a Name"), std::string::npos);
+}
+
 TEST_F(Saving, NameIsMandatory) {
     Form& form = w2("");
     set(form, 0, "");
     int focus = -1;
-    EXPECT_EQ(name(focus), "");
+    EXPECT_EQ(name(focus), std::nullopt);
     EXPECT_EQ(focus, 0);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos) << lastBox();
@@ -258,7 +269,7 @@ TEST_F(Saving, TheNumberIsMandatoryAndTakesTheFocus) {
     Form& form = open("TF_1099R");
     set(form, 7, "MARY SAMPLE");
     int focus = -1;
-    EXPECT_EQ(name(focus), "");
+    EXPECT_EQ(name(focus), std::nullopt);
     EXPECT_EQ(focus, 4);
     EXPECT_NE(lastBox().find("Social Security/Taxpayer ID Number is MANDATORY"), std::string::npos)
         << lastBox();
@@ -284,7 +295,7 @@ TEST_F(Saving, TheLicensesNameTheSecondHolderLastNameFirst) {
 
 TEST_F(Saving, TheBenefitStatementTakesItsNameFromTheFirstField) {
     Form& form = open("TF_SSA1099");
-    ASSERT_EQ(g.FormKey, "SSA1099");
+    ASSERT_EQ(g.document.formKey, "SSA1099");
     set(form, 0, "JOHN DOE");
     set(form, 1, "123-45-6789");
     EXPECT_EQ(name(), "DOE,JOHN_SSA1099_000.venturo");
@@ -303,13 +314,13 @@ struct SavingK1 : Saving, ::testing::WithParamInterface<K1Case> {};
 TEST_P(SavingK1, BothNumberAndNameAreRequiredNumberFirst) {
     const K1Case& c = GetParam();
     Form& form = open(c.form);
-    const int numberIndex = std::stoi(g.SSNIndex);
-    const int nameIndex = std::stoi(g.NameAddrIndex);
+    const int numberIndex = std::stoi(g.document.catalogue.ssnIndex);
+    const int nameIndex = std::stoi(g.document.catalogue.nameAddrIndex);
     if (!c.numberMissing) set(form, numberIndex, "123-45-6789");
     Control* tabs = form.find("SSTab1");
     if (tabs) tabs->listIndex = 1 - c.tab;
     int focus = -1;
-    EXPECT_EQ(name(focus), "Error K1");
+    EXPECT_EQ(name(focus), std::nullopt);
     ASSERT_EQ(test.ui.boxes.size(), 1u);
     EXPECT_NE(lastBox().find(c.message), std::string::npos) << lastBox();
     if (*c.numberLine) {
@@ -351,15 +362,15 @@ TEST_F(Saving, SaveWritesTheRecordAndOneLineEndWhereTheDialogSays) {
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_TRUE(test.ui.fileDialogs[0].save);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
-    EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
-    EXPECT_EQ(g.FormRecord.rfind("W-2\xB7", 0), 0u);
-    Form& form = *g.CurrentForm;
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u);
+    Form& form = *g.document.currentForm;
     // The path goes on the status line in red; the field the operator is sent back to then puts its tip
     // there, and the red stays.
     EXPECT_EQ(form.at("labelMisc").caption, form.at("Text1", 0).toolTipText);
     EXPECT_EQ(form.at("labelMisc").foreColor, 255u);
     // The path is not kept: the next Save of the form asks again.
-    EXPECT_EQ(g.CurrentFileName, "");
+    EXPECT_EQ(g.document.currentFileName, "");
     EXPECT_EQ(test.program->desktop.focus(), &form.at("Text1", 0));
     EXPECT_TRUE(test.ui.boxes.empty());
 }
@@ -383,10 +394,10 @@ TEST_F(Saving, CancelWritesNothing) {
 TEST_F(Saving, AnOpenedFileIsSavedWithoutADialog) {
     w2();
     const fs::path path = forms() / "opened.venturo";
-    g.CurrentFileName = path.string();
+    g.document.currentFileName = path.string();
     saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
-    EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
 }
 
 TEST_F(Saving, ANamingErrorAsksForNoPath) {
@@ -396,7 +407,7 @@ TEST_F(Saving, ANamingErrorAsksForNoPath) {
     EXPECT_EQ(filesIn(forms()), 0);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos);
     // The naming chose the first field to go back to.
-    EXPECT_EQ(test.program->desktop.focus(), &g.CurrentForm->at("Text1", 0));
+    EXPECT_EQ(test.program->desktop.focus(), &g.document.currentForm->at("Text1", 0));
 }
 
 TEST_F(Saving, TheNumberErrorSendsTheOperatorToTheNumber) {
@@ -411,8 +422,9 @@ TEST_F(Saving, CardsThatDoNotPairUpAreNotSaved) {
     Form& form = open("F2_SS_ITIN");
     set(form, 0, "123-45-6789");
     test.ui.fileAnswers.push_back((forms() / "cards.venturo").string());
+    g.document.formRecord = "stale";
     saveDataFile();
-    EXPECT_EQ(g.FormRecord, "Error SS_ITIN");
+    EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
 }
@@ -424,8 +436,21 @@ TEST_F(Saving, AnExistingFileLeftWithoutAnAnswerIsKept) {
     test.ui.fileAnswers.push_back(path.string());
     saveDataFile();
     EXPECT_EQ(readFile(path), "OLD\r\n");
-    EXPECT_EQ(g.SaveResult, kSaveResultDone);
-    EXPECT_NE(g.CurrentForm->at("labelMisc").foreColor, 255u);
+    EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::Done);
+    EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
+}
+
+TEST_F(Saving, AnExistingFileKeptUnderItsNameIsOverwritten) {
+    w2();
+    const fs::path path = forms() / "kept.venturo";
+    std::ofstream(path, std::ios::binary) << "OLD\r\n";
+    test.ui.fileAnswers.push_back(path.string());
+    test.ui.saveFormPresses = {"cmdSave"};
+    saveDataFile();
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
+    EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u);
+    EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::WriteSamePath);
+    EXPECT_EQ(g.document.currentForm->at("labelMisc").foreColor, 255u);
 }
 
 TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
@@ -438,8 +463,8 @@ TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
     EXPECT_NE(lastBox().find(gone.string()), std::string::npos) << lastBox();
     // The dialog remembered the folder; the check forgets it again, as it is gone.
-    EXPECT_EQ(store::ReadINF(g.UserNameUC, "LastSaveFolder", "?", g.UserInfFile), "");
-    EXPECT_NE(g.CurrentForm->at("labelMisc").foreColor, 255u);
+    EXPECT_EQ(store::readInfValue(g.process.userNameUpper, "LastSaveFolder", "?", g.edition.userInfFile), "");
+    EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
     EXPECT_TRUE(test.ui.reports.empty());
 }
 
@@ -457,7 +482,9 @@ TEST_F(Saving, AFailedWriteIsToldAndLeavesNoPieceBehind) {
 }
 
 TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
-    const auto store = [&](const char* key) { return store::ReadINF(g.UserNameUC, key, "?", g.UserInfFile); };
+    const auto store = [&](const char* key) {
+        return store::readInfValue(g.process.userNameUpper, key, "?", g.edition.userInfFile);
+    };
     Form& form = open("F5_TPInfo");
     set(form, 0, "JOHN DOE");
     set(form, 1, "123-45-6789");
@@ -471,7 +498,7 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
     const fs::path path = forms() / "sheet.venturo";
     test.ui.fileAnswers.push_back(path.string());
     saveDataFile();
-    EXPECT_EQ(readFile(path), g.FormRecord + "\r\n");
+    EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
     EXPECT_EQ(store("TP1NameAddr"), "JOHN DOE");
     EXPECT_EQ(store("TP1SSN"), "123-45-6789");
 
@@ -485,7 +512,7 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
 }
 
 TEST_F(Saving, SavingWithNoFormIsADataErrorAndWritesNothing) {
-    g.CurrentForm->unload();
+    g.document.currentForm->unload();
     saveDataFile();
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_NE(lastBox().find("You must open an existing form"), std::string::npos) << lastBox();

@@ -142,7 +142,7 @@ TEST_F(FieldsTest, TenThousandPastedCharactersFailClearly) {
 
 TEST_F(FieldsTest, LongCentsAreCutTo99DigitsAndRounded) {
     Control& amount = field("MONEY", "7." + std::string(9998, '9'));
-    EXPECT_TRUE(EditCtl(amount));
+    EXPECT_TRUE(editField(amount));
     EXPECT_EQ(amount.text, "$8.00");
 }
 

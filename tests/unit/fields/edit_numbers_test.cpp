@@ -73,12 +73,12 @@ INSTANTIATE_TEST_SUITE_P(Years, NumberEdit,
 TEST_F(FieldsTest, TheCenturyOfAYearIsThatOfTheMachinesClock) {
     platform.clock.year = 1999;
     Control& year = field("YEAR", "1999");
-    EXPECT_TRUE(EditCtl(year));
+    EXPECT_TRUE(editField(year));
     year.text = "24";
-    EXPECT_TRUE(EditCtl(year));
+    EXPECT_TRUE(editField(year));
     EXPECT_EQ(year.text, "1924");
     year.text = "2024";
-    EXPECT_FALSE(EditCtl(year));
+    EXPECT_FALSE(editField(year));
 }
 
 TEST_F(FieldsTest, TheDecimalEditPassesAnEmptyTextWhenCalledItself) {

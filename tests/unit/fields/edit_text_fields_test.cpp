@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(FieldsTest, TheNineteenCharacterCodeWithThreeHyphensAnywherePasses) {
     // Three hyphens and nineteen characters are all the edit asks; the grouping follows.
     Control& code = field("VERIFICATION", "0123-4567-89abcdef-");
-    EXPECT_TRUE(EditCtl(code));
+    EXPECT_TRUE(editField(code));
     EXPECT_EQ(code.text, "0123-4567-89ab-cdef");
 }
 
@@ -92,28 +92,28 @@ TEST_F(FieldsTest, ANameBlockOfBlankLinesOnlyFailsWithNoMessage) {
 }
 
 TEST_F(FieldsTest, TheFileNameTemplateDoesNotChangeTheNameLine) {
-    g().FileNameFormat = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
+    g().choices.fileNameFormat = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
     Control& name = field("TPNAME", "JOHN Q DOE JR.\r\nSTREET");
-    EXPECT_TRUE(EditCtl(name));
+    EXPECT_TRUE(editField(name));
     EXPECT_EQ(name.text, "JOHN Q DOE JR\r\nSTREET");
 }
 
-TEST(CountCharacters, CountsOverlappingPlaces) {
-    EXPECT_EQ(CountCharacters("a-b-c", "-", false), 2);
-    EXPECT_EQ(CountCharacters("aaaa", "aa", true), 3);
-    EXPECT_EQ(CountCharacters("AbAB", "ab", false), 2);
-    EXPECT_EQ(CountCharacters("AbAB", "ab", true), 0);
-    EXPECT_EQ(CountCharacters("AbAB", "Ab", true), 1);
-    EXPECT_EQ(CountCharacters("", "-", false), 0);
-    EXPECT_EQ(CountCharacters("ab", "abc", false), 0);
-    EXPECT_EQ(CountCharacters("\xE0\xC0", "\xC0", false), 2);  // à and À are one letter blind to case
-    EXPECT_EQ(CountCharacters(std::string(32767, '-'), "-", false), 32767);
+TEST(countCharacters, CountsOverlappingPlaces) {
+    EXPECT_EQ(countCharacters("a-b-c", "-", false), 2);
+    EXPECT_EQ(countCharacters("aaaa", "aa", true), 3);
+    EXPECT_EQ(countCharacters("AbAB", "ab", false), 2);
+    EXPECT_EQ(countCharacters("AbAB", "ab", true), 0);
+    EXPECT_EQ(countCharacters("AbAB", "Ab", true), 1);
+    EXPECT_EQ(countCharacters("", "-", false), 0);
+    EXPECT_EQ(countCharacters("ab", "abc", false), 0);
+    EXPECT_EQ(countCharacters("\xE0\xC0", "\xC0", false), 2);  // à and À are one letter blind to case
+    EXPECT_EQ(countCharacters(std::string(32767, '-'), "-", false), 32767);
 }
 
-TEST(CountCharacters, AFindOfNothingIsFoundAtEveryPlace) { EXPECT_EQ(CountCharacters("abc", "", true), 3); }
+TEST(countCharacters, AFindOfNothingIsFoundAtEveryPlace) { EXPECT_EQ(countCharacters("abc", "", true), 3); }
 
-TEST(CountCharacters, ACountBeyondSixteenBitsOverflows) {
-    EXPECT_THROW(CountCharacters(std::string(32768, '-'), "-", false), AppError);
+TEST(countCharacters, ACountBeyondSixteenBitsOverflows) {
+    EXPECT_THROW(countCharacters(std::string(32768, '-'), "-", false), AppError);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ public:
         filterFieldKey(ctl, keyAscii);
     }
     void onValidate(Control& ctl, bool& Cancel) override {
-        if (!everyKeyFiltered_) Cancel = !EditCtl(ctl);
+        if (!everyKeyFiltered_) Cancel = !editField(ctl);
     }
     void onLostFocus(Control& ctl) override {
         ctl.backColor = kWhite;
@@ -55,7 +55,7 @@ protected:
         frame->isChild = false;
         for (int i = 0; i < 10; ++i) frame->add(ControlKind::TextBox, "txtLegend", i).backColor = kLegend[i];
         prog().desktop.setFrame(prog().desktop.load(std::move(frame)));
-        prog().g.LegendColors = kLegend;
+        prog().g.edition.legendColors = kLegend;
         form = &openForm("TF_TEST", false);
     }
     void TearDown() override { program_.reset(); }
@@ -72,7 +72,7 @@ protected:
         f.add(ControlKind::Label, "TaxYear", 1).caption = "23";
         f.add(ControlKind::TextBox, "Text2", 0);  // a plain field to move the focus to
         prog().desktop.load(std::move(owned));
-        g().CurrentForm = &f;
+        g().document.currentForm = &f;
         return f;
     }
 
@@ -94,7 +94,7 @@ protected:
     // Runs the edit as Validate does, on the field that has the focus.
     bool editFocused(Control& c) {
         prog().desktop.setFocus(c);
-        return EditCtl(c);
+        return editField(c);
     }
     // Tries to leave the field for another; true when the focus left.
     bool leave(Control& c) {

@@ -155,13 +155,13 @@ TEST_F(FieldsTest, EnterDoesNotBreakTheLineOfAMoneyField) {
     EXPECT_EQ(money.text, "5");
 }
 
-TEST_F(FieldsTest, SendTabKeyMovesTheFocusToTheNextField) {
+TEST_F(FieldsTest, ASentTabMovesTheFocusToTheNextField) {
     Control& first = field("");
     Control& second = field("");
     first.tabIndex = 100;
     second.tabIndex = 101;
     prog().desktop.setFocus(first);
-    SendTabKey();
+    sendTabKey(*first.form);
     EXPECT_EQ(prog().desktop.focus(), &second);
 }
 

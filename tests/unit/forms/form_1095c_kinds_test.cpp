@@ -57,13 +57,13 @@ TEST_F(Form1095CKinds, CodesTakeEveryPrintableKeyInUpperCase) {
 
 TEST_F(Form1095CKinds, CodesAreOnlyUpperCasedOnLeaving) {
     field(10).text = "1e";
-    EXPECT_TRUE(EditCtl(field(10)));
+    EXPECT_TRUE(editField(field(10)));
     EXPECT_EQ(field(10).text, "1E");
     field(40).text = "2c ";
-    EXPECT_TRUE(EditCtl(field(40)));
+    EXPECT_TRUE(editField(field(40)));
     EXPECT_EQ(field(40).text, "2C ");
     field(85).text = "abc";
-    EXPECT_TRUE(EditCtl(field(85)));
+    EXPECT_TRUE(editField(field(85)));
     EXPECT_EQ(field(85).text, "ABC");
 }
 
@@ -76,7 +76,7 @@ TEST_F(Form1095CKinds, ContributionsAreAmountsWithoutADollarSign) {
     EXPECT_EQ(filtered(23, 'a'), 0);
     EXPECT_EQ(filtered(23, '$'), '$');
     field(24).text = "$1,234.5";
-    EXPECT_TRUE(EditCtl(field(24)));
+    EXPECT_TRUE(editField(field(24)));
     EXPECT_EQ(field(24).text, "1,234.50");
 }
 

@@ -49,7 +49,7 @@ TEST_F(Form1099GYearBox, ThreeDigitsKeepTheFocus) {
     EXPECT_EQ(yearBox().text, "202");
     EXPECT_EQ(focus(), &yearBox());
     // Back in the box, it has the look of a focused field and its text is selected for retyping.
-    EXPECT_EQ(yearBox().backColor, test.program->g.LegendColors[9]);
+    EXPECT_EQ(yearBox().backColor, test.program->g.edition.legendColors[9]);
     EXPECT_EQ(yearBox().selStart(), 0);
     EXPECT_EQ(yearBox().selLength(), 3);
 }

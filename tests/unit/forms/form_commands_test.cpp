@@ -28,7 +28,7 @@ struct FormCommands : testing::FormUnderTest<CatalogueForm> {
 TEST_F(FormCommands, AFormOpensOnTheFieldOfItsCatalogueValue) {
     CatalogueForm& w2 = open("mnuW2");
     EXPECT_EQ(&w2.focusOnOpening(3), &w2.at("Text1", 3));
-    EXPECT_EQ(focus(), &w2.at("Text1", g().FocusOnStartup));
+    EXPECT_EQ(focus(), &w2.at("Text1", g().document.catalogue.focusOnStartup));
 }
 
 TEST_F(FormCommands, TheConfigurationOpensOnItsPrinters) {
@@ -73,8 +73,8 @@ TEST_F(FormCommands, SaveOnTheConfigurationKeepsTheFiguresInTheRatesFile) {
     configure.txtSSMax.text = "200,000.00";
     configure.bChanged = true;
     configure.saveCommand();
-    const std::string year = g().TaxYears[static_cast<std::size_t>(g().TaxYearIndex)];
-    EXPECT_EQ(store::ReadINF(year, "SSMax", "", g().SSMCInfFile), "200000");
+    const std::string year = g().taxYear.text();
+    EXPECT_EQ(store::readInfValue(year, "SSMax", "", g().edition.ssmcInfFile), "200000");
     EXPECT_FALSE(configure.bChanged);
 }
 

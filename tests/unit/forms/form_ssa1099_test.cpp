@@ -62,7 +62,7 @@ TEST_F(SsaForm, TheMessageIsTheWholeTextWithItsNumberAndOneButton) {
     EXPECT_EQ(shown->buttons[2], "");
     EXPECT_EQ(shown->buttons[3], "");
     EXPECT_FALSE(shown->showText);
-    EXPECT_EQ(shown->defaultButton, 1);
+    EXPECT_EQ(shown->defaultButton, MessageBoxButton::First);
     EXPECT_EQ(box(4).text, "-$150.50");
     EXPECT_EQ(box(4).foreColor, kRed);
     EXPECT_TRUE(form->computationFailed);

@@ -17,8 +17,8 @@ namespace {
 struct K1Forms : testing::FormUnderTest<> {
     void SetUp() override {
         FormUnderTest::SetUp();
-        test.program->g.K1HelpInfFile = (test.root / "K1Help.inf").string();
-        std::ofstream(test.program->g.K1HelpInfFile, std::ios::binary)
+        test.program->g.edition.k1HelpInfFile = (test.root / "K1Help.inf").string();
+        std::ofstream(test.program->g.edition.k1HelpInfFile, std::ios::binary)
             << "[K1-1065-Box11]\r\nA|Other portfolio income|\r\n"
                "[K1-1065-Box14]\r\nA|Net earnings from self-employment|\r\nC|Gross nonfarm income "
                "{words}|\tX\r\n"
@@ -130,7 +130,7 @@ TEST_F(K1Forms, TheFocusOnACodedFieldHintsAtTheListAndOnAFixedOneAtItsTip) {
     open("TF_K11120S");
     desktop().setFocus(field("Text4", 16));
     EXPECT_EQ(form->at("labelMisc").caption, K1Form::kCodedHint);
-    EXPECT_EQ(test.program->g.LastFieldKey, "Text4:16");
+    EXPECT_EQ(test.program->g.document.lastFieldKey, "Text4:16");
     EXPECT_EQ(tabOf(form->at("SSTab1")), 1);
     desktop().click(field("Text2", 0));
     EXPECT_EQ(form->at("labelMisc").caption, K1Form::kFixedTip);

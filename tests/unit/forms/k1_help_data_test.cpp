@@ -61,9 +61,9 @@ std::string shippedList() { return testing::shippedDataFolder() + "/K1Help.inf";
 TEST(ShippedK1Help, EverySectionOfTheFormsIsThereAndFitsTheBuffer) {
     ASSERT_TRUE(std::filesystem::is_regular_file(shippedList()));
     for (const auto& [section, codes] : referenceCodes()) {
-        const auto lines = store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer);
+        const auto lines = store::readInfSection(section, shippedList(), kK1HelpSectionBuffer);
         EXPECT_FALSE(lines.empty()) << section;
-        EXPECT_EQ(lines, store::ReadINFSection(section, shippedList(), 1 << 20))
+        EXPECT_EQ(lines, store::readInfSection(section, shippedList(), 1 << 20))
             << section << " is cut by the buffer";
     }
 }
@@ -71,7 +71,7 @@ TEST(ShippedK1Help, EverySectionOfTheFormsIsThereAndFitsTheBuffer) {
 TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode) {
     for (const auto& [section, codes] : referenceCodes()) {
         std::set<std::string> seen;
-        for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
+        for (const std::string& line : store::readInfSection(section, shippedList(), kK1HelpSectionBuffer)) {
             const std::vector<std::string> parts = text::split(line, "|");
             ASSERT_EQ(parts.size(), 3u) << section << ": " << line;
             EXPECT_EQ(codes.count(parts[0]), 1u)
@@ -90,7 +90,7 @@ TEST(ShippedK1Help, EveryLineHasThreePartsAPurposeAPlaceToReadMoreAndAKnownCode)
 }
 
 std::string informationOf(const std::string& section, const std::string& code) {
-    for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
+    for (const std::string& line : store::readInfSection(section, shippedList(), kK1HelpSectionBuffer)) {
         const std::vector<std::string> row = text::split(k1HelpGridRow(line), "\t");
         if (row.at(0) == code) return row.at(2);
     }
@@ -114,7 +114,7 @@ TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
     };
     for (const auto& [section, codes] : referenceCodes()) {
         std::set<std::string> marked;
-        for (const std::string& line : store::ReadINFSection(section, shippedList(), kK1HelpSectionBuffer)) {
+        for (const std::string& line : store::readInfSection(section, shippedList(), kK1HelpSectionBuffer)) {
             const std::vector<std::string> row = text::split(k1HelpGridRow(line), "\t");
             if (row.at(3) == "X") marked.insert(row[0]);
         }
@@ -126,11 +126,11 @@ TEST(ShippedK1Help, TheCodesToldInWordsOverrideTheMoneyCheck) {
 TEST(ShippedK1Help, StartUpPlacesTheListInTheInfFolder) {
     testing::TestProgram test;
     test.start();
-    const std::string installed = test.program->g.K1HelpInfFile;
+    const std::string installed = test.program->g.edition.k1HelpInfFile;
     ASSERT_TRUE(std::filesystem::is_regular_file(installed)) << installed;
     EXPECT_EQ(std::filesystem::file_size(installed), std::filesystem::file_size(shippedList()));
-    EXPECT_EQ(store::ReadINFSection("K1-1065-Box20", installed, kK1HelpSectionBuffer),
-              store::ReadINFSection("K1-1065-Box20", shippedList(), kK1HelpSectionBuffer));
+    EXPECT_EQ(store::readInfSection("K1-1065-Box20", installed, kK1HelpSectionBuffer),
+              store::readInfSection("K1-1065-Box20", shippedList(), kK1HelpSectionBuffer));
 }
 
 }  // namespace

@@ -53,10 +53,10 @@ struct K1HelpList : ::testing::Test {
 
     void SetUp() override {
         test.start();
-        test.program->g.K1HelpInfFile = (test.root / "K1Help.inf").string();
+        test.program->g.edition.k1HelpInfFile = (test.root / "K1Help.inf").string();
     }
     void write(const std::string& content) {
-        std::ofstream(test.program->g.K1HelpInfFile, std::ios::binary) << content;
+        std::ofstream(test.program->g.edition.k1HelpInfFile, std::ios::binary) << content;
     }
     // Shows the section's list, cancelled; returns its caption and rows as shown.
     std::vector<std::string> show(const std::string& key) {
@@ -119,7 +119,7 @@ TEST_F(K1HelpList, TheGridHasItsFourColumnsWithTheirWidthsAndAlignments) {
 TEST_F(K1HelpList, AMissingSectionOrFileGivesAnEmptyListAndNoMessage) {
     write("[K1-1065-Box11]\r\nA|Other portfolio income|\r\n");
     EXPECT_EQ(show("K1-1065-Box13").size(), 2u) << "caption and header row only";
-    std::filesystem::remove(test.program->g.K1HelpInfFile);
+    std::filesystem::remove(test.program->g.edition.k1HelpInfFile);
     EXPECT_EQ(show("K1-1065-Box11").size(), 2u);
     EXPECT_TRUE(test.ui.reports.empty());
     EXPECT_TRUE(test.ui.boxes.empty());

@@ -46,15 +46,15 @@ struct K1Help : ::testing::Test {
         }
         form = &desktop().load(std::move(owned));
         keepK1DesignValues(*form);
-        g().CurrentForm = form;
-        g().FormKey = "K11065";
+        g().document.currentForm = form;
+        g().document.formKey = "K11065";
     }
     Desktop& desktop() { return test.program->desktop; }
     Globals& g() { return test.program->g; }
     Control& field(const char* name, int i) { return form->at(name, i); }
     void writeList(const std::string& content) {
-        g().K1HelpInfFile = (test.root / "K1Help.inf").string();
-        std::ofstream(g().K1HelpInfFile, std::ios::binary) << content;
+        g().edition.k1HelpInfFile = (test.root / "K1Help.inf").string();
+        std::ofstream(g().edition.k1HelpInfFile, std::ios::binary) << content;
     }
     // The list called from a code field that has the focus, answered with a code or "cancel".
     void pick(Control& code, const std::string& answer) {
@@ -159,10 +159,10 @@ TEST_F(K1Help, ACodeFieldWithNoAmountIsReportedAndNothingBreaks) {
 }
 
 TEST_F(K1Help, SaveInfoKeepsTheArraysByIndex) {
-    EXPECT_EQ(g().K1Text2, (std::vector<std::string>{"", "9b", ""}));
-    EXPECT_EQ(g().K1Tag3, (std::vector<std::string>{"MONEY", "MONEY", "-MONEY"}));
-    EXPECT_EQ(g().K1Text4, (std::vector<std::string>{"", ""}));
-    EXPECT_EQ(g().K1Tag5, (std::vector<std::string>{"MONEY", "MONEY"}));
+    EXPECT_EQ(g().document.k1Design.text2, (std::vector<std::string>{"", "9b", ""}));
+    EXPECT_EQ(g().document.k1Design.tag3, (std::vector<std::string>{"MONEY", "MONEY", "-MONEY"}));
+    EXPECT_EQ(g().document.k1Design.text4, (std::vector<std::string>{"", ""}));
+    EXPECT_EQ(g().document.k1Design.tag5, (std::vector<std::string>{"MONEY", "MONEY"}));
 }
 
 }  // namespace

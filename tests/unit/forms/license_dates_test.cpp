@@ -21,11 +21,9 @@ struct LicenseDates : ::testing::Test {
     void SetUp() override { setYears(2024, 2023); }
     void setYears(int today, int taxYear) {
         test.platform.clock = DateTime{today, 6, 10, 9, 0, 0};
-        g.TaxYears = {std::to_string(taxYear), std::to_string(taxYear + 1), std::to_string(taxYear + 2),
-                      "20XX"};
-        g.TaxYearIndex = 0;
-        g.DL_HolidayList = kFixedHolidays;
-        buildLicenseHolidays();
+        g.taxYear = TaxYearChoice(taxYear + 1, TaxYearChoice::Slot::LastYear);
+        g.choices.holidayList = kFixedHolidays;
+        buildLicenseHolidays(g.taxYear);
     }
     std::string issued(const std::string& license, const std::string& birth) {
         fillLicenseDates(license, birth, issue, expire);
@@ -34,19 +32,19 @@ struct LicenseDates : ::testing::Test {
 };
 
 TEST_F(LicenseDates, TheMovingHolidaysOfTheTaxYearJoinTheFixedOnes) {
-    EXPECT_EQ(g.DL_HolidayList, "01/01,02/20,05/30,06/19,07/04,11/11,12/25,01/16,09/04,11/23");
-    EXPECT_EQ(g.DL_Holidays.size(), 10u);
+    EXPECT_EQ(g.choices.holidayList, "01/01,02/20,05/30,06/19,07/04,11/11,12/25,01/16,09/04,11/23");
+    EXPECT_EQ(g.choices.holidays.size(), 10u);
     EXPECT_TRUE(isLicenseHoliday("11/23"));
     EXPECT_TRUE(isLicenseHoliday("02/20")) << "a fixed date in every year, whatever its weekday";
     EXPECT_FALSE(isLicenseHoliday("11/24"));
 }
 
 TEST_F(LicenseDates, ThePlaceholderYearAddsNoMovingHoliday) {
-    g.TaxYearIndex = 3;
-    g.DL_HolidayList = kFixedHolidays;
-    buildLicenseHolidays();
-    EXPECT_EQ(g.DL_HolidayList, kFixedHolidays);
-    EXPECT_EQ(g.DL_Holidays.size(), 7u);
+    g.taxYear = TaxYearChoice(2024, TaxYearChoice::Slot::Placeholder);
+    g.choices.holidayList = kFixedHolidays;
+    buildLicenseHolidays(g.taxYear);
+    EXPECT_EQ(g.choices.holidayList, kFixedHolidays);
+    EXPECT_EQ(g.choices.holidays.size(), 7u);
 }
 
 TEST_F(LicenseDates, WorkedExamples) {

@@ -1,4 +1,9 @@
+#include "forms/w2_withholding.h"
+
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
 
 #include "forms/w2_form.h"
 #include "model/app_error.h"
@@ -19,11 +24,11 @@ struct W2Withholding : testing::OpenedForm<FormW2> {
     void open() {
         ASSERT_NO_FATAL_FAILURE(OpenedForm::open());
         Globals& g = test.program->g;
-        g.SSRate = "6.2";
-        g.SSMax = "168,600";
-        g.MCInitRate = "1.45";
-        g.MCChgRateAfter = "200,000";
-        g.MCRateAfter = "2.35";
+        g.rates.set(RateItem::SocialSecurityRate, "6.2");
+        g.rates.set(RateItem::SocialSecurityWageBase, "168,600");
+        g.rates.set(RateItem::MedicareRate, "1.45");
+        g.rates.set(RateItem::MedicareChangePoint, "200,000");
+        g.rates.set(RateItem::MedicareRateAfter, "2.35");
     }
     Globals& g() { return test.program->g; }
     Control& box(int i) { return field(i); }
@@ -62,11 +67,11 @@ TEST_F(W2Withholding, WagesEqualToTheWageBaseUseTheWagesWithTheSameResult) {
 }
 
 TEST_F(W2Withholding, TheRateMayCarryAPercentSignAndTheWageBaseCommas) {
-    g().SSRate = "6.2%";
-    g().SSMax = "168600";
+    g().rates.set(RateItem::SocialSecurityRate, "6.2%");
+    g().rates.set(RateItem::SocialSecurityWageBase, "168600");
     EXPECT_EQ(ssTaxOf("1234.56"), "76.54");
-    g().SSRate = "10";
-    g().SSMax = "1,000";
+    g().rates.set(RateItem::SocialSecurityRate, "10");
+    g().rates.set(RateItem::SocialSecurityWageBase, "1,000");
     EXPECT_EQ(ssTaxOf("2000"), "100.00");
 }
 
@@ -83,7 +88,7 @@ TEST_F(W2Withholding, MedicareOverTheChangePointAddsTheHigherRateOnTheExcess) {
 
 TEST_F(W2Withholding, WagesEqualToTheChangePointAreTaxedAtTheInitialRateAndOneCentMoreAtTheHigherOne) {
     // A higher rate large enough for one cent of it to show in the box.
-    g().MCRateAfter = "60";
+    g().rates.set(RateItem::MedicareRateAfter, "60");
     EXPECT_EQ(mcTaxOf("200000"), "2,900.00");
     // 2,900 + 0.006; the whole at the initial rate would be 2,900.000145.
     EXPECT_EQ(mcTaxOf("200000.01"), "2,900.01");
@@ -96,7 +101,7 @@ TEST_F(W2Withholding, EachMedicareShareIsRoundedToTenThousandthsBeforeTheyAreAdd
     // With the change point of a married person filing separately: 1,812.50 + 0.0235 * 1,011.70; the
     // second share is held as 23.7750 and the sum shows 1,836.28, where the two shares added as one
     // double would come to 1,836.27494... and show 1,836.27.
-    g().MCChgRateAfter = "125,000";
+    g().rates.set(RateItem::MedicareChangePoint, "125,000");
     EXPECT_EQ(mcTaxOf("126011.70"), "1,836.28");
 }
 
@@ -161,7 +166,7 @@ TEST_F(W2Withholding, AnOverwrittenTaxStandsUntilTheFocusLeavesBox3AgainByTabOrB
 
 TEST_F(W2Withholding, TheRatesInForceWhenTheBoxIsLeftAreUsed) {
     ASSERT_EQ(ssTaxOf("1000"), "62.00");
-    g().SSRate = "5";
+    g().rates.set(RateItem::SocialSecurityRate, "5");
     EXPECT_EQ(ssTax().text, "62.00") << "nothing is computed until the box is left again";
     desktop().setFocus(ssWages());
     tab();
@@ -170,7 +175,7 @@ TEST_F(W2Withholding, TheRatesInForceWhenTheBoxIsLeftAreUsed) {
 
 TEST_F(W2Withholding, ARateThatIsNoNumberComputesNothingAndSaysWhy) {
     ASSERT_EQ(ssTaxOf("1000"), "62.00");
-    g().SSRate = "six";
+    g().rates.set(RateItem::SocialSecurityRate, "six");
     test.ui.boxes.clear();
     desktop().setFocus(ssWages());
     const std::string before = ssTax().text;
@@ -193,7 +198,7 @@ TEST_F(W2Withholding, OutsideTaxYear2018Box9IsBareAndHidden) {
 
 TEST_F(W2Withholding, AChangeOfYearKeepsTheFilledBoxesAsTheyAre) {
     ASSERT_EQ(ssTaxOf("1000"), "62.00");
-    g().SSRate = "5";
+    g().rates.set(RateItem::SocialSecurityRate, "5");
     changeTaxYear(*form);
     EXPECT_EQ(form->at("TaxYear", 1).caption, "26");
     EXPECT_EQ(ssTax().text, "62.00");
@@ -234,6 +239,60 @@ TEST_F(W2In2018, TaxYear18ShowsBox9AndAChangeOfYearHidesIt) {
     EXPECT_EQ(form->at("TaxYear", 1).caption, "18");
     EXPECT_EQ(form->at("Label1", 14).caption, "9. Verification code");
     EXPECT_TRUE(box(45).visible);
+}
+
+// The computations alone, on figures handed to them, with no program running.
+Rates workedExampleRates() {
+    Rates rates;
+    rates.set(RateItem::SocialSecurityRate, "6.2");
+    rates.set(RateItem::SocialSecurityWageBase, "168,600");
+    rates.set(RateItem::MedicareRate, "1.45");
+    rates.set(RateItem::MedicareChangePoint, "200,000");
+    rates.set(RateItem::MedicareRateAfter, "2.35");
+    return rates;
+}
+
+int faultOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const AppError& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+TEST(W2WithholdingFigures, TheTaxesAreWorkedOutFromTheFiguresGiven) {
+    const Rates rates = workedExampleRates();
+    EXPECT_EQ(socialSecurityTax(rates, 1234.56).toDecimalString(), "76.5427");
+    EXPECT_EQ(socialSecurityTax(rates, 200000).toDecimalString(), "10453.2") << "capped at the wage base";
+    EXPECT_EQ(medicareTax(rates, 1234.56).toDecimalString(), "17.9011");
+    EXPECT_EQ(medicareTax(rates, 250000).toDecimalString(), "4075");
+    Rates separately = rates;
+    separately.set(RateItem::MedicareChangePoint, "125,000");
+    EXPECT_EQ(medicareTax(separately, 126011.70).toDecimalString(), "1836.275");
+}
+
+TEST(W2WithholdingFigures, AFigureThatIsNoNumberIsATypeMismatchOnlyWhereItIsUsed) {
+    Rates rates = workedExampleRates();
+    // Passes the edit of a rate field, yet is no number.
+    rates.set(RateItem::MedicareRateAfter, "12.5-");
+    EXPECT_EQ(medicareTax(rates, 1000).toDecimalString(), "14.5") << "no wages over the change point";
+    EXPECT_EQ(faultOf([&] { medicareTax(rates, 250000); }), err::kTypeMismatch);
+    // The Medicare rates are read as they stand, with no percent sign read past.
+    rates = workedExampleRates();
+    rates.set(RateItem::MedicareRate, "1.45%");
+    EXPECT_EQ(faultOf([&] { medicareTax(rates, 1000); }), err::kTypeMismatch);
+    rates = workedExampleRates();
+    rates.set(RateItem::SocialSecurityRate, "6.2%");
+    EXPECT_EQ(socialSecurityTax(rates, 1000).toDecimalString(), "62");
+    rates.set(RateItem::SocialSecurityWageBase, "");
+    EXPECT_EQ(faultOf([&] { socialSecurityTax(rates, 1000); }), err::kTypeMismatch);
+}
+
+TEST(W2WithholdingFigures, ATaxBeyondWhatCanBeCountedOverflows) {
+    const Rates rates = workedExampleRates();
+    EXPECT_THROW(medicareTax(rates, 1e17), std::overflow_error);
+    EXPECT_NO_THROW(socialSecurityTax(rates, 1e17)) << "the wage base caps it";
 }
 
 }  // namespace

@@ -98,7 +98,7 @@ protected:
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
     void fill() {
-        testing::LongestValues values(test.program->g.K1HelpInfFile);
+        testing::LongestValues values(test.program->g.edition.k1HelpInfFile);
         Desktop& desktop = test.program->desktop;
         std::vector<Control*> fields;
         for (const auto& c : form->controls())
@@ -126,7 +126,7 @@ protected:
             const bool editedTwice = c->tag == "#" && form->find("SSTab1") != nullptr;
             if (c->locked || !c->canTakeFocus() || editedTwice) {
                 c->text = *value;
-                if (editedTwice) EditCtl(*c);
+                if (editedTwice) editField(*c);
                 continue;
             }
             ASSERT_NO_FATAL_FAILURE(left(*c));

@@ -63,7 +63,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
     test.start();
     int word = 0;
     for (const std::string& name : drawnDocuments()) {
-        test.program->g.CurrentFileName.clear();
+        test.program->g.document.currentFileName.clear();
         Form* form = openCatalogueForm(name);
         if (!form) continue;
         Document document{name, (folder / (name + ".venturo")).string(), {}};
@@ -77,7 +77,7 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
             c->text = "Z" + std::to_string(++word) + "Z";
             document.texts.push_back(c->text);
         }
-        std::ofstream(document.path, std::ios::binary) << buildRecord() << "\r\n";
+        std::ofstream(document.path, std::ios::binary) << buildRecord().value_or("") << "\r\n";
         documents.push_back(document);
     }
     return documents;

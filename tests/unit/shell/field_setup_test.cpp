@@ -13,8 +13,8 @@ struct FieldSetup : ::testing::Test {
 
     void SetUp() override {
         test.start();
-        test.program->g.CurrentForm = &form;
-        test.program->g.FormKey = "SAMPLE";
+        test.program->g.document.currentForm = &form;
+        test.program->g.document.formKey = "SAMPLE";
         form.add(ControlKind::Label, "labelMisc");
     }
     Control& field(const std::string& tag, int index = 0, const std::string& name = "Text1") {
@@ -24,7 +24,7 @@ struct FieldSetup : ::testing::Test {
         c.select(1, 1);
         return c;
     }
-    Color legend(int i) { return test.program->g.LegendColors[static_cast<std::size_t>(i)]; }
+    Color legend(int i) { return test.program->g.edition.legendColors[static_cast<std::size_t>(i)]; }
 };
 
 TEST_F(FieldSetup, TheLegendGivesTheFocusColourOfEachType) {
@@ -156,10 +156,10 @@ TEST_F(FieldSetup, TakingTheFocusPutsTheTipOnTheStatusLineAndNotesTheField) {
     money.toolTipText = "Box 3";
     setUpControl(money, false);
     EXPECT_EQ(form.at("labelMisc").caption, "Box 3");
-    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12");
+    EXPECT_EQ(test.program->g.document.lastFieldKey, "Text1:12");
     Control& rate = field("SSMC", kNoIndex, "txtSSRate");
     setUpControl(rate, false);
-    EXPECT_EQ(test.program->g.LastFieldKey, "Text1:12") << "only the Text arrays are noted";
+    EXPECT_EQ(test.program->g.document.lastFieldKey, "Text1:12") << "only the Text arrays are noted";
 }
 
 TEST_F(FieldSetup, AFieldOutOfScopeNeverTakesTheFocus) {

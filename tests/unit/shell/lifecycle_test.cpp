@@ -50,9 +50,8 @@ struct Lifecycle : ::testing::Test {
         test.start();
         std::string path = (test.root / "Forms.inf").string();
         std::ofstream(path, std::ios::binary) << "[SAMPLE]\r\nFormName=TF_SAMPLE\r\nFocusOnStartup=2\r\n";
-        test.program->g.FormsInfFile = path;
-        test.program->g.TaxYears = {"2024", "2025", "2026", "20XX"};
-        test.program->g.TaxYearIndex = 1;
+        test.program->g.edition.formsInfFile = path;
+        test.program->g.taxYear = TaxYearChoice(2025);
     }
     Form& open() {
         Form* form = openCatalogueForm("TF_SAMPLE");
@@ -64,8 +63,8 @@ struct Lifecycle : ::testing::Test {
 TEST_F(Lifecycle, OpeningPlacesTheFormWithItsYearAndFocus) {
     Form& form = open();
     EXPECT_EQ(test.program->desktop.activeChild(), &form);
-    EXPECT_EQ(test.program->g.CurrentForm, &form);
-    EXPECT_EQ(test.program->g.FormKey, "SAMPLE");
+    EXPECT_EQ(test.program->g.document.currentForm, &form);
+    EXPECT_EQ(test.program->g.document.formKey, "SAMPLE");
     EXPECT_EQ(form.at("TaxYear", 1).caption, "25");
     EXPECT_EQ(test.program->desktop.focus(), &form.at("Text1", 2));
     EXPECT_EQ(form.at("Text1", 0).fontName, "Tahoma");
@@ -116,20 +115,20 @@ TEST_F(Lifecycle, ClearEmptiesFieldsChecksStatusAndTheFileName) {
     Form& form = open();
     form.at("Text1", 0).text = "kept?";
     form.at("labelMisc").caption = "a message";
-    test.program->g.CurrentFileName = "/tmp/x.venturo";
+    test.program->g.document.currentFileName = "/tmp/x.venturo";
     clearForm();
     EXPECT_EQ(form.at("Text1", 0).text, "");
     EXPECT_EQ(form.at("Check", 0).caption, "");
     EXPECT_EQ(form.at("labelMisc").caption, "");
-    EXPECT_EQ(test.program->g.CurrentFileName, "");
+    EXPECT_EQ(test.program->g.document.currentFileName, "");
 }
 
 TEST_F(Lifecycle, ChangingTheYearCyclesRemembersAndRedatesTheForm) {
     Form& form = open();
     changeTaxYear(form);
-    EXPECT_EQ(test.program->g.TaxYearIndex, 2);
+    EXPECT_EQ(test.program->g.taxYear, TaxYearChoice(2025, TaxYearChoice::Slot::NextYear));
     EXPECT_EQ(form.at("TaxYear", 1).caption, "26");
-    EXPECT_EQ(store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.UserInfFile), "2026");
+    EXPECT_EQ(store::readInfValue("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile), "2026");
     changeTaxYear(form);
     EXPECT_EQ(form.at("TaxYear", 1).caption, "XX");
     changeTaxYear(form);
@@ -155,7 +154,7 @@ TEST_F(Lifecycle, AfterAChangeOfYearABadDateStopsTheWalk) {
     form.at("Text1", 2).text = "04/01/2025";
     changeTaxYear(form);
     EXPECT_EQ(form.at("Text1", 1).text, "02/30/2025");
-    EXPECT_EQ(form.at("Text1", 1).backColor, test.program->g.LegendColors[6]);
+    EXPECT_EQ(form.at("Text1", 1).backColor, test.program->g.edition.legendColors[6]);
     EXPECT_EQ(form.at("labelMisc").caption, "Value Entered: [02/30/2025] is INVALID");
     EXPECT_EQ(form.at("Text1", 2).text, "04/01/2025") << "the walk stopped at the first bad date";
     EXPECT_TRUE(test.ui.boxes.empty());
@@ -164,7 +163,7 @@ TEST_F(Lifecycle, AfterAChangeOfYearABadDateStopsTheWalk) {
 TEST_F(Lifecycle, AFormThatIsGoneIsNoLongerCurrent) {
     Form& form = open();
     form.unload();
-    EXPECT_EQ(test.program->g.CurrentForm, nullptr);
+    EXPECT_EQ(test.program->g.document.currentForm, nullptr);
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 namespace lw {
 namespace {
 
+using Slot = TaxYearChoice::Slot;
+
 TEST(TaxYear, JanuaryAndFebruaryStillCountAsTheYearBefore) {
     EXPECT_EQ(thisTaxYear(DateTime{2026, 2, 28}), 2025);
     EXPECT_EQ(thisTaxYear(DateTime{2026, 3, 1}), 2026);
@@ -16,12 +18,14 @@ TEST(TaxYear, JanuaryAndFebruaryStillCountAsTheYearBefore) {
     EXPECT_EQ(thisTaxYear(DateTime{2026, 12, 31}), 2026);
 }
 
-TEST(TaxYear, TheCycleRunsThisNextPlaceholderLast) {
-    EXPECT_EQ(nextTaxYearIndex(1), 2);
-    EXPECT_EQ(nextTaxYearIndex(2), 3);
-    EXPECT_EQ(nextTaxYearIndex(3), 0);
-    EXPECT_EQ(nextTaxYearIndex(0), 1);
-    EXPECT_EQ(nextTaxYearIndex(7), 0);
+TEST(TaxYear, TheRememberedYearIsInForceWhenItIsOneOfTheFour) {
+    const DateTime today{2026, 2, 28};
+    EXPECT_EQ(rememberedTaxYear(today, ""), TaxYearChoice(2025));
+    EXPECT_EQ(rememberedTaxYear(today, "2024"), TaxYearChoice(2025, Slot::LastYear));
+    EXPECT_EQ(rememberedTaxYear(today, "2026"), TaxYearChoice(2025, Slot::NextYear));
+    EXPECT_EQ(rememberedTaxYear(today, "20XX"), TaxYearChoice(2025, Slot::Placeholder));
+    EXPECT_EQ(rememberedTaxYear(today, "2015"), TaxYearChoice(2025));
+    EXPECT_EQ(rememberedTaxYear(DateTime{2026, 3, 1}, "2025"), TaxYearChoice(2026, Slot::LastYear));
 }
 
 struct YearSetup : ::testing::Test {
@@ -31,40 +35,41 @@ struct YearSetup : ::testing::Test {
         test.start();
     }
     std::string remembered() {
-        return store::ReadINF("TESTER", "LastTaxYear", "", test.program->g.UserInfFile);
+        return store::readInfValue("TESTER", "LastTaxYear", "", test.program->g.edition.userInfFile);
     }
+    const TaxYearChoice& taxYear() { return test.program->g.taxYear; }
 };
 
 TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
     EXPECT_EQ(setUpTaxYears(), "2025");
-    const Globals& g = test.program->g;
-    EXPECT_EQ(g.TaxYears[0], "2024");
-    EXPECT_EQ(g.TaxYears[1], "2025");
-    EXPECT_EQ(g.TaxYears[2], "2026");
-    EXPECT_EQ(g.TaxYears[3], "20XX");
-    EXPECT_EQ(g.TaxYearIndex, 1);
+    EXPECT_EQ(taxYear().textOf(Slot::LastYear), "2024");
+    EXPECT_EQ(taxYear().textOf(Slot::ThisYear), "2025");
+    EXPECT_EQ(taxYear().textOf(Slot::NextYear), "2026");
+    EXPECT_EQ(taxYear().textOf(Slot::Placeholder), "20XX");
+    EXPECT_EQ(taxYear().slot(), Slot::ThisYear);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
     writeUserInf("LastTaxYear", "20XX");
     EXPECT_EQ(setUpTaxYears(), "20XX");
-    EXPECT_EQ(test.program->g.TaxYearIndex, 3);
-    EXPECT_EQ(taxYearDigits(), "XX");
+    EXPECT_EQ(taxYear().index(), 3);
+    EXPECT_EQ(taxYear().digits(), "XX");
+    EXPECT_EQ(remembered(), "20XX");
 }
 
 TEST_F(YearSetup, AYearOutOfTheWindowFallsBackToThisYearAndIsOverwritten) {
     writeUserInf("LastTaxYear", "2015");
     EXPECT_EQ(setUpTaxYears(), "2015");
-    EXPECT_EQ(test.program->g.TaxYearIndex, 1);
+    EXPECT_EQ(taxYear().index(), 1);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, LastYearIsKept) {
     writeUserInf("LastTaxYear", "2024");
     setUpTaxYears();
-    EXPECT_EQ(test.program->g.TaxYearIndex, 0);
-    EXPECT_EQ(taxYearDigits(), "24");
+    EXPECT_EQ(taxYear().index(), 0);
+    EXPECT_EQ(taxYear().digits(), "24");
 }
 
 }  // namespace

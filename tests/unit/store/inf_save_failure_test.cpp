@@ -22,11 +22,11 @@ using testing::writeBytes;
 
 const std::string kOld = "[ALICE]\r\nPrinter=Laser\r\n; hand note\r\nLastTaxYear=2024\r\n";
 
-// Runs SaveINF and hands back the error it must raise.
+// Runs writeInfValue and hands back the error it must raise.
 InfWriteError failedSave(const std::string& section, const std::string& key, const std::string& value,
                          const std::string& file) {
     try {
-        SaveINF(section, key, value, file);
+        writeInfValue(section, key, value, file);
     } catch (const InfWriteError& e) {
         return e;
     }
@@ -94,7 +94,7 @@ TEST(SaveInfFailure, HalfWrittenTemporaryIsRemoved) {
     bool threw = false;
     int number = 0;
     try {
-        SaveINF("ALICE", "TP1NameAddr", std::string(100000, 'a'), file);
+        writeInfValue("ALICE", "TP1NameAddr", std::string(100000, 'a'), file);
     } catch (const InfWriteError& e) {
         threw = true;
         number = e.number();

@@ -33,6 +33,12 @@ void TestUi::runModal(Form& form) {
         return;
     }
     if (form.name() == "F6_K1Help") return answerK1List(form);
+    if (form.name() == "F7_Save" && !saveFormPresses.empty()) {
+        Control* button = form.find(saveFormPresses.front());
+        saveFormPresses.pop_front();
+        if (button) program().desktop.click(*button);
+        return;
+    }
     if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
         reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
         report->unload();

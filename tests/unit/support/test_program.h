@@ -41,9 +41,12 @@ public:
     // Codes, taken by the lists of K-1 codes in turn: the row with that code is clicked; "cancel" or no
     // answer presses Cancel.
     std::deque<std::string> k1Answers;
+    // Buttons (cmdSave, cmdNewSequence, cmdExit), pressed on the forms for a file that exists in turn; with
+    // none queued the form is left without a button.
+    std::deque<std::string> saveFormPresses;
     // Every list of K-1 codes shown: its caption, then its rows (header first), cells joined by tabs.
     std::vector<std::vector<std::string>> k1Lists;
-    std::vector<std::string> boxes;   // the text of every box shown
+    std::vector<std::string> boxes;    // the text of every box shown
     std::vector<std::string> reports;  // module and description of every error report
     std::vector<std::string> pictures;
     std::vector<std::string> opened;

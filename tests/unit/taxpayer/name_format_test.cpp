@@ -44,9 +44,9 @@ class FormatTPName : public ::testing::Test {
 protected:
     void SetUp() override {
         program_ = std::make_unique<Program>(ui_, platform_);
-        program_->g.FileNameFormat = kLastFirstTemplate;
+        program_->g.choices.fileNameFormat = kLastFirstTemplate;
     }
-    void useTemplate(const char* t) { program_->g.FileNameFormat = t; }
+    void useTemplate(const char* t) { program_->g.choices.fileNameFormat = t; }
 
 private:
     NoUi ui_;

@@ -19,25 +19,31 @@ struct TaxpayerSheet : testing::OpenedForm<TaxpayerSheetForm> {
 };
 
 TEST_F(TaxpayerSheet, AgesCountTheCalendarYearsAlone) {
-    EXPECT_EQ(ageAtYearEnd(*form, "12/31/2000"), "25");
-    EXPECT_EQ(ageAtYearEnd(*form, "01/01/2000"), "25");
+    EXPECT_EQ(ageAtYearEnd(*form, "12/31/2000", g().taxYear), "25");
+    EXPECT_EQ(ageAtYearEnd(*form, "01/01/2000", g().taxYear), "25");
+    EXPECT_EQ(ageAtYearEnd(*form, "01/01/2000", TaxYearChoice(2025, TaxYearChoice::Slot::NextYear)), "26");
     EXPECT_NE(status().caption, "One or more date(s) are invalid");
 }
 
 TEST_F(TaxpayerSheet, ABirthAfterTheTaxYearGivesANegativeAgeAndARedMessage) {
-    EXPECT_EQ(ageAtYearEnd(*form, "03/15/2030"), "-5");
+    EXPECT_EQ(ageAtYearEnd(*form, "03/15/2030", g().taxYear), "-5");
     EXPECT_EQ(status().caption, "One or more date(s) are invalid");
     EXPECT_EQ(status().foreColor, kRed);
 }
 
 TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
-    g().TaxYearIndex = 3;
-    EXPECT_EQ(ageAtYearEnd(*form, "03/15/1980"), "N/A");
+    EXPECT_EQ(ageAtYearEnd(*form, "03/15/1980", TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder)),
+              "N/A");
+    g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
+    form->at("Text2", 0).text = "41";
+    form->at("Text1", 2).text = "03/15/1980";
+    updateAge(*form, "2", "0");
+    EXPECT_EQ(form->at("Text2", 0).text, "N/A") << "the sheet ages by the year in force";
 }
 
 TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
     try {
-        ageAtYearEnd(*form, "02/30/1980");
+        ageAtYearEnd(*form, "02/30/1980", g().taxYear);
         FAIL() << "no fault";
     } catch (const AppError& e) {
         EXPECT_EQ(e.number(), err::kTypeMismatch);
@@ -46,15 +52,15 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
     form->at("Text2", 0).text = "41";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "41");
     form->at("Text1", 2).text = "05/05/20XX";
-    UpdateAge(*form, "2", "0");
+    updateAge(*form, "2", "0");
     EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
 TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFields) {
-    g().FormRecord =
+    g().document.formRecord =
         "TPINFO\xB7"
         "2025\xB7TXT0=ANN LEE\xBB"
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";

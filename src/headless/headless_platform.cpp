@@ -1,11 +1,11 @@
-#include "script/script_platform.h"
+#include "headless/headless_platform.h"
 
 #include <chrono>
 #include <ctime>
 
 #include "text/cp1252.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 namespace {
 std::string inCodePage(const std::string& utf8) {
@@ -14,11 +14,11 @@ std::string inCodePage(const std::string& utf8) {
 }
 }  // namespace
 
-ScriptPlatform::ScriptPlatform(Session& session) : session_(session) {
+HeadlessPlatform::HeadlessPlatform(Session& session) : session_(session) {
     for (const auto& printer : session.printers) printersInCodePage_.push_back(inCodePage(printer));
 }
 
-DateTime ScriptPlatform::now() {
+DateTime HeadlessPlatform::now() {
     if (session_.today) return session_.today->plusMilliseconds(skippedMs_);
     std::time_t t = std::time(nullptr);
     std::tm local{};
@@ -27,7 +27,7 @@ DateTime ScriptPlatform::now() {
                     local.tm_hour,        local.tm_min,     local.tm_sec};
 }
 
-std::optional<std::string> ScriptPlatform::environment(const std::string& name) {
+std::optional<std::string> HeadlessPlatform::environment(const std::string& name) {
     // The platform's ANSI call puts "?" for what the code page cannot hold.
     auto ansi = [](const std::string& utf8) {
         if (auto converted = text::utf8ToCp1252(utf8)) return *converted;
@@ -46,15 +46,15 @@ std::optional<std::string> ScriptPlatform::environment(const std::string& name) 
     return std::nullopt;
 }
 
-std::string ScriptPlatform::commandLine() { return inCodePage(session_.args); }
+std::string HeadlessPlatform::commandLine() { return inCodePage(session_.args); }
 
-void ScriptPlatform::activateEarlierInstance(const std::string& title) {
+void HeadlessPlatform::activateEarlierInstance(const std::string& title) {
     *session_.out << "activate earlier instance \"" << text::cp1252ToUtf8(title) << "\"\n";
 }
 
-void ScriptPlatform::sleep(int milliseconds) {
+void HeadlessPlatform::sleep(int milliseconds) {
     skippedMs_ += milliseconds;
     *session_.out << "sleep " << milliseconds << " ms skipped\n";
 }
 
-}  // namespace lw::script
+}  // namespace lw::headless

@@ -1,14 +1,14 @@
 #pragma once
 // The screen as the script plays it: boxes and dialogs answered from the queue, the clipboard in memory.
 
+#include "headless/session.h"
 #include "model/ports.h"
-#include "script/script_session.h"
 
-namespace lw::script {
+namespace lw::headless {
 
-class ScriptUi : public UiPort {
+class HeadlessUi : public UiPort {
 public:
-    explicit ScriptUi(Session& session) : session_(session) {}
+    explicit HeadlessUi(Session& session) : session_(session) {}
 
     void runModal(Form& form) override;
     void copyPictureToClipboard(Form& form) override;
@@ -30,4 +30,4 @@ private:
     Session& session_;
 };
 
-}  // namespace lw::script
+}  // namespace lw::headless

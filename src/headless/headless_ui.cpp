@@ -1,16 +1,16 @@
-#include "script/script_ui.h"
+#include "headless/headless_ui.h"
 
 #include <algorithm>
 
 #include "diagnostics/message_box.h"
+#include "headless/form_pictures.h"
 #include "model/app_error.h"
 #include "model/program.h"
-#include "script/form_pictures.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/pieces.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 namespace {
 
@@ -37,7 +37,7 @@ Control* visibleButton(Form& form, const std::string& caption) {
 
 }  // namespace
 
-void ScriptUi::runModal(Form& form) {
+void HeadlessUi::runModal(Form& form) {
     if (text::equalsNoCase(form.name(), "F9_MBX")) return answerMessageBox(form);
     if (text::equalsNoCase(form.name(), "F8_ErrLog")) return answerErrorReport(form);
     if (text::equalsNoCase(form.name(), "F7_Save")) return answerSaveForm(form);
@@ -45,7 +45,7 @@ void ScriptUi::runModal(Form& form) {
     *session_.out << "form " << form.name() << " closed: the script has no answers for it\n";
 }
 
-void ScriptUi::pressButton(Form& form, const std::string& caption, int line) {
+void HeadlessUi::pressButton(Form& form, const std::string& caption, int line) {
     Control* button = visibleButton(form, caption);
     if (!button) {
         if (!session_.scriptError)
@@ -55,7 +55,7 @@ void ScriptUi::pressButton(Form& form, const std::string& caption, int line) {
     program().desktop.click(*button);
 }
 
-void ScriptUi::answerMessageBox(Form& box) {
+void HeadlessUi::answerMessageBox(Form& box) {
     auto* mbx = dynamic_cast<MessageBoxForm*>(&box);
     if (!mbx) return;
     const MessageBoxRecord shown = mbx->record();
@@ -82,7 +82,7 @@ void ScriptUi::answerMessageBox(Form& box) {
     pressButton(box, caption, line);
 }
 
-void ScriptUi::answerErrorReport(Form& report) {
+void HeadlessUi::answerErrorReport(Form& report) {
     auto label = [&](int index) {
         Control* c = report.find("Label2", index);
         return c ? c->caption : std::string();
@@ -113,7 +113,7 @@ void ScriptUi::answerErrorReport(Form& report) {
 }
 
 // The form for a file that exists: keep the name (or type a new one), take the next number, or leave.
-void ScriptUi::answerSaveForm(Form& save) {
+void HeadlessUi::answerSaveForm(Form& save) {
     auto answer = session_.takeAnswer("filesave");
     std::string choice = answer && !answer->words.empty() ? answer->words[0] : "exit";
     Control* name = save.find("Text1");
@@ -131,7 +131,7 @@ void ScriptUi::answerSaveForm(Form& save) {
 
 // The list of K-1 codes: the row of the queued code is clicked; "cancel", no answer or a code the list
 // does not hold press Cancel, the last being a fault of the script.
-void ScriptUi::answerK1List(Form& list) {
+void HeadlessUi::answerK1List(Form& list) {
     Control* grid = list.find("Grid1");
     ShownK1List shown{text::cp1252ToUtf8(list.caption), {}};
     std::vector<std::string> codes;
@@ -160,14 +160,14 @@ void ScriptUi::answerK1List(Form& list) {
     if (Control* button = list.find("cmdCancel")) program().desktop.click(*button);
 }
 
-void ScriptUi::copyPictureToClipboard(Form& form) {
+void HeadlessUi::copyPictureToClipboard(Form& form) {
     session_.clipboardPicture = drawForm(form);
     *session_.out << "clipboard picture of " << form.name() << " " << session_.clipboardPicture->width()
                   << "x" << session_.clipboardPicture->height() << "\n";
 }
 
 // The printer is a file: each page is counted, and written as a PDF where the script asked for one.
-bool ScriptUi::printForm(const Form& form, const std::string& printer) {
+bool HeadlessUi::printForm(const Form& form, const std::string& printer) {
     ++session_.printedPages;
     session_.printedPicture = drawForm(form);
     *session_.out << "printed " << form.name() << " on \"" << forOutput(printer) << "\"\n";
@@ -178,7 +178,7 @@ bool ScriptUi::printForm(const Form& form, const std::string& printer) {
     return printFormToPdf(form, session_.printTo);
 }
 
-std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request) {
+std::optional<std::string> HeadlessUi::fileDialog(const FileDialogRequest& request) {
     auto answer = session_.takeAnswer("file");
     const bool cancel = !answer || answer->words.empty() || answer->words[0] == "cancel";
     session_.lastDialog =
@@ -198,16 +198,16 @@ std::optional<std::string> ScriptUi::fileDialog(const FileDialogRequest& request
     return chosen;
 }
 
-bool ScriptUi::openDocument(const std::string& path) {
+bool HeadlessUi::openDocument(const std::string& path) {
     *session_.out << "open document " << text::cp1252ToUtf8(path) << "\n";
     return true;
 }
 
-void ScriptUi::quit() {
+void HeadlessUi::quit() {
     session_.ended = true;
     throw ProgramEnded{};
 }
 
-void ScriptUi::inputRefused(const std::string& why) { *session_.out << "input refused: " << why << "\n"; }
+void HeadlessUi::inputRefused(const std::string& why) { *session_.out << "input refused: " << why << "\n"; }
 
-}  // namespace lw::script
+}  // namespace lw::headless

@@ -1,4 +1,4 @@
-#include "script/headless_program.h"
+#include "headless/headless_program.h"
 
 #include <filesystem>
 
@@ -7,7 +7,7 @@
 #include "shell/frame_window_model.h"
 #include "shell/paths.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 std::string shippedFilesOf(const char* argv0) {
     // The executable's folder made absolute and clean, so the paths the program shows read plainly.
@@ -18,8 +18,8 @@ std::string shippedFilesOf(const char* argv0) {
 }
 
 HeadlessProgram::HeadlessProgram(Session& session)
-    : ui_(std::make_unique<ScriptUi>(session)),
-      platform_(std::make_unique<ScriptPlatform>(session)),
+    : ui_(std::make_unique<HeadlessUi>(session)),
+      platform_(std::make_unique<HeadlessPlatform>(session)),
       program_(std::make_unique<Program>(*ui_, *platform_)) {
     registerAllForms();
     try {
@@ -35,4 +35,4 @@ HeadlessProgram::~HeadlessProgram() {
     ui_.reset();
 }
 
-}  // namespace lw::script
+}  // namespace lw::headless

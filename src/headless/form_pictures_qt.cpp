@@ -2,11 +2,11 @@
 #include <QImage>
 #include <QString>
 
-#include "script/form_pictures.h"
+#include "headless/form_pictures.h"
 #include "ui/clipboard_picture.h"
 #include "ui/form_printer.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 namespace {
 
@@ -39,4 +39,4 @@ bool printFormToPdf(const Form& form, const std::string& path) {
     return ui::printFormToPdf(form, QString::fromStdString(path));
 }
 
-}  // namespace lw::script
+}  // namespace lw::headless

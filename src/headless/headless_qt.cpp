@@ -6,9 +6,9 @@
 #include <QByteArray>
 #include <string>
 
-#include "script/headless_program.h"
+#include "headless/headless_program.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 void prepareHeadlessQt() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -19,4 +19,4 @@ void prepareHeadlessQt() {
     }
 }
 
-}  // namespace lw::script
+}  // namespace lw::headless

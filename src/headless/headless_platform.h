@@ -1,14 +1,14 @@
 #pragma once
 // The machine as the script sets it up: a clock that stands still, named user and computer, no waits.
 
+#include "headless/session.h"
 #include "model/ports.h"
-#include "script/script_session.h"
 
-namespace lw::script {
+namespace lw::headless {
 
-class ScriptPlatform : public PlatformPort {
+class HeadlessPlatform : public PlatformPort {
 public:
-    explicit ScriptPlatform(Session& session);
+    explicit HeadlessPlatform(Session& session);
 
     DateTime now() override;
     std::optional<std::string> environment(const std::string& name) override;
@@ -28,4 +28,4 @@ private:
     std::vector<std::string> printersInCodePage_;
 };
 
-}  // namespace lw::script
+}  // namespace lw::headless

@@ -1,5 +1,6 @@
 #pragma once
-// What the script has set up and queued, and what the program has shown: shared by the runner and its ports.
+// What the driver (a script, or ledgerwick-render) has set up and queued, and what the program has shown:
+// shared by the driver and the ports that play the screen and the machine.
 
 #include <deque>
 #include <memory>
@@ -8,10 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "headless/form_pictures.h"
 #include "model/date_time.h"
-#include "script/form_pictures.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 struct QueuedAnswer {
     int line = 0;
@@ -77,4 +78,4 @@ struct Session {
     std::optional<QueuedAnswer> takeAnswer(const std::string& kind);
 };
 
-}  // namespace lw::script
+}  // namespace lw::headless

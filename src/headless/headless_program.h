@@ -5,12 +5,12 @@
 #include <memory>
 #include <string>
 
+#include "headless/headless_platform.h"
+#include "headless/headless_ui.h"
+#include "headless/session.h"
 #include "model/program.h"
-#include "script/script_platform.h"
-#include "script/script_session.h"
-#include "script/script_ui.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 // Qt draws off-screen and needs no display; a bare machine gets a private runtime folder of its own.
 // Call before the QApplication is made. Built with the Qt pictures only (headless_qt.cpp).
@@ -29,9 +29,9 @@ public:
     Program& program() { return *program_; }
 
 private:
-    std::unique_ptr<ScriptUi> ui_;
-    std::unique_ptr<ScriptPlatform> platform_;
+    std::unique_ptr<HeadlessUi> ui_;
+    std::unique_ptr<HeadlessPlatform> platform_;
     std::unique_ptr<Program> program_;
 };
 
-}  // namespace lw::script
+}  // namespace lw::headless

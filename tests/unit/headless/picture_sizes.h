@@ -6,10 +6,10 @@
 
 #include <vector>
 
+#include "headless/form_pictures.h"
 #include "model/form.h"
-#include "script/form_pictures.h"
 
-namespace lw::script::testing {
+namespace lw::headless::testing {
 
 struct PictureSize {
     int widthTwips;
@@ -45,4 +45,4 @@ inline void expectPainterSizes() {
     }
 }
 
-}  // namespace lw::script::testing
+}  // namespace lw::headless::testing

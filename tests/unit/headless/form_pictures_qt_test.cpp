@@ -3,12 +3,12 @@
 #include <QImage>
 #include <filesystem>
 
+#include "headless/form_pictures.h"
 #include "model/form.h"
 #include "picture_sizes.h"
 #include "qt_offscreen.h"
-#include "script/form_pictures.h"
 
-namespace lw::script {
+namespace lw::headless {
 namespace {
 
 const auto* const kQt = lw::testing::addQtOffscreen();
@@ -39,4 +39,4 @@ TEST(DrawnFormPictures, GiveTheColourOfAPointAndWriteAPng) {
 }
 
 }  // namespace
-}  // namespace lw::script
+}  // namespace lw::headless

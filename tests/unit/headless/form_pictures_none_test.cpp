@@ -2,11 +2,11 @@
 
 #include <filesystem>
 
+#include "headless/form_pictures.h"
 #include "model/form.h"
 #include "picture_sizes.h"
-#include "script/form_pictures.h"
 
-namespace lw::script {
+namespace lw::headless {
 namespace {
 
 // The runner built without a painter: its pictures have the painter's sizes and no pixels.
@@ -29,4 +29,4 @@ TEST(UndrawnFormPictures, HaveNoPixelsAndWriteNoFile) {
 }
 
 }  // namespace
-}  // namespace lw::script
+}  // namespace lw::headless

@@ -9,7 +9,7 @@
 
 #include "model/form.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 class FormPicture {
 public:
@@ -30,4 +30,4 @@ std::shared_ptr<const FormPicture> drawForm(const Form& form, double zoom = 1.0)
 // Writes the printed page of the form to a PDF file; false when it cannot.
 bool printFormToPdf(const Form& form, const std::string& path);
 
-}  // namespace lw::script
+}  // namespace lw::headless

@@ -6,17 +6,17 @@
 
 #include "fixed_platform.h"
 #include "forms/k1_help.h"
+#include "headless/headless_ui.h"
 #include "model/program.h"
-#include "script/script_ui.h"
 
-namespace lw::script {
+namespace lw::headless {
 namespace {
 
 // The script's answers to the list of K-1 codes, on a small K-1 with one coded row.
 struct ScriptK1Answers : ::testing::Test {
     std::ostringstream out;
     Session session;
-    ScriptUi ui{session};
+    HeadlessUi ui{session};
     testing::FixedPlatform platform;
     std::unique_ptr<Program> program;
     std::filesystem::path folder;
@@ -27,8 +27,8 @@ struct ScriptK1Answers : ::testing::Test {
         folder = mkdtemp(pattern.data());
         session.out = &out;
         program = std::make_unique<Program>(ui, platform);
-        program->g.K1HelpInfFile = (folder / "K1Help.inf").string();
-        std::ofstream(program->g.K1HelpInfFile, std::ios::binary)
+        program->g.edition.k1HelpInfFile = (folder / "K1Help.inf").string();
+        std::ofstream(program->g.edition.k1HelpInfFile, std::ios::binary)
             << "[K1-1120S-Box12]\r\n"
                "A|Cash contributions (60%) {Schedule A}|\r\n"
                "J|Section 59(e)(2) expenditures {statement}|\tX\r\n";
@@ -78,7 +78,7 @@ TEST_F(ScriptK1Answers, CancelAndNoAnswerBothPressCancel) {
 }
 
 TEST_F(ScriptK1Answers, BytesOfTheListOutsideTheCodePageAreWrittenWithoutHarm) {
-    std::ofstream(program->g.K1HelpInfFile, std::ios::binary)
+    std::ofstream(program->g.edition.k1HelpInfFile, std::ios::binary)
         << "[K1-1120S-Box12]\r\nA|Caf\xE9 \x81 {\x9D\xB7}|\r\n";
     queue("A");
     callList();
@@ -98,4 +98,4 @@ TEST_F(ScriptK1Answers, ACodeTheListDoesNotHoldIsAFaultOfTheScript) {
 }
 
 }  // namespace
-}  // namespace lw::script
+}  // namespace lw::headless

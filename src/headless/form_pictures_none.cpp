@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "script/form_pictures.h"
+#include "headless/form_pictures.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 namespace {
 
@@ -39,4 +39,4 @@ std::shared_ptr<const FormPicture> drawForm(const Form& form, double zoom) {
 
 bool printFormToPdf(const Form&, const std::string&) { return false; }
 
-}  // namespace lw::script
+}  // namespace lw::headless

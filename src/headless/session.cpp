@@ -1,6 +1,6 @@
-#include "script/script_session.h"
+#include "headless/session.h"
 
-namespace lw::script {
+namespace lw::headless {
 
 std::optional<QueuedAnswer> Session::takeAnswer(const std::string& kind) {
     for (auto it = answers.begin(); it != answers.end(); ++it) {
@@ -13,4 +13,4 @@ std::optional<QueuedAnswer> Session::takeAnswer(const std::string& kind) {
     return std::nullopt;
 }
 
-}  // namespace lw::script
+}  // namespace lw::headless
