@@ -32,7 +32,7 @@ void BenchUi::runModal(Form& form) {
         return;
     }
     if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
-        reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
+        reports.push_back(report->reportModule + ": " + report->reportErrorText);
         report->unload();
     }
 }

@@ -54,7 +54,7 @@ void DrawK1CodeList(benchmark::State& state, const std::string& section) {
     Desktop& desktop = bench.program->desktop;
     for (auto _ : state) {
         const auto start = Clock::now();
-        k1HelpMembers().F97_K1Key = section;
+        k1HelpMembers().listSectionKey = section;
         Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         const QImage picture = ui::renderForm(list);
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());

@@ -11,14 +11,14 @@
 
 namespace lw {
 
-std::string readFormInfo(const std::string& Section, const std::string& Key) {
-    std::string section = Section;
-    if (Section != "SS_ITIN") {
-        std::size_t underscore = Section.find('_');
-        section = underscore == std::string::npos ? Section : Section.substr(underscore + 1);
+std::string readFormInfo(const std::string& sectionName, const std::string& key) {
+    std::string section = sectionName;
+    if (sectionName != "SS_ITIN") {
+        std::size_t underscore = sectionName.find('_');
+        section = underscore == std::string::npos ? sectionName : sectionName.substr(underscore + 1);
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
-    return store::readInfValue(section, Key, "", program().g.edition.formsInfFile);
+    return store::readInfValue(section, key, "", program().g.edition.formsInfFile);
 }
 
 std::optional<int> firstFieldIndex(const std::string& list) {

@@ -8,7 +8,7 @@ namespace lw {
 
 // One value of the catalogue file. The section is the text behind the first "_" with every "-" removed,
 // except SS_ITIN, which stands as it is: TF_W2, W2 and a record prefix such as 1099-MISC all lead home.
-std::string readFormInfo(const std::string& Section, const std::string& Key);
+std::string readFormInfo(const std::string& section, const std::string& key);
 // The first field index of a comma list of the catalogue (SSNIndex, NameAddrIndex ...); nothing for an
 // empty list or one that starts with no number.
 std::optional<int> firstFieldIndex(const std::string& list);

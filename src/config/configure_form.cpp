@@ -95,7 +95,7 @@ void ConfigureForm::loadForm() {
     Frame1.height = lblNote.height;
 
     const std::string& extension = g().edition.fileExtension;
-    FileNameFormats = {
+    fileNameFormats = {
         "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
         "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
 
@@ -198,10 +198,10 @@ void ConfigureForm::onPrinterChosen() {
     });
 }
 
-void ConfigureForm::onFileNameOption(int Index) {
-    runGuarded("F1_Configure:optFileName_Click", [this, Index] {
-        writeUserInf("FileNameFmt", std::to_string(Index));
-        g().choices.fileNameFormat = FileNameFormats.at(static_cast<std::size_t>(Index));
+void ConfigureForm::onFileNameOption(int fieldIndex) {
+    runGuarded("F1_Configure:optFileName_Click", [this, fieldIndex] {
+        writeUserInf("FileNameFmt", std::to_string(fieldIndex));
+        g().choices.fileNameFormat = fileNameFormats.at(static_cast<std::size_t>(fieldIndex));
     });
 }
 
@@ -236,7 +236,7 @@ void ConfigureForm::onGotFocus(Control& control) {
 }
 
 void ConfigureForm::onChange(Control& control) {
-    if (isFigureField(control)) bChanged = true;
+    if (isFigureField(control)) changed = true;
 }
 
 void ConfigureForm::onValidate(Control& control, bool& cancel) {
@@ -280,11 +280,11 @@ Control& ConfigureForm::focusOnOpening(int) { return cbxPrinters; }
 
 void ConfigureForm::saveCommand() {
     storeRates();
-    bChanged = false;
+    changed = false;
 }
 
 void ConfigureForm::afterPrinted() {
-    bChanged = false;
+    changed = false;
     setFocus(cbxPrinters);
 }
 

@@ -15,9 +15,9 @@ public:
     ConfigureForm();
 
     // Set when the operator changes a figure; the frame's Save and Print clear it. Nothing reads it.
-    bool bChanged = false;
+    bool changed = false;
     // The four file name templates, each followed by the edition's file extension.
-    std::array<std::string, 4> FileNameFormats;
+    std::array<std::string, 4> fileNameFormats;
 
     Control& Frame6;  // holds the whole panel; Clip and Print cut the form at its bottom
     Control& Frame1;  // the printer frame
@@ -70,8 +70,8 @@ public:
     void afterYearChange() override;
 
     void onPrinterChosen();
-    void onFileNameOption(int Index);
-    void onStatusOption(int Index);
+    void onFileNameOption(int index);
+    void onStatusOption(int index);
 
     // One of the six figure fields, and the figure it shows.
     bool isFigureField(const Control& control) const;

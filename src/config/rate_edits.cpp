@@ -77,9 +77,11 @@ void normaliseRateAmount(Control& ctl) {
 
 }  // namespace
 
-bool checkRateField(Control& Ctl) { return edited(Ctl, kEditRateLabel, normaliseRate); }
+bool checkRateField(Control& rateField) { return edited(rateField, kEditRateLabel, normaliseRate); }
 
-bool checkRateAmountField(Control& Ctl) { return edited(Ctl, kEditMoneyLabel, normaliseRateAmount); }
+bool checkRateAmountField(Control& rateField) {
+    return edited(rateField, kEditMoneyLabel, normaliseRateAmount);
+}
 
 bool validateAllRates(Form& configureForm) {
     struct Field {

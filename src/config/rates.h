@@ -19,8 +19,8 @@ void loadRates();
 
 // Edits of a rate field and an amount field: true when the text is good, and then rewritten to its
 // normal form. A bad text is reported as a Data Error, the field keeps the focus, and false comes back.
-bool checkRateField(Control& Ctl);
-bool checkRateAmountField(Control& Ctl);
+bool checkRateField(Control& ctl);
+bool checkRateAmountField(Control& ctl);
 
 // The six fields by their edits in form order; the first that fails ends it with false.
 bool validateAllRates(Form& configureForm);
@@ -42,7 +42,7 @@ void offerToSaveChangedRates();
 
 // One line of the table of changes: the item in 22 characters, the two values right-aligned in 9 each,
 // then a line end. Longer texts stand whole.
-std::string rateChangeRow(const std::string& Item, const std::string& Original, const std::string& Current);
+std::string rateChangeRow(const std::string& item, const std::string& original, const std::string& current);
 
 // The loaded configuration form, or CurrentForm when it is not loaded.
 Form& configureFormInUse();

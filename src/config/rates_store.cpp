@@ -109,20 +109,21 @@ void storeRates() {
     });
 }
 
-std::string rateChangeRow(const std::string& Item, const std::string& Original, const std::string& Current) {
-    return padRight(Item, 22) + padLeft(Original, 9) + padLeft(Current, 9) + "\r\n";
+std::string rateChangeRow(const std::string& rateItem, const std::string& original,
+                          const std::string& currentValue) {
+    return padRight(rateItem, 22) + padLeft(original, 9) + padLeft(currentValue, 9) + "\r\n";
 }
 
 void offerToSaveChangedRates() {
     runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
         Form& form = configureFormInUse();
         const std::string year = g().taxYear.text();
-        struct Item {
+        struct rateItem {
             const char* caption;
             const char* key;
             std::string current;
         };
-        const std::array<Item, 6> items = {{
+        const std::array<rateItem, 6> items = {{
             {"SS Rate", "SSRate", form.at("txtSSRate").text},
             {"SS Max", "SSMax", config::formatClassic(form.at("txtSSMax").text, "#######")},
             {"MC Rate", "MCInitRate", form.at("txtMCInitRate").text},

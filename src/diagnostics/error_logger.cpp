@@ -37,10 +37,10 @@ const Form* currentForm() {
 std::unique_ptr<ErrorReportForm> reportForm(const std::string& module, int number,
                                             const std::string& description) {
     auto form = std::make_unique<ErrorReportForm>();
-    form->F8_App = programVersionText();
-    form->F8_Module = module;
-    form->F8_ErrNo = std::to_string(number);
-    form->F8_ErrDesc = description;
+    form->reportAppName = programVersionText();
+    form->reportModule = module;
+    form->reportErrorNumber = std::to_string(number);
+    form->reportErrorText = description;
     return form;
 }
 
@@ -56,24 +56,24 @@ std::string errorFormText() {
     return "Name    = " + name + "\r\n" + "Caption = " + text::trim(frameCaption.substr(equals + 1));
 }
 
-void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
+void logError(const std::string& proc, int errNo, const std::string& errDesc) {
     if (nesting >= kMaxNesting) {
-        std::cerr << Proc << ": error " << ErrNo << ": " << ErrDesc << " (not shown: reports nested too deep)"
+        std::cerr << proc << ": error " << errNo << ": " << errDesc << " (not shown: reports nested too deep)"
                   << std::endl;
         return;
     }
     NestingGuard guard;
     Fault ownFault;
     try {
-        if (isDataError(ErrNo)) {
-            const std::string message = "Procedure Name:        " + Proc + "\r" +
-                                        "Error Number:          " + std::to_string(ErrNo) + "\r" +
-                                        "Error Description:     " + ErrDesc + "\r";
+        if (isDataError(errNo)) {
+            const std::string message = "Procedure Name:        " + proc + "\r" +
+                                        "Error Number:          " + std::to_string(errNo) + "\r" +
+                                        "Error Description:     " + errDesc + "\r";
             showMessageBox({"Data Error", message});
             return;
         }
-        auto form = reportForm(Proc, ErrNo, ErrDesc);
-        form->F8_Form = errorFormText();
+        auto form = reportForm(proc, errNo, errDesc);
+        form->reportFormName = errorFormText();
         showErrorReport(std::move(form));
         return;
     } catch (const ProgramEnded&) {
@@ -87,11 +87,11 @@ void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc) {
         if (program().g.process.debug) stopForProgrammer(kOwnLabel, ownFault);
         auto form = reportForm(kOwnLabel, ownFault.number, ownFault.description);
         try {
-            form->F8_Form = errorFormText();
+            form->reportFormName = errorFormText();
         } catch (const ProgramEnded&) {
             throw;
         } catch (...) {
-            form->F8_Form.clear();
+            form->reportFormName.clear();
         }
         showErrorReport(std::move(form));
     } catch (const ProgramEnded&) {

@@ -6,8 +6,8 @@
 
 namespace lw {
 
-// Proc is the label "<module or form>:<procedure>" of the procedure that failed.
-void logError(const std::string& Proc, int ErrNo, const std::string& ErrDesc);
+// proc is the label "<module or form>:<procedure>" of the procedure that failed.
+void logError(const std::string& proc, int errNo, const std::string& errDesc);
 
 // The form in use as the report form shows it: with a "=" in the frame's caption, the current form's name
 // and the caption's text after the "=" on two lines; else the current form's name alone; "" with none.

@@ -125,12 +125,12 @@ ErrorReportForm::ErrorReportForm()
 void ErrorReportForm::onLoad() {
     // The blank report of the user's guide is made from a start with "Error" on the command line.
     cmdClearAndCopyForDocument.visible = text::containsNoCase(program().platform.commandLine(), "Error");
-    caption = "Error in " + F8_App;
-    Label2[0]->caption = F8_App;
-    Label2[1]->caption = F8_Module;
-    Label2[2]->caption = F8_Form;
-    Label2[3]->caption = F8_ErrNo;
-    Label2[4]->caption = F8_ErrDesc;
+    caption = "Error in " + reportAppName;
+    Label2[0]->caption = reportAppName;
+    Label2[1]->caption = reportModule;
+    Label2[2]->caption = reportFormName;
+    Label2[3]->caption = reportErrorNumber;
+    Label2[4]->caption = reportErrorText;
     Label2[5]->caption = program().platform.now().toDisplayText();
     Label5.caption = errorReportInstructions();
 }
@@ -184,9 +184,13 @@ void resetErrorReports() { lastRecord().reset(); }
 void showErrorReport(std::unique_ptr<ErrorReportForm> owned) {
     Desktop& desktop = program().desktop;
     ErrorReportForm& form = static_cast<ErrorReportForm&>(desktop.load(std::move(owned)));
-    ErrorReportRecord record{
-        form.F8_App, form.F8_Module, form.F8_Form, form.F8_ErrNo, form.F8_ErrDesc, form.Label2[5]->caption,
-        {}};
+    ErrorReportRecord record{form.reportAppName,
+                             form.reportModule,
+                             form.reportFormName,
+                             form.reportErrorNumber,
+                             form.reportErrorText,
+                             form.Label2[5]->caption,
+                             {}};
     closingText().clear();
     // The form is gone once showModal returns: its Unload left the operator's words behind.
     desktop.showModal(form);

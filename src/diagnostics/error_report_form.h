@@ -26,11 +26,11 @@ public:
     ErrorReportForm();
 
     // Filled by logError before the form is loaded.
-    std::string F8_App;
-    std::string F8_Module;
-    std::string F8_Form;
-    std::string F8_ErrNo;
-    std::string F8_ErrDesc;
+    std::string reportAppName;
+    std::string reportModule;
+    std::string reportFormName;
+    std::string reportErrorNumber;
+    std::string reportErrorText;
 
     Control& Frame3;                 // information about the error
     std::array<Control*, 5> Label1;  // the captions "Program:" .. "Date/Time:"

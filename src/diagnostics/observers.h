@@ -7,10 +7,10 @@
 
 namespace lw {
 
-template <class Record>
+template <class recordLine>
 class ObserverList {
 public:
-    using Observer = std::function<void(const Record&)>;
+    using Observer = std::function<void(const recordLine&)>;
 
     int add(Observer observer) {
         entries_.emplace_back(++lastId_, std::move(observer));
@@ -26,7 +26,7 @@ public:
         }
     }
 
-    void notify(const Record& record) const {
+    void notify(const recordLine& record) const {
         // An observer may add or remove observers while it runs: call a copy.
         auto entries = entries_;
         for (const auto& entry : entries) entry.second(record);

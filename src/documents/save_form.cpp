@@ -61,21 +61,22 @@ void tell(const std::string& source, const std::string& message) { showMessageBo
 
 }  // namespace
 
-bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source) {
+bool writeRecord(const std::string& filePath, const std::string& recordLine, const std::string& sourceLabel) {
     std::string error;
-    if (store::writeFileAtomically(Path, Record + kLineEnd, error)) return true;
-    const std::string folder = folderOf(Path);
+    if (store::writeFileAtomically(filePath, recordLine + kLineEnd, error)) return true;
+    const std::string folder = folderOf(filePath);
     // Each line starts with a short word, so that the box can break a long path after it.
     if (!folderExists(folder) || !canWriteInto(folder)) {
         // The remembered folder may be the one that is gone: the next dialog must not start there.
         verifyRememberedFolder(FileDialogMode::Save);
-        tell(Source, std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
-                         "This folder does not exist or cannot be written. Choose another folder and save "
-                         "again.");
+        tell(sourceLabel,
+             std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
+                 "This folder does not exist or cannot be written. Choose another folder and save "
+                 "again.");
         return false;
     }
-    tell(Source, std::string("The file was NOT saved; a file of that name is unchanged.") + kLineEnd +
-                     "File: " + Path + kLineEnd + "Reason: " + error);
+    tell(sourceLabel, std::string("The file was NOT saved; a file of that name is unchanged.") + kLineEnd +
+                          "File: " + filePath + kLineEnd + "Reason: " + error);
     return false;
 }
 
@@ -156,15 +157,15 @@ void SaveForm::onLoad() {
             std::string("ASSIGN Next Sequence Number") + kLineEnd + "CREATE new file" + kLineEnd + "EXIT";
         cmdExit.caption = "Exit WITHOUT SAVING";
 
-        const std::size_t slash = F7_Path.find_last_of('/');
-        F7_Folder = folderOf(F7_Path);
-        const std::string fileName = slash == std::string::npos ? F7_Path : F7_Path.substr(slash + 1);
+        const std::size_t slash = savePath.find_last_of('/');
+        saveFolder = folderOf(savePath);
+        const std::string fileName = slash == std::string::npos ? savePath : savePath.substr(slash + 1);
         const std::size_t dot = fileName.rfind('.');
-        F7_Extension = dot == std::string::npos ? std::string() : fileName.substr(dot + 1);
-        F7_BaseName = dot == std::string::npos ? fileName : fileName.substr(0, dot);
+        saveExtension = dot == std::string::npos ? std::string() : fileName.substr(dot + 1);
+        saveBaseName = dot == std::string::npos ? fileName : fileName.substr(0, dot);
 
-        Text1.text = F7_BaseName;
-        Text2.text = F7_Extension;
+        Text1.text = saveBaseName;
+        Text2.text = saveExtension;
         Label1.caption =
             std::string(
                 "File Names must be UNIQUE (including Disk, Folder/Directory and File Name). The File Names "
@@ -175,7 +176,7 @@ void SaveForm::onLoad() {
         onText1Change();
 
         const bool f99 = text::containsNoCase(program().platform.commandLine(), "F99");
-        Label2.caption = saveFormCurrentText(F7_Folder, F7_BaseName, F7_Extension, f99);
+        Label2.caption = saveFormCurrentText(saveFolder, saveBaseName, saveExtension, f99);
         Label2.height = lineCount(Label2.caption) * kTextLineHeight;
 
         int top = Label2.top + Label2.height + 2 * kGap;
@@ -202,19 +203,19 @@ void SaveForm::onClick(Control& control, MouseButton) {
 
 void SaveForm::onText1Change() {
     cmdSave.caption =
-        "SAVE" + std::string(kLineEnd) + pathOf(F7_Folder, Text1.text, F7_Extension) + kLineEnd + "EXIT";
+        "SAVE" + std::string(kLineEnd) + pathOf(saveFolder, Text1.text, saveExtension) + kLineEnd + "EXIT";
 }
 
 void SaveForm::onSave() {
     runGuarded(kSaveLabel, [this] {
         if (Text1.text.empty()) {
             tell(kSaveLabel, "File Name BLANK - Restoring Original File Name.");
-            Text1.text = F7_BaseName;
+            Text1.text = saveBaseName;
             onText1Change();
             setFocus(Text1);
             return;
         }
-        if (text::equalsNoCase(Text1.text, F7_BaseName)) {
+        if (text::equalsNoCase(Text1.text, saveBaseName)) {
             end(SaveOutcome::WriteSamePath);
             return;
         }
@@ -222,9 +223,9 @@ void SaveForm::onSave() {
         const std::optional<std::string> record = buildRecord();
         if (!record) return;
         g().document.formRecord = *record;
-        if (!writeRecord(pathOf(F7_Folder, Text1.text, Text2.text), g().document.formRecord, kSaveLabel))
+        if (!writeRecord(pathOf(saveFolder, Text1.text, Text2.text), g().document.formRecord, kSaveLabel))
             return;
-        const std::string old = pathOf(F7_Folder, F7_BaseName, Text2.text);
+        const std::string old = pathOf(saveFolder, saveBaseName, Text2.text);
         std::error_code ec;
         std::filesystem::remove(old, ec);
         if (ec)
@@ -260,7 +261,7 @@ std::string SaveForm::nextSequencePath(const std::string& path) {
 
 void SaveForm::onNewSequence() {
     runGuarded(kSequenceLabel, [this] {
-        const std::string target = nextSequencePath(pathOf(F7_Folder, Text1.text, Text2.text));
+        const std::string target = nextSequencePath(pathOf(saveFolder, Text1.text, Text2.text));
         if (target.empty()) {
             tell(kSequenceLabel,
                  std::string("No sequence number can be assigned: the File Name must end in _ "
@@ -284,7 +285,7 @@ void SaveForm::end(SaveOutcome outcome) {
 SaveOutcome SaveForm::run(const std::string& path) {
     Desktop& desktop = program().desktop;
     auto owned = std::make_unique<SaveForm>();
-    owned->F7_Path = path;
+    owned->savePath = path;
     // A form closed by any other way than its buttons has written nothing.
     const std::shared_ptr<const SaveOutcome> outcome = owned->outcome();
     SaveForm& form = static_cast<SaveForm&>(desktop.load(std::move(owned)));

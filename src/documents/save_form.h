@@ -11,9 +11,9 @@
 namespace lw {
 
 // Writes the record and its line end to the path, whole or not at all. On failure the file on disk is
-// unchanged, the operator is told why in a box titled with Source, and the result is false; a folder that
+// unchanged, the operator is told why in a box titled with source, and the result is false; a folder that
 // is gone or cannot be written also has its remembered save folder checked.
-bool writeRecord(const std::string& Path, const std::string& Record, const std::string& Source);
+bool writeRecord(const std::string& filePath, const std::string& record, const std::string& source);
 
 class SaveForm : public Form {
 public:
@@ -30,11 +30,11 @@ public:
     std::shared_ptr<const SaveOutcome> outcome() const { return outcome_; }
 
     // Given by run before the form is loaded.
-    std::string F7_Path;
+    std::string savePath;
     // Split from the path at loadForm.
-    std::string F7_Folder;
-    std::string F7_BaseName;  // as it came in: the name a rename deletes
-    std::string F7_Extension;
+    std::string saveFolder;
+    std::string saveBaseName;  // as it came in: the name a rename deletes
+    std::string saveExtension;
 
     Control& Label1;  // why names must be unique
     Control& Label3_0;

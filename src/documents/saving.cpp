@@ -81,7 +81,7 @@ std::string safeFileName(const std::string& name) {
 
 namespace {
 
-std::optional<std::string> buildFileName(int& FocusIndex) {
+std::optional<std::string> buildFileName(int& focusIndex) {
     Form* found = loadedCurrentForm();
     if (!found) raiseDataError(800, "You must open an existing form or create a new form before continuing.");
     Form& form = *found;
@@ -97,7 +97,7 @@ std::optional<std::string> buildFileName(int& FocusIndex) {
         return safeFileName(*own);
     }
 
-    if (rules && !rules->requiredFieldsFilled(FocusIndex)) return std::nullopt;
+    if (rules && !rules->requiredFieldsFilled(focusIndex)) return std::nullopt;
 
     std::string other;
     if (text::isNumeric(g().document.catalogue.otherInfo)) {
@@ -105,7 +105,7 @@ std::optional<std::string> buildFileName(int& FocusIndex) {
         other = other.substr(0, other.find('\r'));
     }
 
-    FocusIndex = 0;
+    focusIndex = 0;
     validateActiveControl(form);
     const std::optional<std::string> record = buildRecord();
     g().document.formRecord = record.value_or("");
@@ -124,7 +124,7 @@ std::optional<std::string> buildFileName(int& FocusIndex) {
 
     if (const std::optional<int> numberIndex = firstFieldIndex(g().document.catalogue.ssnIndex)) {
         if (fieldText(form, *numberIndex).empty()) {
-            FocusIndex = *numberIndex;
+            focusIndex = *numberIndex;
             raiseDataError(801, "Social Security/Taxpayer ID Number is MANDATORY", kNameLabel);
         }
     }
@@ -152,8 +152,8 @@ std::optional<std::string> buildFileName(int& FocusIndex) {
     return safeFileName(fileName);
 }
 
-void saveFile(int& FocusIndex) {
-    const std::optional<std::string> proposed = proposeFileName(FocusIndex);
+void saveFile(int& focusIndex) {
+    const std::optional<std::string> proposed = proposeFileName(focusIndex);
     if (!proposed || proposed->empty()) return;
 
     const std::string& extension = g().edition.fileExtension;
@@ -190,19 +190,19 @@ void saveFile(int& FocusIndex) {
 
 }  // namespace
 
-std::optional<std::string> proposeFileName(int& FocusIndex) {
+std::optional<std::string> proposeFileName(int& focusIndex) {
     return runGuardedOr<std::optional<std::string>>(kNameLabel, std::nullopt,
-                                                    [&] { return buildFileName(FocusIndex); });
+                                                    [&] { return buildFileName(focusIndex); });
 }
 
 void saveDataFile() {
-    int FocusIndex = 0;
-    runGuarded(kSaveLabel, [&] { saveFile(FocusIndex); });
+    int focusIndex = 0;
+    runGuarded(kSaveLabel, [&] { saveFile(focusIndex); });
     // Whatever happened above, the operator goes on in the field the naming chose.
     Form* form = loadedCurrentForm();
     if (!form) return;
     runGuarded(kSaveLabel, [&] {
-        if (Control* field = form->find("Text1", FocusIndex)) {
+        if (Control* field = form->find("Text1", focusIndex)) {
             setUpControl(*field, false);
             form->setFocus(*field);
         }

@@ -7,8 +7,8 @@
 namespace lw {
 
 // The proposed file name; fills FormRecord. Nothing when the form lacks what a name or a record is made
-// of: the operator has been told why. FocusIndex names the field to return to.
-std::optional<std::string> proposeFileName(int& FocusIndex);
+// of: the operator has been told why. focusIndex names the field to return to.
+std::optional<std::string> proposeFileName(int& focusIndex);
 
 // A file name that stays in its folder on Linux and Windows alike: / \ : * ? " < > | and control
 // characters become "-".

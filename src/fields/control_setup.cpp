@@ -66,7 +66,7 @@ const FieldRules& rulesOfTheFormOf(const Control& ctl) {
 
 Color legendColor(int index) { return g().edition.legendColors.at(static_cast<std::size_t>(index)); }
 
-void setUpControl(Control& ctl, bool bSetUp) {
+void setUpControl(Control& ctl, bool setUp) {
     const std::string name = text::toUpper(ctl.name);
     if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
         g().document.lastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
@@ -75,7 +75,7 @@ void setUpControl(Control& ctl, bool bSetUp) {
                 status->caption = ctl.toolTipText;
         }
     }
-    if (bSetUp)
+    if (setUp)
         setUpAlignment(ctl);
     else
         setUpBackColor(ctl);

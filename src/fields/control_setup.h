@@ -7,8 +7,8 @@
 
 namespace lw {
 
-// bSetUp true: the one-time set-up of resetFormLook; false: the field has just taken the focus.
-void setUpControl(Control& ctl, bool bSetUp);
+// setUp true: the one-time set-up of resetFormLook; false: the field has just taken the focus.
+void setUpControl(Control& ctl, bool setUp);
 void setUpAlignment(Control& ctl);
 void setUpBackColor(Control& ctl);
 

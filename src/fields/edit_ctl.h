@@ -33,12 +33,12 @@ bool editNameBlock(Control& ctl);
 // Seven digits get the area code 999; ten digits are shown as (212) 555-1212. Never fails.
 bool editPhone(Control& ctl);
 
-// Looks for the text of Text1(iIndex) of CurrentForm among Text1(0) to Text1(n-1), n being the number of
+// Looks for the text of Text1(fieldIndex) of CurrentForm among Text1(0) to Text1(n-1), n being the number of
 // items of the comma list; the items' values are not used. 99 for no duplicate, else the index found; a
 // duplicate is selected for overtyping and the operator told.
-std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex);
+std::int32_t checkDuplicateNumbers(const std::string& indexList, int fieldIndex);
 
-// Places of sText where sFind starts, overlapping ones included; blind to case unless bCaseSensitive.
-std::int16_t countCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive);
+// Places of textGiven where wanted starts, overlapping ones included; blind to case unless caseSensitive.
+std::int16_t countCharacters(const std::string& textGiven, const std::string& wanted, bool caseSensitive);
 
 }  // namespace lw

@@ -67,7 +67,7 @@ bool formatDateText(Control& ctl) {
     return result;
 }
 
-bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& sRequiredYear) {
+bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& requiredYear) {
     bool result = true;
     try {
         clearStatusLine();
@@ -76,8 +76,8 @@ bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& sRe
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);
         if (lastFour(ctl.text) == "20XX" && taxYear != "20XX") correctYear(ctl, taxYear, 802, "Date ");
-        if (!sRequiredYear.empty() && !ctl.text.empty() && lastFour(ctl.text) != sRequiredYear)
-            correctYear(ctl, sRequiredYear, 803, "Date MUST match the Tax Year shown on the form\r\n");
+        if (!requiredYear.empty() && !ctl.text.empty() && lastFour(ctl.text) != requiredYear)
+            correctYear(ctl, requiredYear, 803, "Date MUST match the Tax Year shown on the form\r\n");
     } catch (const ProgramEnded&) {
         throw;
     } catch (...) {

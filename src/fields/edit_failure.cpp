@@ -15,14 +15,14 @@ void clearStatusLine() {
     if (Control* status = statusLine()) status->caption.clear();
 }
 
-void showInvalidField(Control& ctl, int iColour, const std::string& sMessage) {
+void showInvalidField(Control& ctl, int colour, const std::string& message) {
     if (Control* status = statusLine()) {
-        status->caption = sMessage.empty() ? "Value Entered: [" + ctl.text + "] is INVALID" : sMessage;
+        status->caption = message.empty() ? "Value Entered: [" + ctl.text + "] is INVALID" : message;
         status->foreColor = kRed;
         program().ui.refresh();
     }
     if (Form* frame = program().desktop.frame()) {
-        if (Control* legend = frame->find("txtLegend", iColour)) ctl.backColor = legend->backColor;
+        if (Control* legend = frame->find("txtLegend", colour)) ctl.backColor = legend->backColor;
     }
 }
 

@@ -8,7 +8,7 @@
 
 namespace lw {
 
-void showInvalidField(Control& ctl, int iColour, const std::string& sMessage);
+void showInvalidField(Control& ctl, int colour, const std::string& message);
 
 // Clears the status line of CurrentForm; a form without one is fine.
 void clearStatusLine();

@@ -58,17 +58,17 @@ bool editSsnOrItin(Control& ctl) {
     });
 }
 
-std::int32_t checkDuplicateNumbers(const std::string& sIndexList, int iIndex) {
+std::int32_t checkDuplicateNumbers(const std::string& indexList, int fieldIndex) {
     std::int32_t result = 99;
     runGuarded("M7_Edits:DuplicateTinCheck", [&] {
         if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");
         Form& form = *program().g.document.currentForm;
-        Control& field = form.at("Text1", iIndex);
+        Control& field = form.at("Text1", fieldIndex);
         if (field.text.empty()) return;
         // The loop counter, not the list's items, picks the fields compared.
-        const int count = static_cast<int>(text::split(sIndexList, ",").size());
+        const int count = static_cast<int>(text::split(indexList, ",").size());
         for (int i = 0; i < count; ++i) {
-            if (i == iIndex || form.at("Text1", i).text != field.text) continue;
+            if (i == fieldIndex || form.at("Text1", i).text != field.text) continue;
             result = i;
             field.select(0, 12);
             if (Control* status = form.find("labelMisc")) {

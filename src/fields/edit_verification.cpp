@@ -24,9 +24,9 @@ bool editVerificationCode(Control& ctl) {
     });
 }
 
-std::int16_t countCharacters(const std::string& sText, const std::string& sFind, bool bCaseSensitive) {
-    const std::string haystack = bCaseSensitive ? sText : text::toUpper(sText);
-    const std::string needle = bCaseSensitive ? sFind : text::toUpper(sFind);
+std::int16_t countCharacters(const std::string& textGiven, const std::string& wanted, bool caseSensitive) {
+    const std::string haystack = caseSensitive ? textGiven : text::toUpper(textGiven);
+    const std::string needle = caseSensitive ? wanted : text::toUpper(wanted);
     std::int32_t count = 0;
     for (std::size_t i = 0; i < haystack.size(); ++i) {
         if (haystack.compare(i, needle.size(), needle) != 0) continue;

@@ -33,11 +33,11 @@ void BenefitStatementForm::onLoad() {
                            "will be performed. If an error is detected a message will be displayed.";
 }
 
-void BenefitStatementForm::onValidate(Control& ctl, bool& Cancel) {
+void BenefitStatementForm::onValidate(Control& ctl, bool& cancel) {
     if (!isText1(ctl)) return;
     runGuarded(validateLabel(), [&] {
         if (!editField(ctl)) {
-            Cancel = true;
+            cancel = true;
             return;
         }
         afterFieldStands(ctl.index);

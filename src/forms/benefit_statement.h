@@ -20,7 +20,7 @@ public:
 
     void onLoad() override;
     // A field of Text1 is edited as it is left; once it stands, the statement's own step follows.
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     std::string outputRefusal() const override;
 
     // Set while a computed amount is reported below nought; the next pass that would compute clears it

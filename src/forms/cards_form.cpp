@@ -35,18 +35,18 @@ void CardsForm::onLoad() {
 }
 
 void CardsForm::refuse(int& keyAscii, const std::string& message) {
-    CardMessage = message;
+    cardMessage = message;
     Control& status = at("labelMisc");
     status.foreColor = kRed;
     status.caption = message;
     keyAscii = 0;
 }
 
-void CardsForm::showCard(int Index, const char* pictureName) {
-    at("Image1", Index / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
+void CardsForm::showCard(int fieldIndex, const char* pictureName) {
+    at("Image1", fieldIndex / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
 }
 
-void CardsForm::clearCard(int Index) { at("Image1", Index / 2).picture.clear(); }
+void CardsForm::clearCard(int fieldIndex) { at("Image1", fieldIndex / 2).picture.clear(); }
 
 void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!isFieldArray(ctl)) return;
@@ -56,10 +56,10 @@ void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
         if (keyAscii >= 'a' && keyAscii <= 'z') keyAscii -= 32;
         return;
     }
-    const int Index = ctl.index;
+    const int fieldIndex = ctl.index;
     const std::size_t length = ctl.text.size();
     if (keyAscii == keys::kBackspace) {
-        if (length == 1) clearCard(Index);
+        if (length == 1) clearCard(fieldIndex);
         setFocus(ctl);
     } else if (keyAscii == 'X' || keyAscii == 'x') {
         return refuse(keyAscii, "Appropriate number of 'X's' will appended");
@@ -72,29 +72,29 @@ void CardsForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (!ctl.text.empty()) return;
     if (keyAscii == '-') return refuse(keyAscii, "SSN/ITIN can't start with HYPHEN (-)");
     if (keyAscii == '0') return refuse(keyAscii, "SSN/ITIN can't start with ZERO");
-    showCard(Index, keyAscii == '9' ? "ITIN.JPG" : "SSN.JPG");
+    showCard(fieldIndex, keyAscii == '9' ? "ITIN.JPG" : "SSN.JPG");
     setFocus(ctl);
 }
 
-void CardsForm::onValidate(Control& ctl, bool& Cancel) {
+void CardsForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    const int Index = ctl.index;
+    const int fieldIndex = ctl.index;
     if (isNumberField(ctl)) {
-        showCard(Index, !ctl.text.empty() && ctl.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+        showCard(fieldIndex, !ctl.text.empty() && ctl.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
         std::string digits = text::replaceAll(ctl.text, "-", "");
         if (digits.empty()) {
-            clearCard(Index);
+            clearCard(fieldIndex);
         } else if (digits.size() < 3) {
             // A short number stands as typed; the message is kept and not shown.
-            CardMessage = "SSN/ITIN must start with 3 or more Numbers";
+            cardMessage = "SSN/ITIN must start with 3 or more Numbers";
             return;
         } else {
             if (digits.size() < 9) digits.append(9 - digits.size(), 'X');
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (Index % 2 == 0 && checkDuplicateNumbers(kNumberFields, Index) != 99) Cancel = true;
+    if (fieldIndex % 2 == 0 && checkDuplicateNumbers(kNumberFields, fieldIndex) != 99) cancel = true;
 }
 
 void CardsForm::giveOwnLook() {

@@ -15,7 +15,7 @@ public:
 
     void onLoad() override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     // The labels take the panel's grey, but for the three that carry the cards' own colour.
     void giveOwnLook() override;
     // Numbers in Tahoma 14 bold, names in Tahoma 11 bold.
@@ -36,12 +36,12 @@ public:
     bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 
     // The last message of the key and leave rules, shown or not.
-    std::string CardMessage;
+    std::string cardMessage;
 
 private:
     void refuse(int& keyAscii, const std::string& message);
-    void showCard(int Index, const char* pictureName);
-    void clearCard(int Index);
+    void showCard(int index, const char* pictureName);
+    void clearCard(int index);
 };
 
 void registerCardsForm();

@@ -32,7 +32,7 @@ void CheckForm::styleTextBox(Control& box) {
 bool CheckForm::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec& b) {
     Control& payer = at("Text1", 0);
     payer.fontSize = 9;
-    payer.text = a.Name + "\r\n" + b.Name + "\r\n" + a.Address;
+    payer.text = a.name + "\r\n" + b.name + "\r\n" + a.address;
     return true;
 }
 

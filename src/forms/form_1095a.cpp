@@ -28,9 +28,9 @@ bool isText1(const Control& ctl) { return isFieldArray(ctl) && text::equalsNoCas
 
 }  // namespace
 
-MonthColumn monthColumnOf(int Index) {
+MonthColumn monthColumnOf(int fieldIndex) {
     for (const MonthColumn& column : {Form1095A::kColumnA, Form1095A::kColumnB, Form1095A::kColumnC})
-        if (Index >= column.first && Index <= column.last) return column;
+        if (fieldIndex >= column.first && fieldIndex <= column.last) return column;
     return {};
 }
 
@@ -52,7 +52,7 @@ void Form1095A::giveMoneyTip(Control& field) const {
 
 void Form1095A::onGotFocus(Control& ctl) {
     TaxForm::onGotFocus(ctl);
-    if (isText1(ctl)) iLastIndex = ctl.index;
+    if (isText1(ctl)) lastIndex = ctl.index;
 }
 
 void Form1095A::onKeyDown(Control& ctl, int& keyCode, int /*shift*/) {
@@ -60,18 +60,18 @@ void Form1095A::onKeyDown(Control& ctl, int& keyCode, int /*shift*/) {
     if (monthColumnOf(ctl.index).total == 0) return;
     // F12 never reaches the key filter: it takes the path of the character with the same code.
     int key = keys::kF12;
-    onText1KeyPress(iLastIndex, key);
+    onText1KeyPress(lastIndex, key);
 }
 
 void Form1095A::onKeyPress(Control& ctl, int& keyAscii) {
     if (isText1(ctl)) onText1KeyPress(ctl.index, keyAscii);
 }
 
-void Form1095A::onValidate(Control& ctl, bool& Cancel) {
-    if (isText1(ctl)) onText1Validate(ctl.index, Cancel);
+void Form1095A::onValidate(Control& ctl, bool& cancel) {
+    if (isText1(ctl)) onText1Validate(ctl.index, cancel);
 }
 
-void Form1095A::onText1KeyPress(int Index, int& keyAscii) {
+void Form1095A::onText1KeyPress(int fieldIndex, int& keyAscii) {
     runGuarded("TF_1095A:Text1_KeyPress", [&] {
         if (keyAscii == keys::kEnter) {
             sendTabKey(*this);
@@ -79,55 +79,55 @@ void Form1095A::onText1KeyPress(int Index, int& keyAscii) {
             return;
         }
         // The test is on the code alone, so a typed "{" copies too, in any field of the form.
-        if (keyAscii == keys::kF12) copyDown(Index);
+        if (keyAscii == keys::kF12) copyDown(fieldIndex);
         if (keyAscii != keys::kCtrlC && keyAscii != keys::kCtrlV)
-            filterFieldKey(at("Text1", Index), keyAscii);
+            filterFieldKey(at("Text1", fieldIndex), keyAscii);
     });
 }
 
-void Form1095A::copyDown(int Index) {
+void Form1095A::copyDown(int fieldIndex) {
     bool ignored = false;
-    onText1Validate(iLastIndex, ignored);
-    iLastIndex = Index;
-    const std::string amount = at("Text1", Index).text;
-    const MonthColumn column = monthColumnOf(Index);
-    for (int i = Index + 1; i <= column.last; ++i) at("Text1", i).text = amount;
+    onText1Validate(lastIndex, ignored);
+    lastIndex = fieldIndex;
+    const std::string amount = at("Text1", fieldIndex).text;
+    const MonthColumn column = monthColumnOf(fieldIndex);
+    for (int i = fieldIndex + 1; i <= column.last; ++i) at("Text1", i).text = amount;
     // Outside the columns nothing is copied and Text1(0) is summed into itself.
     try {
-        AddEmUp(column.first, column.last, column.total);
+        addUpColumn(column.first, column.last, column.total);
     } catch (const std::overflow_error&) {
-        showTotalOutOfReach(Index, column.total);
+        showTotalOutOfReach(fieldIndex, column.total);
     }
 }
 
-void Form1095A::onText1Validate(int Index, bool& Cancel) {
+void Form1095A::onText1Validate(int fieldIndex, bool& cancel) {
     runGuarded("TF_1095A:Text1_Validate", [&] {
-        if (!editField(at("Text1", Index))) {
-            Cancel = true;
+        if (!editField(at("Text1", fieldIndex))) {
+            cancel = true;
             return;
         }
         // Column B takes in its own total here, the other two columns do not.
         MonthColumn column;
-        if (Index >= 38 && Index <= 49)
+        if (fieldIndex >= 38 && fieldIndex <= 49)
             column = kColumnA;
-        else if (Index >= 51 && Index <= 63)
+        else if (fieldIndex >= 51 && fieldIndex <= 63)
             column = kColumnB;
-        else if (Index >= 64 && Index <= 75)
+        else if (fieldIndex >= 64 && fieldIndex <= 75)
             column = kColumnC;
         else
             return;
         try {
-            AddEmUp(column.first, column.last, column.total);
+            addUpColumn(column.first, column.last, column.total);
         } catch (const std::overflow_error&) {
-            showTotalOutOfReach(Index, column.total);
-            Cancel = true;
+            showTotalOutOfReach(fieldIndex, column.total);
+            cancel = true;
         }
     });
 }
 
-void Form1095A::AddEmUp(int First, int Last, int Target) {
+void Form1095A::addUpColumn(int firstRow, int lastRow, int target) {
     text::Currency sum;
-    for (int i = First; i <= Last; ++i) {
+    for (int i = firstRow; i <= lastRow; ++i) {
         const std::string& amount = at("Text1", i).text;
         if (amount.empty()) continue;
         try {
@@ -136,12 +136,12 @@ void Form1095A::AddEmUp(int First, int Last, int Target) {
             throw AppError(err::kTypeMismatch, "Type mismatch", "TF_1095A:AddEmUp");
         }
     }
-    at("Text1", Target).text = text::formatCurrency(sum, kTotalMask);
+    at("Text1", target).text = text::formatCurrency(sum, kTotalMask);
 }
 
-void Form1095A::showTotalOutOfReach(int Index, int Target) {
-    Control& field = at("Text1", Index);
-    if (Target != Index) at("Text1", Target).text.clear();
+void Form1095A::showTotalOutOfReach(int fieldIndex, int target) {
+    Control& field = at("Text1", fieldIndex);
+    if (target != fieldIndex) at("Text1", target).text.clear();
     showInvalidField(field, kMoneyColour, "");
     field.foreColor = kRed;
 }

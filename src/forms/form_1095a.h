@@ -21,22 +21,22 @@ public:
     void onGotFocus(Control& ctl) override;
     void onKeyDown(Control& ctl, int& keyCode, int shift) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     // The monthly amounts' tip names the F12 copy; the other amounts keep the tips they are drawn with.
     void giveMoneyTip(Control& field) const override;
     // Load TP puts both people in as recipient and spouse and again among the covered individuals.
     bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 
     // The handlers by field index, as the key and focus events reach them.
-    void onText1KeyPress(int Index, int& keyAscii);
-    void onText1Validate(int Index, bool& Cancel);
-    // Text1(Target) becomes the sum of the non-empty Text1(First) to Text1(Last) under "$###,###.00".
+    void onText1KeyPress(int index, int& keyAscii);
+    void onText1Validate(int index, bool& cancel);
+    // Text1(target) becomes the sum of the non-empty Text1(First) to Text1(Last) under "$###,###.00".
     // A text that is no amount is a fault (AppError 13); a sum beyond the currency's reach throws
-    // std::overflow_error and leaves Target as it was.
-    void AddEmUp(int First, int Last, int Target);
+    // std::overflow_error and leaves target as it was.
+    void addUpColumn(int firstRow, int lastRow, int target);
 
     // The field that last took the focus.
-    int iLastIndex = 0;
+    int lastIndex = 0;
 
     static constexpr MonthColumn kColumnA{38, 49, 50};
     static constexpr MonthColumn kColumnB{51, 62, 63};
@@ -44,13 +44,13 @@ public:
 
 private:
     // F12 (or the character with its code): the remembered month's amount copied down its column.
-    void copyDown(int Index);
+    void copyDown(int index);
     // A total beyond reach: the field shows its own message, and the total claims no value.
-    void showTotalOutOfReach(int Index, int Target);
+    void showTotalOutOfReach(int index, int target);
 };
 
-// The column whose months hold Index, or all zeros outside the three columns.
-MonthColumn monthColumnOf(int Index);
+// The column whose months hold index, or all zeros outside the three columns.
+MonthColumn monthColumnOf(int index);
 
 // Makes TF_1095A known by name.
 void register1095AForm();

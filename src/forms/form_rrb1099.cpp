@@ -109,7 +109,7 @@ void FormRrb1099::copyIdentity() {
     }
 }
 
-void FormRrb1099::ComputeRRB(int /*Index*/) {
+void FormRrb1099::computeRailroadBenefits(int /*Index*/) {
     runGuarded(kComputeLabel, [&] {
         if (field(kGross).text.empty()) return;
         amount_ = RrbAmounts{};

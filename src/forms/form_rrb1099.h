@@ -23,8 +23,8 @@ public:
     // After Load TP the lower statement repeats the payee's number; the focus stays where it is.
     void afterTaxpayerFill() override;
 
-    // Works the net amount of the upper statement out; Index is the field being left.
-    void ComputeRRB(int Index);
+    // Works the net amount of the upper statement out; fieldIndex is the field being left.
+    void computeRailroadBenefits(int fieldIndex);
 
     static constexpr int kGross = 4;     // box 3
     static constexpr int kNet = 6;       // box 5
@@ -32,7 +32,7 @@ public:
     static constexpr int kTotalGrossPaid = 21;
 
 protected:
-    void compute(int index) override { ComputeRRB(index); }
+    void compute(int index) override { computeRailroadBenefits(index); }
     // Leaving an amount of the upper statement computes, one of the lower sums it; then the identity
     // is copied below.
     void afterFieldStands(int index) override;

@@ -32,7 +32,7 @@ void FormSsa1099::refillAfterClear() { field(kPartBPremium).text = partBPremiumO
 void FormSsa1099::onActivateForm() {
     runGuarded("TF_SSA1099:Form_Activate", [&] {
         field(kPartBPremium).text = partBPremiumOfYearInForce();
-        ComputeSSA(kPartBPremium);
+        computeSocialSecurityBenefits(kPartBPremium);
     });
 }
 
@@ -75,17 +75,17 @@ void FormSsa1099::onGotFocus(Control& ctl) {
     if (isText1(ctl)) onText1GotFocus(ctl.index);
 }
 
-void FormSsa1099::onText1GotFocus(int Index) {
+void FormSsa1099::onText1GotFocus(int fieldIndex) {
     ResetBackColor();
-    Control& ctl = field(Index);
+    Control& ctl = field(fieldIndex);
     setUpControl(ctl, false);
     // The address box starts with the name, ready for the address lines.
-    if (Index == kAddress && ctl.text.empty()) {
+    if (fieldIndex == kAddress && ctl.text.empty()) {
         ctl.text = field(kName).text + "\r\n";
         ctl.setSelStart(static_cast<int>(ctl.text.size()));
     }
     passComputedField(ctl);
-    myIndex = Index;
+    myIndex = fieldIndex;
 }
 
 void FormSsa1099::onLostFocus(Control& ctl) {
@@ -100,7 +100,7 @@ void FormSsa1099::afterFieldStands(int index) {
     if (leavingComputes(index)) computeUnlessJustReported(index);
 }
 
-void FormSsa1099::ComputeSSA(int Index) {
+void FormSsa1099::computeSocialSecurityBenefits(int fieldIndex) {
     runGuarded(kComputeLabel, [&] {
         if (field(kBox3).text.empty()) return;
         amount_ = SsaAmounts{};
@@ -116,7 +116,7 @@ void FormSsa1099::ComputeSSA(int Index) {
 
         const SsaShortfall shortfall = firstSsaShortfall(amount_);
         if (shortfall == SsaShortfall::None) {
-            myIndex = isComputed(Index + 1) ? Index + 2 : Index + 1;
+            myIndex = isComputed(fieldIndex + 1) ? fieldIndex + 2 : fieldIndex + 1;
             computationFailed = false;
             return;
         }

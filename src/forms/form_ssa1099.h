@@ -29,8 +29,8 @@ public:
 
     // The Part B premium of the year in force, over whatever the field held, then a computation.
     void onActivateForm();
-    // Works the dependent boxes out from the amounts on the form; Index is the field being left.
-    void ComputeSSA(int Index);
+    // Works the dependent boxes out from the amounts on the form; fieldIndex is the field being left.
+    void computeSocialSecurityBenefits(int fieldIndex);
     // Every typed field back to white; the computed ones keep their own colour.
     void ResetBackColor();
 
@@ -45,13 +45,13 @@ public:
     static constexpr int kClaimNumber = 15;  // box 8
 
 protected:
-    void compute(int index) override { ComputeSSA(index); }
+    void compute(int index) override { computeSocialSecurityBenefits(index); }
     // The claim number follows the number; leaving an amount computes.
     void afterFieldStands(int index) override;
 
 private:
     bool isComputed(int index) const;
-    void onText1GotFocus(int Index);
+    void onText1GotFocus(int fieldIndex);
 
     SsaAmounts amount_{};
 };

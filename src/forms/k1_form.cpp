@@ -33,7 +33,7 @@ K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {
 }
 
 void K1Form::onLoad() {
-    SetTabOrder();
+    setTabOrder();
     TaxForm::onLoad();
     keepK1DesignValues(*this);
     const std::string prefix = std::string("K1HELP") + text::kFieldSeparator + design_.key;
@@ -58,7 +58,7 @@ void K1Form::setUpCodeColumn(const char* array, const std::vector<K1CodedRows>& 
     }
 }
 
-void K1Form::SetTabOrder() {
+void K1Form::setTabOrder() {
     // Each control set to 0 pushes the ones set before it back: the last one set comes first.
     auto zero = [&](const char* array, int i) {
         if (Control* c = find(array, i)) setTabIndex(*c, 0);
@@ -110,12 +110,12 @@ void K1Form::onLostFocus(Control& ctl) {
     if (isFieldArray(ctl)) leavingRoutine(ctl, static_cast<int>(arrayOf(ctl.name).size()));
 }
 
-void K1Form::onKeyDown(Control& ctl, int& KeyCode, int) {
+void K1Form::onKeyDown(Control& ctl, int& keyCode, int) {
     const bool left = isArray(ctl, '2');
     if (!left && !isArray(ctl, '4')) return;
     focusRoutine(ctl, limitOf(ctl));
     const K1HelpKeys rule = left ? design_.text2Keys : design_.text4Keys;
-    if (k1KeyOpensList(rule, KeyCode) && text::equalsNoCase(ctl.tag.substr(0, 6), "K1HELP"))
+    if (k1KeyOpensList(rule, keyCode) && text::equalsNoCase(ctl.tag.substr(0, 6), "K1HELP"))
         openK1CodeList(*this, ctl);
 }
 

@@ -16,7 +16,7 @@ public:
     void onLoad() override;
     void onGotFocus(Control& ctl) override;
     void onLostFocus(Control& ctl) override;
-    void onKeyDown(Control& ctl, int& KeyCode, int Shift) override;
+    void onKeyDown(Control& ctl, int& keyCode, int Shift) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
     void onClick(Control& ctl, MouseButton button) override;
     // Tahoma 9, the text trimmed, and the code columns centred.
@@ -33,7 +33,7 @@ public:
     void afterTaxpayerFill() override;
 
     // All of Text1, then the left column row by row, code before amount, then the right column.
-    void SetTabOrder();
+    void setTabOrder();
 
     const K1Design& design() const { return design_; }
 

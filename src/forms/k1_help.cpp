@@ -56,23 +56,23 @@ void openK1CodeList(Form& form, Control& field) {
         if (key.empty()) return;
 
         K1HelpMembers& members = k1HelpMembers();
-        members.F97_K1Key = key;
-        members.F97_K1Box.clear();
-        members.F97_K1OverRide.clear();
-        members.K1Cancel = false;
+        members.listSectionKey = key;
+        members.chosenCode.clear();
+        members.chosenOverride.clear();
+        members.listCancelled = false;
         Desktop& desktop = program().desktop;
         Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         if (list.isLoaded()) desktop.showModal(list);
 
-        if (!members.F97_K1Box.empty()) {
-            field.text = members.F97_K1Box;
+        if (!members.chosenCode.empty()) {
+            field.text = members.chosenCode;
             const bool left = name == "TEXT2";
             Control& amount = form.at(left ? "Text3" : "Text5", index);
             // A code picked earlier for the row may have lifted the money check: it comes back first.
             const std::vector<std::string>& designTags =
                 left ? program().g.document.k1Design.tag3 : program().g.document.k1Design.tag5;
             amount.tag = designTags.at(static_cast<std::size_t>(index));
-            if (members.F97_K1OverRide == "X") amount.tag.clear();
+            if (members.chosenOverride == "X") amount.tag.clear();
             desktop.setFocus(amount);
             return;
         }

@@ -97,9 +97,9 @@ void K1HelpForm::onLoad() {
     Grid1.colAlignments = {kGridAlignRightCenter, kGridAlignLeftCenter, kGridAlignLeftCenter,
                            kGridAlignCenterCenter};
     Grid1.items = {"Box #\tPurpose\tAdditional Information\tO/R"};
-    caption = k1HelpCaption(members.F97_K1Key);
-    Label0.caption =
-        std::string(kIrsSentence) + "\r\n" + instructionsFor(members.F97_K1Key) + "\r\n" + kColumnSentence;
+    caption = k1HelpCaption(members.listSectionKey);
+    Label0.caption = std::string(kIrsSentence) + "\r\n" + instructionsFor(members.listSectionKey) + "\r\n" +
+                     kColumnSentence;
     Label1.caption =
         "Note: Most K1 codes require a MONETARY response.\r\n"
         "       A few require a TEXTUAL response.\r\n"
@@ -116,7 +116,7 @@ void K1HelpForm::onLoad() {
 
 void K1HelpForm::readSection() {
     const std::vector<std::string> lines = store::readInfSection(
-        k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
+        k1HelpMembers().listSectionKey, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
     for (const std::string& line : lines) Grid1.items.push_back(k1HelpGridRow(line));
 }
 
@@ -145,13 +145,13 @@ void K1HelpForm::onGridClick() {
     std::vector<std::string> cells = text::split(Grid1.items[static_cast<std::size_t>(row)], "\t");
     cells.resize(kColumns);
     K1HelpMembers& members = k1HelpMembers();
-    members.F97_K1Box = text::trim(cells[0]);
-    members.F97_K1OverRide = cells[3];
+    members.chosenCode = text::trim(cells[0]);
+    members.chosenOverride = cells[3];
     unload();
 }
 
 void K1HelpForm::onCancel() {
-    k1HelpMembers().K1Cancel = true;
+    k1HelpMembers().listCancelled = true;
     unload();
 }
 

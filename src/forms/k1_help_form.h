@@ -9,11 +9,11 @@ namespace lw {
 
 // The form's public members. They outlive the window: the caller reads the choice after it has closed.
 struct K1HelpMembers {
-    std::string F97_K1Form;      // not looked at by the list
-    std::string F97_K1Key;       // in: the section name
-    std::string F97_K1Box;       // out: the code clicked, trimmed; empty when none
-    std::string F97_K1OverRide;  // out: the O/R column of the row clicked, "X" to override
-    bool K1Cancel = false;       // out: true after Cancel
+    std::string listFormName;    // not looked at by the list
+    std::string listSectionKey;  // in: the section name
+    std::string chosenCode;      // out: the code clicked, trimmed; empty when none
+    std::string chosenOverride;  // out: the O/R column of the row clicked, "X" to override
+    bool listCancelled = false;  // out: true after Cancel
 };
 
 K1HelpMembers& k1HelpMembers();

@@ -50,9 +50,9 @@ void buildLicenseHolidays(const TaxYearChoice& taxYear) {
     g().choices.holidays = text::split(g().choices.holidayList, ",");
 }
 
-bool isLicenseHoliday(const std::string& sMonthDay) {
+bool isLicenseHoliday(const std::string& monthAndDay) {
     for (const std::string& holiday : g().choices.holidays)
-        if (holiday == sMonthDay) return true;
+        if (holiday == monthAndDay) return true;
     return false;
 }
 
@@ -68,28 +68,28 @@ text::CalendarDay shiftOffMidweek(const text::CalendarDay& dDate) {
     return text::plusDays(dDate, 1);
 }
 
-void fillLicenseDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
+void fillLicenseDates(const std::string& license, const std::string& birthDate, Control& ctlIssue,
                       Control& ctlExpire) {
-    if (sBirthDate.empty()) {
+    if (birthDate.empty()) {
         ctlIssue.text.clear();
         ctlExpire.text.clear();
         return;
     }
     const int thisYear = program().platform.now().year;
-    const std::string monthDay = sBirthDate.substr(0, 6);
+    const std::string monthDay = birthDate.substr(0, 6);
     ctlExpire.text = text::dateText(dateOrFault(monthDay + std::to_string(thisYear + 5)));
 
     const text::CalendarDay birthday = dateOrFault(monthDay + std::to_string(thisYear));
-    text::CalendarDay d = text::plusDays(birthday, sLicense == "1" ? -12 : -17);
-    std::string sMonthDay = monthDayOf(d);
+    text::CalendarDay d = text::plusDays(birthday, license == "1" ? -12 : -17);
+    std::string monthAndDay = monthDayOf(d);
     for (;;) {
-        if (isLicenseHoliday(sMonthDay)) {
+        if (isLicenseHoliday(monthAndDay)) {
             d = shiftOffMidweek(d);
-            sMonthDay = monthDayOf(d);
+            monthAndDay = monthDayOf(d);
         }
-        if (!isWeekend(dateOrFault(sMonthDay + "/" + std::to_string(d.year)))) break;
+        if (!isWeekend(dateOrFault(monthAndDay + "/" + std::to_string(d.year)))) break;
         d = shiftOffMidweek(d);
-        sMonthDay = monthDayOf(d);
+        monthAndDay = monthDayOf(d);
     }
     ctlIssue.text = text::dateText(d);
 }

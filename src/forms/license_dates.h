@@ -17,13 +17,13 @@ constexpr const char* kFixedHolidays = "01/01,02/20,05/30,06/19,07/04,11/11,12/2
 // Adds the third Monday of January, the first Monday of September and the fourth Thursday of November
 // of the tax year to DL_HolidayList (none for 20XX), and splits it into DL_Holidays.
 void buildLicenseHolidays(const TaxYearChoice& taxYear);
-bool isLicenseHoliday(const std::string& sMonthDay);
+bool isLicenseHoliday(const std::string& monthDay);
 bool isWeekend(const text::CalendarDay& dDate);
 // Monday and Friday stay; Saturday goes back a day; Sunday, Tuesday, Wednesday and Thursday go on a day.
 text::CalendarDay shiftOffMidweek(const text::CalendarDay& dDate);
-// sLicense "1" or "2". An empty birth date empties both fields. A birthday that this year or the year of
+// license "1" or "2". An empty birth date empties both fields. A birthday that this year or the year of
 // expiration does not have (February 29) is a fault of type mismatch, for the caller's handler.
-void fillLicenseDates(const std::string& sLicense, const std::string& sBirthDate, Control& ctlIssue,
+void fillLicenseDates(const std::string& license, const std::string& birthDate, Control& ctlIssue,
                       Control& ctlExpire);
 
 }  // namespace lw

@@ -29,27 +29,27 @@ void LicenseForm::onClick(Control& ctl, MouseButton button) {
     chosenPicture(first ? 1 : 2) = ctl.index + 1;
 }
 
-void LicenseForm::onValidate(Control& ctl, bool& Cancel) {
+void LicenseForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
     if (!editField(ctl)) {
         ctl.select(0, 99);
         setFocus(ctl);
-        Cancel = true;
+        cancel = true;
         return;
     }
     // A fault of the dates, such as a February 29 birthday in a year without one, is reported and the
     // field is left.
-    runGuarded("F3_DL:Text1_Validate", [&] { fillAfterLeaving(ctl, Cancel); });
+    runGuarded("F3_DL:Text1_Validate", [&] { fillAfterLeaving(ctl, cancel); });
 }
 
-void LicenseForm::fillAfterLeaving(Control& ctl, bool& Cancel) {
+void LicenseForm::fillAfterLeaving(Control& ctl, bool& cancel) {
     if (ctl.name != "Text1") return;
     auto field = [&](int index) -> Control& { return at("Text1", index); };
     switch (ctl.index) {
         case 0:
             // The first license must have a name; the field is simply kept, with no word.
             if (ctl.text.empty())
-                Cancel = true;
+                cancel = true;
             else
                 field(2).text = program().platform.now().toStampText();
             break;

@@ -13,7 +13,7 @@ public:
     LicenseForm();
 
     void onLoad() override;
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     void onClick(Control& ctl, MouseButton button) override;
     // Clear takes the portraits away, so their numbers go too.
     void refillAfterClear() override;
@@ -36,7 +36,7 @@ public:
     int license2PictureIndex = 0;
 
 private:
-    void fillAfterLeaving(Control& ctl, bool& Cancel);
+    void fillAfterLeaving(Control& ctl, bool& cancel);
 };
 
 void registerLicenseForm();

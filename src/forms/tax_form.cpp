@@ -35,8 +35,8 @@ void TaxForm::onKeyPress(Control& ctl, int& keyAscii) {
         filterFieldKey(ctl, keyAscii);
 }
 
-void TaxForm::onValidate(Control& ctl, bool& Cancel) {
-    if (isFieldArray(ctl)) Cancel = !editField(ctl);
+void TaxForm::onValidate(Control& ctl, bool& cancel) {
+    if (isFieldArray(ctl)) cancel = !editField(ctl);
 }
 
 void TaxForm::onLostFocus(Control& ctl) {
@@ -53,15 +53,15 @@ void TaxForm::paintLabelAsPaper(Control& label) {
     label.opaque = shadesPartLabels_ && label.name == "LabelPart";
 }
 
-void TaxForm::onCheckClick(int Index) {
-    Control& clicked = at("Check", Index);
+void TaxForm::onCheckClick(int fieldIndex) {
+    Control& clicked = at("Check", fieldIndex);
     const CheckRules& rules = checkRulesOf(name());
     for (const auto& [a, b] : rules.pairs) {
-        if (Index == a) return toggleCheckPair(clicked, at("Check", b));
-        if (Index == b) return toggleCheckPair(clicked, at("Check", a));
+        if (fieldIndex == a) return toggleCheckPair(clicked, at("Check", b));
+        if (fieldIndex == b) return toggleCheckPair(clicked, at("Check", a));
     }
     const auto& group = rules.exclusiveGroup;
-    if (std::find(group.begin(), group.end(), Index) != group.end()) {
+    if (std::find(group.begin(), group.end(), fieldIndex) != group.end()) {
         const bool wasMarked = !clicked.caption.empty();
         for (int member : group) at("Check", member).caption.clear();
         if (!wasMarked) toggleCheck(clicked);

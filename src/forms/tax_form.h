@@ -15,12 +15,12 @@ public:
     void onLoad() override;
     void onGotFocus(Control& ctl) override;
     void onKeyPress(Control& ctl, int& keyAscii) override;
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     void onLostFocus(Control& ctl) override;
     void onClick(Control& ctl, MouseButton button) override;
 
     // The Check labels of this form answer clicks by the form's own rule.
-    void onCheckClick(int Index);
+    void onCheckClick(int index);
 
     // On paper no label keeps a background, but the shaded part headings of a form that keeps them.
     void paintLabelAsPaper(Control& label) override;

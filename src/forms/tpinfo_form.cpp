@@ -110,11 +110,11 @@ void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
     filterFieldKey(ctl, keyAscii);
 }
 
-void TaxpayerSheetForm::onValidate(Control& ctl, bool& Cancel) {
+void TaxpayerSheetForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
     if (!editField(ctl)) {
-        Cancel = true;
+        cancel = true;
         return;
     }
     if (!isTextOne(ctl)) return;

@@ -14,7 +14,7 @@ public:
     // Copy, paste and cut pass unfiltered; every other key goes through the keystroke filter.
     void onKeyPress(Control& ctl, int& keyAscii) override;
     // The field's edit; then a number is compared with the others, and a birth date gives its age.
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     // Every age is counted again at the end of the new year, and the captions say which year.
     void afterYearChange() override;
     // On the screen the sheet fills the frame's height and shows its instructions.

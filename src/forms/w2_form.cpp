@@ -55,10 +55,10 @@ void FormW2::onLoad() {
     at("TaxYear", 1).caption = g().taxYear.digits();
 }
 
-void FormW2::onValidate(Control& ctl, bool& Cancel) {
+void FormW2::onValidate(Control& ctl, bool& cancel) {
     if (!text::equalsNoCase(ctl.name, "Text1") || ctl.index == kNoIndex) return;
-    TaxForm::onValidate(ctl, Cancel);
-    if (Cancel || ctl.text.empty()) return;
+    TaxForm::onValidate(ctl, cancel);
+    if (cancel || ctl.text.empty()) return;
     if (ctl.index != kSocialSecurityWages && ctl.index != kMedicareWages) return;
     // A year without its figures computes nothing: the operator reads why, and the box stands.
     const Rates& rates = g().rates;
@@ -73,7 +73,7 @@ void FormW2::onValidate(Control& ctl, bool& Cancel) {
         // the tax box no longer claims a value.
         at("Text1", ctl.index == kSocialSecurityWages ? kSocialSecurityTax : kMedicareTax).text.clear();
         showInvalidField(ctl, kMoneyColour, "");
-        Cancel = true;
+        cancel = true;
     }
 }
 

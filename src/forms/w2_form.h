@@ -13,7 +13,7 @@ public:
 
     void onLoad() override;
     // editField first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.
-    void onValidate(Control& ctl, bool& Cancel) override;
+    void onValidate(Control& ctl, bool& cancel) override;
     // The verification-code rule of box 9.
     void onActivate() override;
     // A change of the tax year applies the rule of box 9 again; the boxes filled stay as they are.

@@ -6,13 +6,13 @@
 namespace lw {
 
 struct TPInfoRec {
-    std::string SSN;
-    std::string DOB;
-    std::string NameAddr;      // the block, lines ended by CR LF
-    std::string Name;          // the first line
-    std::string Address;       // everything after the first line
-    std::string Street;        // second to last-but-one line, joined by blanks
-    std::string CityStateZip;  // the last line, when the block has three lines or more
+    std::string ssn;
+    std::string dob;
+    std::string nameAddr;      // the block, lines ended by CR LF
+    std::string name;          // the first line
+    std::string address;       // everything after the first line
+    std::string street;        // second to last-but-one line, joined by blanks
+    std::string cityStateZip;  // the last line, when the block has three lines or more
 };
 
 }  // namespace lw

@@ -22,19 +22,19 @@ std::string joined(const std::vector<std::string>& lines, std::size_t from, std:
 
 }  // namespace
 
-void parseNameAddress(TPInfoRec& Rec) {
+void parseNameAddress(TPInfoRec& rec) {
     runGuarded("M6_TPInfo:TPInfo_Parse_NameAddr", [&] {
-        if (Rec.NameAddr.empty()) return;
+        if (rec.nameAddr.empty()) return;
         const std::vector<std::string> lines =
-            text::split(Rec.NameAddr, std::string(1, text::kLineSeparator));
+            text::split(rec.nameAddr, std::string(1, text::kLineSeparator));
         const std::size_t n = lines.size() - 1;
-        Rec.Name = lines[0];
+        rec.name = lines[0];
         // A block that lacks a line has no such part: nothing of an earlier person stays in it.
-        Rec.Street = n == 0 ? "" : n == 1 ? lines[1] : joined(lines, 1, n - 1, " ");
-        Rec.CityStateZip = n >= 2 ? lines[n] : "";
-        Rec.NameAddr = joined(lines, 0, n, "\r\n");
-        Rec.Address = Rec.Street;
-        if (!Rec.CityStateZip.empty()) Rec.Address += "\r\n" + Rec.CityStateZip;
+        rec.street = n == 0 ? "" : n == 1 ? lines[1] : joined(lines, 1, n - 1, " ");
+        rec.cityStateZip = n >= 2 ? lines[n] : "";
+        rec.nameAddr = joined(lines, 0, n, "\r\n");
+        rec.address = rec.street;
+        if (!rec.cityStateZip.empty()) rec.address += "\r\n" + rec.cityStateZip;
     });
 }
 

@@ -5,8 +5,8 @@
 
 namespace lw {
 
-// Cuts the stored block (lines joined by "»") of Rec.NameAddr into its lines, in place: a block gives
+// Cuts the stored block (lines joined by "»") of rec.NameAddr into its lines, in place: a block gives
 // every part anew, an empty one leaves every other field as it was.
-void parseNameAddress(TPInfoRec& Rec);
+void parseNameAddress(TPInfoRec& rec);
 
 }  // namespace lw

@@ -74,14 +74,14 @@ const std::map<std::string, ReadGlobal, NoCase>& stateValues() {
 // What the frame itself keeps.
 const std::map<std::string, ReadFrame, NoCase>& frameValues() {
     static const std::map<std::string, ReadFrame, NoCase> values{
-        {"VersionMajor", [](const FrameForm& f) { return f.VersionMajor; }},
-        {"VersionFull", [](const FrameForm& f) { return f.VersionFull; }},
-        {"TaxFormsFolder", [](const FrameForm& f) { return utf8(f.TaxFormsFolder); }},
-        {"IconFile", [](const FrameForm& f) { return utf8(f.IconFile); }},
-        {"DevAppFolder", [](const FrameForm& f) { return utf8(f.DevAppFolder); }},
-        {"DevSharedFolder", [](const FrameForm& f) { return utf8(f.DevSharedFolder); }},
+        {"VersionMajor", [](const FrameForm& f) { return f.versionMajor; }},
+        {"VersionFull", [](const FrameForm& f) { return f.versionFull; }},
+        {"TaxFormsFolder", [](const FrameForm& f) { return utf8(f.taxFormsFolder); }},
+        {"IconFile", [](const FrameForm& f) { return utf8(f.iconFile); }},
+        {"DevAppFolder", [](const FrameForm& f) { return utf8(f.devAppFolder); }},
+        {"DevSharedFolder", [](const FrameForm& f) { return utf8(f.devSharedFolder); }},
         {"FrameCaption", [](const FrameForm& f) { return utf8(f.caption); }},
-        {"bTaskbarHidden", [](const FrameForm& f) { return flag(f.bTaskbarHidden); }},
+        {"bTaskbarHidden", [](const FrameForm& f) { return flag(f.taskbarHidden); }},
     };
     return values;
 }

@@ -30,8 +30,8 @@ bool hasChildForms() {
 }
 
 // A task bar to hide exists only on the classic desktop; on ours the flag alone records the wish.
-void hideTaskbar(FrameForm& frame) { frame.bTaskbarHidden = true; }
-void showTaskbar(FrameForm& frame) { frame.bTaskbarHidden = false; }
+void hideTaskbar(FrameForm& frame) { frame.taskbarHidden = true; }
+void showTaskbar(FrameForm& frame) { frame.taskbarHidden = false; }
 
 // The form on the screen has its say before the program ends: the configuration form asks about changed
 // rates.
@@ -138,7 +138,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
 
 void onLegendClick(FrameForm& frame) {
     if (!text::containsNoCase(g().process.commandWords, "taskbar")) return;
-    if (frame.bTaskbarHidden)
+    if (frame.taskbarHidden)
         showTaskbar(frame);
     else
         hideTaskbar(frame);

@@ -12,15 +12,15 @@ public:
     FrameForm();
 
     // Members that other parts of the program read.
-    std::string VersionMajor;
-    std::string VersionFull;
-    std::string DevAppFolder;
-    std::string DevSharedFolder;
-    std::string DevFormsFolder;
-    std::string DevInfFolder;
-    std::string IconFile;
-    std::string TaxFormsFolder;
-    bool bTaskbarHidden = false;
+    std::string versionMajor;
+    std::string versionFull;
+    std::string devAppFolder;
+    std::string devSharedFolder;
+    std::string devFormsFolder;
+    std::string devInfFolder;
+    std::string iconFile;
+    std::string taxFormsFolder;
+    bool taskbarHidden = false;
 
     void onLoad() override;
     void onClick(Control& control, MouseButton button) override;

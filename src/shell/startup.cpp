@@ -56,10 +56,10 @@ void writeUserInf(const std::string& key, const std::string& value) {
     store::writeInfValue(g().process.userNameUpper, key, value, g().edition.userInfFile);
 }
 
-void saveRememberedFolders(const std::string& InfFile, const std::string& DefaultFolder) {
+void saveRememberedFolders(const std::string& infFile, const std::string& defaultFolder) {
     for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
-        if (store::readInfValue(g().process.userNameUpper, key, "", InfFile).empty())
-            store::writeInfValue(g().process.userNameUpper, key, DefaultFolder, InfFile);
+        if (store::readInfValue(g().process.userNameUpper, key, "", infFile).empty())
+            store::writeInfValue(g().process.userNameUpper, key, defaultFolder, infFile);
     }
 }
 
@@ -68,9 +68,9 @@ void setUpTaxFormsFolder(FrameForm& frame) {
     std::string byDefault = text::endsWithNoCase(g().edition.userInfFile, "UserVenturo.inf")
                                 ? joinPath(root, "VenturoForms")
                                 : joinPath(root, "TaxFormsLW");
-    frame.TaxFormsFolder = readUserInf("TaxFormsFolder");
-    if (frame.TaxFormsFolder.empty()) {
-        frame.TaxFormsFolder = byDefault;
+    frame.taxFormsFolder = readUserInf("TaxFormsFolder");
+    if (frame.taxFormsFolder.empty()) {
+        frame.taxFormsFolder = byDefault;
         writeUserInf("TaxFormsFolder", byDefault);
     }
 }
@@ -89,9 +89,9 @@ namespace {
 void setUpEdition(FrameForm& frame, const Edition& edition) {
     g().edition.userInfFile = edition.userInfFile;
     g().edition.userGuideFile = edition.guideFile;
-    frame.IconFile = edition.iconFile;
+    frame.iconFile = edition.iconFile;
     if (text::containsNoCase(platform().executableFolder(), kDevelopmentTreeMarker))
-        frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
+        frame.iconFile = frame.devSharedFolder + "/ICONS/" + edition.name + ".ICO";
     saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
     g().edition.fileExtension = edition.fileExtension;
     g().edition.fileFilter = fileFilter(edition.filterDescription, edition.filterPattern);
@@ -101,13 +101,13 @@ void setUpEdition(FrameForm& frame, const Edition& edition) {
 // Taken under any executable name but the two editions': the program runs against the development tree.
 void setUpTestPath(FrameForm& frame) {
     const std::string root = platform().rootFolder();
-    frame.DevFormsFolder = frame.DevAppFolder + "/Forms";
-    frame.DevInfFolder = frame.DevAppFolder + "/InfFiles";
-    g().edition.picturesFolder = frame.DevSharedFolder + "/Pictures";
-    g().edition.formsInfFile = frame.DevInfFolder + "/Forms.inf";
-    g().edition.ssmcInfFile = frame.DevInfFolder + "/SSMC.inf";
-    g().edition.k1HelpInfFile = frame.DevInfFolder + "/K1Help.inf";
-    installShippedInfFiles(platform().executableFolder(), frame.DevInfFolder);
+    frame.devFormsFolder = frame.devAppFolder + "/Forms";
+    frame.devInfFolder = frame.devAppFolder + "/InfFiles";
+    g().edition.picturesFolder = frame.devSharedFolder + "/Pictures";
+    g().edition.formsInfFile = frame.devInfFolder + "/Forms.inf";
+    g().edition.ssmcInfFile = frame.devInfFolder + "/SSMC.inf";
+    g().edition.k1HelpInfFile = frame.devInfFolder + "/K1Help.inf";
+    installShippedInfFiles(platform().executableFolder(), frame.devInfFolder);
 
     const MessageBoxRequest ask{"Ledgerwick - Testing",
                                 "Choose System to Test",
@@ -115,15 +115,15 @@ void setUpTestPath(FrameForm& frame) {
                                 {"Venturo", "Other"},
                                 MessageBoxButton::None};
     bool venturo = showMessageBox(ask).button == MessageBoxButton::First;
-    Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.VersionMajor)
-                              : othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor);
+    Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.versionMajor)
+                              : othAgcyEdition(root, platform().executableFolder(), frame.versionMajor);
     frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
-    frame.IconFile = frame.DevSharedFolder + "/ICONS/" + edition.name + ".ICO";
+    frame.iconFile = frame.devSharedFolder + "/ICONS/" + edition.name + ".ICO";
     g().edition.userInfFile = edition.userInfFile;
     g().edition.fileExtension = edition.fileExtension;
     g().edition.fileFilter = fileFilter(venturo ? "Tax Form Files (*.venturo)" : "Tax Form Files (*.taxform)",
                                         edition.filterPattern);
-    g().edition.userGuideFile = frame.DevAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.VersionMajor +
+    g().edition.userGuideFile = frame.devAppFolder + "/Docs/PDFFiles/Ledgerwick_V" + frame.versionMajor +
                                 "_" + edition.name + "_UserGuide.pdf";
     // The editions would also fix the forms folder here; the test path leaves it empty.
     saveRememberedFolders(g().edition.userInfFile, edition.defaultFormsFolder);
@@ -134,8 +134,8 @@ void setUpTestPath(FrameForm& frame) {
 void setUpFrame(FrameForm& frame) {
     runGuarded("F0_MDI:MDI_Setup", [&] {
         pause(500);
-        frame.VersionMajor = versionMajorText();
-        frame.VersionFull = versionFullText();
+        frame.versionMajor = versionMajorText();
+        frame.versionFull = versionFullText();
         g().process.commandWords = platform().commandLine();
         g().process.computerNameUpper = text::toUpper(environmentInBuffer("ComputerName"));
         g().process.userNameUpper = text::toUpper(environmentInBuffer("UserName"));
@@ -144,26 +144,26 @@ void setUpFrame(FrameForm& frame) {
             g().process.commandWords = text::trim(removeWordNoCase(g().process.commandWords, "debug"));
         }
         const std::string root = platform().rootFolder();
-        frame.DevAppFolder = joinPath(root, "Apps/Ledgerwick_" + frame.VersionMajor);
-        frame.DevSharedFolder = joinPath(root, "Apps/Ledgerwick_Shared");
+        frame.devAppFolder = joinPath(root, "Apps/Ledgerwick_" + frame.versionMajor);
+        frame.devSharedFolder = joinPath(root, "Apps/Ledgerwick_Shared");
 
         const std::string exe = platform().executableName();
         if (text::equalsNoCase(exe, "Ledgerwick_Venturo")) {
             setUpInfFilePaths();
-            setUpEdition(frame, venturoEdition(root, platform().executableFolder(), frame.VersionMajor));
+            setUpEdition(frame, venturoEdition(root, platform().executableFolder(), frame.versionMajor));
         } else if (text::equalsNoCase(exe, "Ledgerwick_OthAgcy")) {
             setUpInfFilePaths();
-            setUpEdition(frame, othAgcyEdition(root, platform().executableFolder(), frame.VersionMajor));
+            setUpEdition(frame, othAgcyEdition(root, platform().executableFolder(), frame.versionMajor));
         } else {
             setUpTestPath(frame);
         }
-        frame.icon = frame.IconFile;
-        if (!frame.TaxFormsFolder.empty() && !folderExists(frame.TaxFormsFolder)) {
+        frame.icon = frame.iconFile;
+        if (!frame.taxFormsFolder.empty() && !folderExists(frame.taxFormsFolder)) {
             std::error_code ec;
-            std::filesystem::create_directories(frame.TaxFormsFolder, ec);
+            std::filesystem::create_directories(frame.taxFormsFolder, ec);
             if (ec)
                 throw AppError(err::kPathNotFound,
-                               "Path not found: " + frame.TaxFormsFolder + " (" + ec.message() + ")");
+                               "Path not found: " + frame.taxFormsFolder + " (" + ec.message() + ")");
         }
         if (MenuItem* guide = frame.findMenu("mnuControlGuide"))
             guide->visible = fileExists(g().edition.userGuideFile);

@@ -11,7 +11,7 @@ void onFrameLoad(FrameForm& frame);
 void setUpFrame(FrameForm& frame);
 void setUpInfFilePaths();
 void setUpTaxFormsFolder(FrameForm& frame);
-void saveRememberedFolders(const std::string& InfFile, const std::string& DefaultFolder);
+void saveRememberedFolders(const std::string& infFile, const std::string& defaultFolder);
 // Opens the configuration form as the first child, where the program has it.
 void openFirstChild(FrameForm& frame);
 

@@ -43,7 +43,7 @@ std::string infWithValue(std::string_view text, std::string_view section, std::s
     bool sectionSeen = false;
     std::size_t sectionTail = 0;  // where a missing key goes: after the section's last non-blank line
     while (reader.next(line)) {
-        if (line.kind == InfLineKind::Section) {
+        if (line.kind == InfLineKind::sectionName) {
             if (inSection) break;  // end of the first matching section; later namesakes are not looked at
             if (sameInfName(line.name, section)) {
                 inSection = true;

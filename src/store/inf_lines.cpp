@@ -40,7 +40,7 @@ void classify(std::string_view content, std::size_t begin, InfLine& line) {
         // The last ']' closes the name, so a name with ']' in it reads back as it was written.
         std::size_t close = trimmed.rfind(']');
         if (close != std::string_view::npos && close > 0) {
-            line.kind = InfLineKind::Section;
+            line.kind = InfLineKind::sectionName;
             line.name = trimInfBlanks(trimmed.substr(1, close - 1));
             return;
         }

@@ -8,10 +8,10 @@
 namespace lw::store {
 
 enum class InfLineKind {
-    Blank,    // nothing but blanks
-    Comment,  // first non-blank byte is ';'
-    Section,  // "[name]"
-    Entry,    // "name=value", or a bare line without '=' (then hasEquals is false)
+    Blank,        // nothing but blanks
+    Comment,      // first non-blank byte is ';'
+    sectionName,  // "[name]"
+    Entry,        // "name=value", or a bare line without '=' (then hasEquals is false)
 };
 
 struct InfLine {
@@ -40,7 +40,7 @@ private:
 bool isInfBlank(char c);
 std::string_view trimInfBlanks(std::string_view s);
 
-// Section and key names match ignoring case, letters of the code page included.
+// section and key names match ignoring case, letters of the code page included.
 bool sameInfName(std::string_view a, std::string_view b);
 
 // The line end this text already uses, so that added lines look like their neighbours; CR LF for a new file.

@@ -30,7 +30,7 @@ void forEachLineOfSection(std::string_view text, std::string_view section, Take 
     InfLine line;
     bool inSection = false;
     while (reader.next(line)) {
-        if (line.kind == InfLineKind::Section) {
+        if (line.kind == InfLineKind::sectionName) {
             if (inSection) return;
             inSection = sameInfName(line.name, section);
             continue;

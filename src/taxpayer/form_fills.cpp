@@ -30,52 +30,52 @@ constexpr Person kB = Person::B;
 // Both persons twice: as recipient and spouse, then again among the covered individuals.
 void fillTaxpayers1095A(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
-            {{3, kA, &TPInfoRec::Name},
-             {4, kA, &TPInfoRec::SSN},
-             {5, kA, &TPInfoRec::DOB},
-             {6, kB, &TPInfoRec::Name},
-             {7, kB, &TPInfoRec::SSN},
-             {8, kB, &TPInfoRec::DOB},
-             {11, kA, &TPInfoRec::Street},
-             {12, kA, &TPInfoRec::CityStateZip},
-             {13, kA, &TPInfoRec::Name},
-             {14, kA, &TPInfoRec::SSN},
-             {15, kA, &TPInfoRec::DOB},
-             {18, kB, &TPInfoRec::Name},
-             {19, kB, &TPInfoRec::SSN},
-             {20, kB, &TPInfoRec::DOB}});
+            {{3, kA, &TPInfoRec::name},
+             {4, kA, &TPInfoRec::ssn},
+             {5, kA, &TPInfoRec::dob},
+             {6, kB, &TPInfoRec::name},
+             {7, kB, &TPInfoRec::ssn},
+             {8, kB, &TPInfoRec::dob},
+             {11, kA, &TPInfoRec::street},
+             {12, kA, &TPInfoRec::cityStateZip},
+             {13, kA, &TPInfoRec::name},
+             {14, kA, &TPInfoRec::ssn},
+             {15, kA, &TPInfoRec::dob},
+             {18, kB, &TPInfoRec::name},
+             {19, kB, &TPInfoRec::ssn},
+             {20, kB, &TPInfoRec::dob}});
 }
 
 void fillTaxpayers1095B(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
-            {{0, kA, &TPInfoRec::Name},
-             {1, kA, &TPInfoRec::SSN},
-             {2, kA, &TPInfoRec::DOB},
-             {3, kA, &TPInfoRec::Street},
-             {4, kA, &TPInfoRec::CityStateZip}});
+            {{0, kA, &TPInfoRec::name},
+             {1, kA, &TPInfoRec::ssn},
+             {2, kA, &TPInfoRec::dob},
+             {3, kA, &TPInfoRec::street},
+             {4, kA, &TPInfoRec::cityStateZip}});
 }
 
 void fillTaxpayers1095C(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
-            {{0, kA, &TPInfoRec::Name},
-             {1, kA, &TPInfoRec::SSN},
-             {4, kA, &TPInfoRec::Street},
-             {7, kA, &TPInfoRec::CityStateZip}});
+            {{0, kA, &TPInfoRec::name},
+             {1, kA, &TPInfoRec::ssn},
+             {4, kA, &TPInfoRec::street},
+             {7, kA, &TPInfoRec::cityStateZip}});
 }
 
 void fillTaxpayersLicense(Form& form, const TPInfoRec& A, const TPInfoRec& B) {
     fillAll(form, A, B,
-            {{0, kA, &TPInfoRec::NameAddr},
-             {1, kA, &TPInfoRec::DOB},
-             {4, kB, &TPInfoRec::NameAddr},
-             {5, kB, &TPInfoRec::DOB}});
+            {{0, kA, &TPInfoRec::nameAddr},
+             {1, kA, &TPInfoRec::dob},
+             {4, kB, &TPInfoRec::nameAddr},
+             {5, kB, &TPInfoRec::dob}});
 }
 
 // The claim number of the lower statement is the number with the beneficiary's letter A.
 void fillTaxpayersSsa1099(Form& form, const TPInfoRec& A) {
     fillAll(form, A, A,
-            {{0, kA, &TPInfoRec::Name}, {1, kA, &TPInfoRec::SSN}, {14, kA, &TPInfoRec::NameAddr}});
-    form.at("Text1", 15).text = A.SSN + "A";
+            {{0, kA, &TPInfoRec::name}, {1, kA, &TPInfoRec::ssn}, {14, kA, &TPInfoRec::nameAddr}});
+    form.at("Text1", 15).text = A.ssn + "A";
 }
 
 }  // namespace lw

@@ -22,9 +22,9 @@ Globals& g() { return program().g; }
 // and city lines that the last Load TP found.
 void readPerson(const char* slot, TPInfoRec& rec) {
     const std::string prefix(slot);
-    rec.NameAddr = readUserInf(prefix + "NameAddr");
-    rec.DOB = readUserInf(prefix + "DOB");
-    rec.SSN = readUserInf(prefix + "SSN");
+    rec.nameAddr = readUserInf(prefix + "NameAddr");
+    rec.dob = readUserInf(prefix + "DOB");
+    rec.ssn = readUserInf(prefix + "SSN");
     parseNameAddress(rec);
 }
 
@@ -38,24 +38,24 @@ int firstIndexOf(const std::string& list) {
 void fillGeneral(Form& form, const TPInfoRec& A) {
     const int nameIndex = firstIndexOf(g().document.catalogue.nameAddrIndex);
     const int numberIndex = firstIndexOf(g().document.catalogue.ssnIndex);
-    if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.NameAddr;
-    if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.SSN;
+    if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.nameAddr;
+    if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.ssn;
 }
 
 }  // namespace
 
-void readTaxpayers(const std::string& Who) {
+void readTaxpayers(const std::string& who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
         Form* form = g().document.currentForm;
         if (!form) return;
         readPerson("TP1", g().taxpayers.taxpayer1);
         readPerson("TP2", g().taxpayers.taxpayer2);
-        const bool second = Who == "TP 2";
+        const bool second = who == "TP 2";
         const TPInfoRec& A = second ? g().taxpayers.taxpayer2 : g().taxpayers.taxpayer1;
         const TPInfoRec& B = second ? g().taxpayers.taxpayer1 : g().taxpayers.taxpayer2;
         // A form that fills itself or goes on in its own way says so; any other has the common rules.
         auto* rules = dynamic_cast<CatalogueForm*>(form);
-        if (!rules || !rules->fillTaxpayers(Who, A, B)) fillGeneral(*form, A);
+        if (!rules || !rules->fillTaxpayers(who, A, B)) fillGeneral(*form, A);
         if (rules)
             rules->afterTaxpayerFill();
         else

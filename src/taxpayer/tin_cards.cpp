@@ -61,16 +61,16 @@ void fillCardFromTaxpayer(Form& form, int n, const StoredPerson& person) {
 }
 
 // The button's taxpayer first; Load TP 2 with no second taxpayer still makes the first one's card.
-void fillTaxpayerCards(Form& form, const StoredCase& found, int Who) {
+void fillTaxpayerCards(Form& form, const StoredCase& found, int who) {
     const StoredPerson& first = found.tp[0];
     const StoredPerson& second = found.tp[1];
-    if (Who == 1 && !first.name.empty()) {
+    if (who == 1 && !first.name.empty()) {
         fillCardFromTaxpayer(form, 0, first);
         if (!second.name.empty()) fillCardFromTaxpayer(form, 2, second);
-    } else if (Who == 2 && !second.name.empty()) {
+    } else if (who == 2 && !second.name.empty()) {
         fillCardFromTaxpayer(form, 0, second);
         if (!first.name.empty()) fillCardFromTaxpayer(form, 2, first);
-    } else if (Who == 2) {
+    } else if (who == 2) {
         fillCardFromTaxpayer(form, 0, first);
     }
 }
@@ -90,12 +90,12 @@ void fillDependentCards(Form& form, const StoredCase& found) {
 
 }  // namespace
 
-void fillTaxpayersCard(Form& form, int Who) {
+void fillTaxpayersCard(Form& form, int who) {
     runGuarded("M6_TPInfo:TPInfo_Process_TIN_Cards", [&] {
         const StoredCase found = readStoredCase();
         for (Control* field : form.arrayOf("Text1")) field->text.clear();
         for (Control* image : form.arrayOf("Image1")) image->picture.clear();
-        fillTaxpayerCards(form, found, Who);
+        fillTaxpayerCards(form, found, who);
         fillDependentCards(form, found);
         for (int n = 0; n <= 16; n += 2) {
             const std::string& number = form.at("Text1", n).text;

@@ -28,9 +28,9 @@ bool endsIn20XX(const std::string& s) {
 
 }  // namespace
 
-std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice& taxYear) {
+std::string ageAtYearEnd(Form& form, const std::string& birthDate, const TaxYearChoice& taxYear) {
     if (taxYear.isPlaceholder()) return "N/A";
-    const std::vector<std::string> parts = text::split(DOB, "/");
+    const std::vector<std::string> parts = text::split(birthDate, "/");
     bool isDate = parts.size() == 3 && parts[2].size() == 4 && isYearDigits(parts[0]) &&
                   isYearDigits(parts[1]) && isYearDigits(parts[2]);
     const int born = isDate ? std::stoi(parts[2]) : 0;
@@ -48,9 +48,9 @@ std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice
     return std::to_string(age);
 }
 
-void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex) {
-    const Control& dob = sheet.at("Text1", std::stoi(DOBIndex));
-    Control& age = sheet.at("Text2", std::stoi(AgeIndex));
+void updateAge(Form& sheet, const std::string& dobIndex, const std::string& ageIndex) {
+    const Control& dob = sheet.at("Text1", std::stoi(dobIndex));
+    Control& age = sheet.at("Text2", std::stoi(ageIndex));
     if (dob.text.empty()) return;
     age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text, g().taxYear);
 }

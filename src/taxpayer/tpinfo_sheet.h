@@ -13,11 +13,11 @@ class Form;
 // The calendar year of 12/31 of the tax year less the year of birth: no correction for the birthday,
 // since none falls after December 31. "N/A" for the year 20XX. A negative age is returned as it is, with
 // "One or more date(s) are invalid" in red on the form's status line.
-std::string ageAtYearEnd(Form& form, const std::string& DOB, const TaxYearChoice& taxYear);
+std::string ageAtYearEnd(Form& form, const std::string& dob, const TaxYearChoice& taxYear);
 
 // The age of one row of the sheet, from its date field into its age field. An empty date leaves the
 // age as it was; a date in 20XX has no age.
-void updateAge(Form& sheet, const std::string& DOBIndex, const std::string& AgeIndex);
+void updateAge(Form& sheet, const std::string& dobIndex, const std::string& ageIndex);
 
 // Every row of the sheet aged again, as after a change of the tax year.
 void updateAllAges(Form& sheet);

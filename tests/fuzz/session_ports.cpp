@@ -56,15 +56,16 @@ void SessionUi::runModal(Form& form) {
 
 void SessionUi::judgeReport(Form& form) {
     const auto& report = dynamic_cast<const ErrorReportForm&>(form);
-    const ShownReport seen{report.F8_Module, std::atoi(report.F8_ErrNo.c_str()), report.F8_ErrDesc};
+    const ShownReport seen{report.reportModule, std::atoi(report.reportErrorNumber.c_str()),
+                           report.reportErrorText};
     const AllowedReport* entry = allowingEntry(seen, facts_);
-    trace_.add("error report: " + printable(seen.module) + " error " + report.F8_ErrNo + ": " +
+    trace_.add("error report: " + printable(seen.module) + " error " + report.reportErrorNumber + ": " +
                printable(seen.description) + (entry ? " (allowed: " + entry->rule + ")" : ""));
     if (entry) return;
     std::fprintf(stderr,
                  "\nAn error report that no rule of the program calls for:\n  %s error %s: %s\n  form: %s\n",
-                 printable(seen.module).c_str(), report.F8_ErrNo.c_str(), printable(seen.description).c_str(),
-                 printable(report.F8_Form).c_str());
+                 printable(seen.module).c_str(), report.reportErrorNumber.c_str(),
+                 printable(seen.description).c_str(), printable(report.reportFormName).c_str());
     trace_.print();
     std::abort();
 }

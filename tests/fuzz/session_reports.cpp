@@ -102,7 +102,7 @@ const std::map<std::string, Rule>& rules() {
         {"k1-line-with-fewer-than-three-parts",
          [](const ShownReport&, const SessionFacts&) {
              const auto lines = store::readInfSection(
-                 k1HelpMembers().F97_K1Key, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
+                 k1HelpMembers().listSectionKey, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
              return std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
                  return std::count(line.begin(), line.end(), '|') < 2;
              });

@@ -117,7 +117,7 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
     EXPECT_EQ(form_->at("Text2", 0).text, "H");
     EXPECT_EQ(form_->at("Text3", 0).tag, "MONEY");
     EXPECT_EQ(desktop().focus(), &form_->at("Text2", 0));
-    EXPECT_FALSE(k1HelpMembers().K1Cancel) << "only the Cancel button sets it";
+    EXPECT_FALSE(k1HelpMembers().listCancelled) << "only the Cancel button sets it";
 }
 
 // The shipped lists of one box of each form and the longest list, drawn as the dialog shows them. With
@@ -125,7 +125,7 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
 TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
     program_->g.edition.k1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
     for (const char* key : {"K1-1041-Box13", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box17"}) {
-        k1HelpMembers().F97_K1Key = key;
+        k1HelpMembers().listSectionKey = key;
         Form& list = desktop().load(std::make_unique<K1HelpForm>(), false);
         const QImage picture = renderForm(list);
         const Control& grid = list.at("Grid1");

@@ -62,7 +62,7 @@ TEST_F(ConfigureFormTest, AFigureFieldIsSelectedAsItTakesTheFocus) {
 TEST_F(ConfigureFormTest, ATypedRateLosesItsPercentOnLeaving) {
     open();
     type(form->txtSSRate, "6.2%");
-    EXPECT_TRUE(form->bChanged);
+    EXPECT_TRUE(form->changed);
     tab();
     EXPECT_EQ(form->txtSSRate.text, "6.2");
     EXPECT_EQ(g().rates.socialSecurityRate.text(), "6.2");

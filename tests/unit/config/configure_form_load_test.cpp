@@ -147,10 +147,10 @@ TEST_F(ConfigureFormTest, TheControlsLieInsideTheForm) {
 
 TEST_F(ConfigureFormTest, TheFileNameTemplatesEndInTheExtension) {
     open();
-    EXPECT_EQ(form->FileNameFormats[0], "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
-    EXPECT_EQ(form->FileNameFormats[1], "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>.venturo");
-    EXPECT_EQ(form->FileNameFormats[2], "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
-    EXPECT_EQ(form->FileNameFormats[3], "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(form->fileNameFormats[0], "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(form->fileNameFormats[1], "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(form->fileNameFormats[2], "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>.venturo");
+    EXPECT_EQ(form->fileNameFormats[3], "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>.venturo");
 }
 
 TEST_F(ConfigureFormTest, NoRememberedTemplateTakesTheFirst) {

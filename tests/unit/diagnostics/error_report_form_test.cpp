@@ -19,11 +19,11 @@ protected:
     // operator itself.
     ErrorReportForm& loadReport() {
         auto form = std::make_unique<ErrorReportForm>();
-        form->F8_App = "Ledgerwick v.25.1.5";
-        form->F8_Module = "M4_FileCode:Read_File";
-        form->F8_Form = "Name    = TF_W2\r\nCaption = W-2";
-        form->F8_ErrNo = "53";
-        form->F8_ErrDesc = "File not found";
+        form->reportAppName = "Ledgerwick v.25.1.5";
+        form->reportModule = "M4_FileCode:Read_File";
+        form->reportFormName = "Name    = TF_W2\r\nCaption = W-2";
+        form->reportErrorNumber = "53";
+        form->reportErrorText = "File not found";
         return static_cast<ErrorReportForm&>(prog().desktop.load(std::move(form)));
     }
 };

@@ -43,7 +43,7 @@ struct SaveFormTest : ::testing::Test {
     // The form as saveDataFile loads it for a path that holds a file, without its modal loop.
     SaveForm& load(const fs::path& path) {
         auto owned = std::make_unique<SaveForm>();
-        owned->F7_Path = path.string();
+        owned->savePath = path.string();
         return static_cast<SaveForm&>(desktop.load(std::move(owned)));
     }
     SaveForm& loadExisting(const std::string& fileName, const std::string& bytes = "OLD\r\n") {
@@ -71,9 +71,9 @@ struct SaveFormTest : ::testing::Test {
 TEST_F(SaveFormTest, LoadSplitsThePathAndWritesEveryCaption) {
     SaveForm& form = loadExisting("DOE,JOHN_W2_ABC PLUMBING_000.venturo");
     EXPECT_FALSE(form.isChild);
-    EXPECT_EQ(form.F7_Folder, folder.string());
-    EXPECT_EQ(form.F7_BaseName, "DOE,JOHN_W2_ABC PLUMBING_000");
-    EXPECT_EQ(form.F7_Extension, "venturo");
+    EXPECT_EQ(form.saveFolder, folder.string());
+    EXPECT_EQ(form.saveBaseName, "DOE,JOHN_W2_ABC PLUMBING_000");
+    EXPECT_EQ(form.saveExtension, "venturo");
     EXPECT_EQ(form.Text1.text, "DOE,JOHN_W2_ABC PLUMBING_000");
     EXPECT_EQ(form.Text2.text, "venturo");
     EXPECT_EQ(form.at("Label3", 0).caption, "File Name");
@@ -314,7 +314,7 @@ TEST_F(SaveFormTest, TheExtensionIsShownNotTyped) {
 
 TEST_F(SaveFormTest, AFileWithoutExtensionKeepsItsPath) {
     SaveForm& form = loadExisting("PLAIN_000");
-    EXPECT_EQ(form.F7_Extension, "");
+    EXPECT_EQ(form.saveExtension, "");
     EXPECT_EQ(form.cmdSave.caption, "SAVE\r\n" + folder.string() + "/PLAIN_000\r\nEXIT");
     retype(form, "OTHER_000");
     desktop.click(form.cmdSave);

@@ -33,8 +33,8 @@ public:
         if (!everyKeyFiltered_ && (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV)) return;
         filterFieldKey(ctl, keyAscii);
     }
-    void onValidate(Control& ctl, bool& Cancel) override {
-        if (!everyKeyFiltered_) Cancel = !editField(ctl);
+    void onValidate(Control& ctl, bool& cancel) override {
+        if (!everyKeyFiltered_) cancel = !editField(ctl);
     }
     void onLostFocus(Control& ctl) override {
         ctl.backColor = kWhite;

@@ -46,24 +46,24 @@ TEST_F(Form1095ATotals, AddsTheFilledMonthsExactly) {
     field(38).text = "$1,234.50";
     field(40).text = "$.01";
     field(49).text = "$0.10";
-    form->AddEmUp(38, 49, 50);
+    form->addUpColumn(38, 49, 50);
     EXPECT_EQ(field(50).text, "$1,234.61");
 }
 
 TEST_F(Form1095ATotals, AllMonthsEmptyGiveNought) {
-    form->AddEmUp(64, 75, 76);
+    form->addUpColumn(64, 75, 76);
     EXPECT_EQ(field(76).text, "$.00");
 }
 
 TEST_F(Form1095ATotals, MoreThanTwoDecimalsAreSummedBeforeTheTotalIsRounded) {
     // As an opened file may hold them: each month keeps its ten-thousandths until the total is shown.
     for (int i = 51; i <= 53; ++i) field(i).text = "0.0035";
-    form->AddEmUp(51, 62, 63);
+    form->addUpColumn(51, 62, 63);
     EXPECT_EQ(field(63).text, "$.01");
     field(51).text = "1.00005";  // 1.0000 to the ten-thousandth, ties to even
     field(52).text = "";
     field(53).text = "";
-    form->AddEmUp(51, 62, 63);
+    form->addUpColumn(51, 62, 63);
     EXPECT_EQ(field(63).text, "$1.00");
 }
 
@@ -76,14 +76,14 @@ TEST_F(Form1095ATotals, ATypedAmountWithMoreDecimalsIsRoundedByItsEdit) {
 
 TEST_F(Form1095ATotals, TwelveMonthsNearTheLimitAddUpToTheLastCent) {
     for (int i = 38; i <= 49; ++i) field(i).text = "$76,861,433,640,456.46";
-    form->AddEmUp(38, 49, 50);
+    form->addUpColumn(38, 49, 50);
     EXPECT_EQ(field(50).text, "$922,337,203,685,477.52");
 }
 
 TEST_F(Form1095ATotals, ASumBeyondTheLimitThrowsAndLeavesTheTotal) {
     for (int i = 38; i <= 49; ++i) field(i).text = "$76,861,433,640,456.47";
     field(50).text = "$1.00";
-    EXPECT_THROW(form->AddEmUp(38, 49, 50), std::overflow_error);
+    EXPECT_THROW(form->addUpColumn(38, 49, 50), std::overflow_error);
     EXPECT_EQ(field(50).text, "$1.00");
 }
 
@@ -99,7 +99,7 @@ TEST_F(Form1095ATotals, AMonthBeyondTheLimitKeepsTheFocusWithItsOwnMessage) {
 
 TEST_F(Form1095ATotals, ATextThatIsNoAmountIsAFault) {
     field(64).text = "ABC";
-    EXPECT_THROW(form->AddEmUp(64, 75, 76), AppError);
+    EXPECT_THROW(form->addUpColumn(64, 75, 76), AppError);
 }
 
 TEST_F(Form1095ATotals, F12FiftyTimesKeepsTheSameTotal) {
@@ -159,9 +159,9 @@ TEST_F(Form1095ATotals, F12OutsideTheMonthsDoesNothing) {
 
 TEST_F(Form1095ATotals, TheRememberedFieldIsTheLastToTakeTheFocus) {
     desktop().setFocus(field(12));
-    EXPECT_EQ(form->iLastIndex, 12);
+    EXPECT_EQ(form->lastIndex, 12);
     desktop().setFocus(field(70));
-    EXPECT_EQ(form->iLastIndex, 70);
+    EXPECT_EQ(form->lastIndex, 70);
 }
 
 }  // namespace

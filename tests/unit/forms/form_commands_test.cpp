@@ -43,11 +43,11 @@ TEST_F(FormCommands, AfterPrintTheFirstFieldTakesTheFocusOrOnTheConfigurationThe
     EXPECT_EQ(focus(), &w2.at("Text1", 0));
 
     auto& configure = dynamic_cast<ConfigureForm&>(open("mnuControlConfigure"));
-    configure.bChanged = true;
+    configure.changed = true;
     desktop().setFocus(configure.txtSSMax);
     configure.afterPrinted();
     EXPECT_EQ(focus(), &configure.cbxPrinters);
-    EXPECT_FALSE(configure.bChanged) << "a print counts as keeping the figures";
+    EXPECT_FALSE(configure.changed) << "a print counts as keeping the figures";
 }
 
 TEST_F(FormCommands, ClearEmptiesADocumentButOnlyMovesTheFocusOnTheConfiguration) {
@@ -71,11 +71,11 @@ TEST_F(FormCommands, ClearEmptiesADocumentButOnlyMovesTheFocusOnTheConfiguration
 TEST_F(FormCommands, SaveOnTheConfigurationKeepsTheFiguresInTheRatesFile) {
     auto& configure = dynamic_cast<ConfigureForm&>(open("mnuControlConfigure"));
     configure.txtSSMax.text = "200,000.00";
-    configure.bChanged = true;
+    configure.changed = true;
     configure.saveCommand();
     const std::string year = g().taxYear.text();
     EXPECT_EQ(store::readInfValue(year, "SSMax", "", g().edition.ssmcInfFile), "200000");
-    EXPECT_FALSE(configure.bChanged);
+    EXPECT_FALSE(configure.changed);
 }
 
 TEST_F(FormCommands, LoadTPFillsEveryFormButTheSheetAndTheConfiguration) {

@@ -60,7 +60,7 @@ struct K1HelpList : ::testing::Test {
     }
     // Shows the section's list, cancelled; returns its caption and rows as shown.
     std::vector<std::string> show(const std::string& key) {
-        k1HelpMembers().F97_K1Key = key;
+        k1HelpMembers().listSectionKey = key;
         Desktop& desktop = test.program->desktop;
         Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         labels.clear();
@@ -103,7 +103,7 @@ TEST_F(K1HelpList, TheLabelsTellWhereToReadMoreForTheKeysReturn) {
 TEST_F(K1HelpList, TheGridHasItsFourColumnsWithTheirWidthsAndAlignments) {
     write("[K1-1065-Box11]\r\nA|Other portfolio income|\r\n");
     Desktop& desktop = test.program->desktop;
-    k1HelpMembers().F97_K1Key = "K1-1065-Box11";
+    k1HelpMembers().listSectionKey = "K1-1065-Box11";
     Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
     const Control& grid = list.at("Grid1");
     EXPECT_EQ(grid.items.front(), "Box #\tPurpose\tAdditional Information\tO/R");

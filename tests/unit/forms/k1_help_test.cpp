@@ -76,15 +76,15 @@ TEST_F(K1Help, APickedCodeGoesInTheFieldAndTheFocusToItsAmount) {
     EXPECT_EQ(field("Text3", 0).tag, "MONEY");
     EXPECT_EQ(desktop().focus(), &field("Text3", 0));
     EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr) << "the list lives for one choice";
-    EXPECT_EQ(k1HelpMembers().F97_K1Box, "C");
-    EXPECT_FALSE(k1HelpMembers().K1Cancel);
+    EXPECT_EQ(k1HelpMembers().chosenCode, "C");
+    EXPECT_FALSE(k1HelpMembers().listCancelled);
 }
 
 TEST_F(K1Help, AnOverrideLiftsTheMoneyCheckAndALaterPlainCodeOfTheRowRestoresIt) {
     pick(field("Text2", 2), "ZZ");
     EXPECT_EQ(field("Text2", 2).text, "ZZ");
     EXPECT_EQ(field("Text3", 2).tag, "");
-    EXPECT_EQ(k1HelpMembers().F97_K1OverRide, "X");
+    EXPECT_EQ(k1HelpMembers().chosenOverride, "X");
     pick(field("Text2", 2), "A");
     EXPECT_EQ(field("Text2", 2).text, "A");
     EXPECT_EQ(field("Text3", 2).tag, "-MONEY") << "the design Tag of the row comes back";
@@ -104,8 +104,8 @@ TEST_F(K1Help, CancelLeavesTheEarlierCodeAndTheAmountsTag) {
     pick(field("Text2", 0), "cancel");
     EXPECT_EQ(field("Text2", 0).text, "ZZ");
     EXPECT_EQ(field("Text3", 0).tag, "");
-    EXPECT_TRUE(k1HelpMembers().K1Cancel);
-    EXPECT_EQ(k1HelpMembers().F97_K1Box, "");
+    EXPECT_TRUE(k1HelpMembers().listCancelled);
+    EXPECT_EQ(k1HelpMembers().chosenCode, "");
     EXPECT_EQ(desktop().focus(), &field("Text2", 0));
     EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
 }

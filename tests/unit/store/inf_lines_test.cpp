@@ -40,7 +40,7 @@ TEST(InfLines, LineFeedThenCarriageReturnIsTwoLineEnds) {
 TEST(InfLines, KindsOfLines) {
     auto lines = linesOf("  [ Sec One ]  \n ; note=1\n\t \nkey = value \nbare words\n[open\n=v\n");
     ASSERT_EQ(lines.size(), 7u);
-    EXPECT_EQ(lines[0].kind, InfLineKind::Section);
+    EXPECT_EQ(lines[0].kind, InfLineKind::sectionName);
     EXPECT_EQ(lines[0].name, "Sec One");
     EXPECT_EQ(lines[1].kind, InfLineKind::Comment);
     EXPECT_EQ(lines[2].kind, InfLineKind::Blank);

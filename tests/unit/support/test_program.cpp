@@ -40,7 +40,7 @@ void TestUi::runModal(Form& form) {
         return;
     }
     if (auto* report = dynamic_cast<ErrorReportForm*>(&form)) {
-        reports.push_back(report->F8_Module + ": " + report->F8_ErrDesc);
+        reports.push_back(report->reportModule + ": " + report->reportErrorText);
         report->unload();
     }
 }

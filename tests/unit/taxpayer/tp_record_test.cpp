@@ -8,7 +8,7 @@ namespace {
 
 TPInfoRec parsed(const std::string& stored) {
     TPInfoRec rec;
-    rec.NameAddr = stored;
+    rec.nameAddr = stored;
     parseNameAddress(rec);
     return rec;
 }
@@ -18,11 +18,11 @@ TEST(ParseNameAddr, AThreeLineBlockGivesNameStreetAndCity) {
         "JOHN Q DOE JR\xBB"
         "12 MAIN ST\xBB"
         "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.Name, "JOHN Q DOE JR");
-    EXPECT_EQ(rec.Street, "12 MAIN ST");
-    EXPECT_EQ(rec.CityStateZip, "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.NameAddr, "JOHN Q DOE JR\r\n12 MAIN ST\r\nANYTOWN, OH 44000");
-    EXPECT_EQ(rec.Address, "12 MAIN ST\r\nANYTOWN, OH 44000");
+    EXPECT_EQ(rec.name, "JOHN Q DOE JR");
+    EXPECT_EQ(rec.street, "12 MAIN ST");
+    EXPECT_EQ(rec.cityStateZip, "ANYTOWN, OH 44000");
+    EXPECT_EQ(rec.nameAddr, "JOHN Q DOE JR\r\n12 MAIN ST\r\nANYTOWN, OH 44000");
+    EXPECT_EQ(rec.address, "12 MAIN ST\r\nANYTOWN, OH 44000");
 }
 
 TEST(ParseNameAddr, AFiveLineBlockJoinsTheMiddleThreeLinesByBlanks) {
@@ -32,37 +32,37 @@ TEST(ParseNameAddr, AFiveLineBlockJoinsTheMiddleThreeLinesByBlanks) {
         "APT 4\xBB"
         "12 MAIN ST\xBB"
         "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.Name, "ANN LEE");
-    EXPECT_EQ(rec.Street, "C/O BOB LEE APT 4 12 MAIN ST");
-    EXPECT_EQ(rec.CityStateZip, "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.Address, "C/O BOB LEE APT 4 12 MAIN ST\r\nANYTOWN, OH 44000");
-    EXPECT_EQ(rec.NameAddr, "ANN LEE\r\nC/O BOB LEE\r\nAPT 4\r\n12 MAIN ST\r\nANYTOWN, OH 44000");
+    EXPECT_EQ(rec.name, "ANN LEE");
+    EXPECT_EQ(rec.street, "C/O BOB LEE APT 4 12 MAIN ST");
+    EXPECT_EQ(rec.cityStateZip, "ANYTOWN, OH 44000");
+    EXPECT_EQ(rec.address, "C/O BOB LEE APT 4 12 MAIN ST\r\nANYTOWN, OH 44000");
+    EXPECT_EQ(rec.nameAddr, "ANN LEE\r\nC/O BOB LEE\r\nAPT 4\r\n12 MAIN ST\r\nANYTOWN, OH 44000");
 }
 
 TEST(ParseNameAddr, ATwoLineBlockHasAStreetAndNoCityLine) {
     const TPInfoRec rec = parsed(
         "ANN LEE\xBB"
         "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.Street, "ANYTOWN, OH 44000");
-    EXPECT_EQ(rec.CityStateZip, "");
-    EXPECT_EQ(rec.Address, "ANYTOWN, OH 44000");
+    EXPECT_EQ(rec.street, "ANYTOWN, OH 44000");
+    EXPECT_EQ(rec.cityStateZip, "");
+    EXPECT_EQ(rec.address, "ANYTOWN, OH 44000");
 }
 
 TEST(ParseNameAddr, ANameAloneHasNoAddress) {
     const TPInfoRec rec = parsed("TIFIMRU");
-    EXPECT_EQ(rec.Name, "TIFIMRU");
-    EXPECT_EQ(rec.NameAddr, "TIFIMRU");
-    EXPECT_EQ(rec.Street, "");
-    EXPECT_EQ(rec.Address, "");
+    EXPECT_EQ(rec.name, "TIFIMRU");
+    EXPECT_EQ(rec.nameAddr, "TIFIMRU");
+    EXPECT_EQ(rec.street, "");
+    EXPECT_EQ(rec.address, "");
 }
 
 TEST(ParseNameAddr, AnEmptyBlockLeavesTheOtherFieldsAsTheyWere) {
     TPInfoRec rec;
-    rec.Name = "OLD";
-    rec.Street = "1 OLD RD";
+    rec.name = "OLD";
+    rec.street = "1 OLD RD";
     parseNameAddress(rec);
-    EXPECT_EQ(rec.Name, "OLD");
-    EXPECT_EQ(rec.Street, "1 OLD RD");
+    EXPECT_EQ(rec.name, "OLD");
+    EXPECT_EQ(rec.street, "1 OLD RD");
 }
 
 TEST(ParseNameAddr, ABlockParsedOverAnEarlierPersonKeepsNoneOfItsLines) {
@@ -70,19 +70,19 @@ TEST(ParseNameAddr, ABlockParsedOverAnEarlierPersonKeepsNoneOfItsLines) {
         "JOHN DOE\xBB"
         "12 MAIN ST\xBB"
         "ANYTOWN, OH 44000");
-    rec.NameAddr =
+    rec.nameAddr =
         "ANN LEE\xBB"
         "5 OAK AVE";
     parseNameAddress(rec);
-    EXPECT_EQ(rec.Name, "ANN LEE");
-    EXPECT_EQ(rec.Street, "5 OAK AVE");
-    EXPECT_EQ(rec.CityStateZip, "");
-    EXPECT_EQ(rec.Address, "5 OAK AVE");
-    rec.NameAddr = "TIFIMRU";
+    EXPECT_EQ(rec.name, "ANN LEE");
+    EXPECT_EQ(rec.street, "5 OAK AVE");
+    EXPECT_EQ(rec.cityStateZip, "");
+    EXPECT_EQ(rec.address, "5 OAK AVE");
+    rec.nameAddr = "TIFIMRU";
     parseNameAddress(rec);
-    EXPECT_EQ(rec.Name, "TIFIMRU");
-    EXPECT_EQ(rec.Street, "");
-    EXPECT_EQ(rec.Address, "");
+    EXPECT_EQ(rec.name, "TIFIMRU");
+    EXPECT_EQ(rec.street, "");
+    EXPECT_EQ(rec.address, "");
 }
 
 TEST(ParseNameAddr, AHugeBlockIsCutWithoutFault) {
@@ -92,9 +92,9 @@ TEST(ParseNameAddr, AHugeBlockIsCutWithoutFault) {
         "1 MAIN ST\xBB"
         "TOWN";
     const TPInfoRec rec = parsed(stored);
-    EXPECT_EQ(rec.Name.size(), 10000u);
-    EXPECT_EQ(rec.Street, "1 MAIN ST");
-    EXPECT_EQ(rec.CityStateZip, "TOWN");
+    EXPECT_EQ(rec.name.size(), 10000u);
+    EXPECT_EQ(rec.street, "1 MAIN ST");
+    EXPECT_EQ(rec.cityStateZip, "TOWN");
 }
 
 }  // namespace
