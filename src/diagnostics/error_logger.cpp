@@ -84,7 +84,7 @@ void logError(const std::string& proc, int errNo, const std::string& errDesc) {
 
     // A fault of the reporting itself is reported as a fault of logError.
     try {
-        if (program().g.process.debug) stopForProgrammer(kOwnLabel, ownFault);
+        stopForProgrammer(kOwnLabel, ownFault);
         auto form = reportForm(kOwnLabel, ownFault.number, ownFault.description);
         try {
             form->reportFormName = errorFormText();

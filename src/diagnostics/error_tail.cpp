@@ -42,6 +42,7 @@ Fault faultOf(std::exception_ptr fault) {
 }
 
 void stopForProgrammer(std::string_view label, const Fault& fault) {
+    if (!hasProgram() || !program().g.process.debug) return;
     std::cerr << label << ": error " << fault.number << ": " << fault.description << std::endl;
     // A trap with no debugger to catch it would end the program, which a fault never may.
     if (hasProgram() && program().platform.debuggerAttached()) std::raise(SIGTRAP);
@@ -58,7 +59,7 @@ void runGuarded(std::string_view label, const std::function<void()>& body) {
         fault = faultOf(std::current_exception());
     }
     try {
-        if (hasProgram() && program().g.process.debug) stopForProgrammer(label, fault);
+        stopForProgrammer(label, fault);
         logError(std::string(label), fault.number, fault.description);
     } catch (const ProgramEnded&) {
         throw;

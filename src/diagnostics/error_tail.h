@@ -37,7 +37,7 @@ T runGuardedOr(std::string_view label, T fallback, Body&& body) {
 // Raises a numbered error, most often a Data Error (800 to 899) with the text for the operator.
 [[noreturn]] void raiseDataError(int number, const std::string& text, const std::string& source = {});
 
-// In debug mode: writes "<label>: error <n>: <desc>" to stderr and stops in an attached debugger.
+// In debug mode only: writes "<label>: error <n>: <desc>" to stderr and stops in an attached debugger.
 void stopForProgrammer(std::string_view label, const Fault& fault);
 
 }  // namespace lw

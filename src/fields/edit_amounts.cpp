@@ -4,7 +4,8 @@
 #include "fields/edit_ctl.h"
 #include "fields/edit_handler.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/desktop.h"
+#include "model/ports.h"
 #include "text/masks.h"
 #include "text/number.h"
 #include "text/pieces.h"
@@ -63,7 +64,7 @@ bool editMoneyNegativeOk(Control& ctl) {
         // A minus sign anywhere else is dropped without making the amount negative.
         for (const char* sign : {"-", "(", ")"}) amount = text::replaceAll(amount, sign, "");
         ctl.text = text::formatNumber(amountText(amount, kLabel), negative ? "($###,###.00)" : "$###,###.00");
-        program().ui.refresh();
+        if (ctl.form && ctl.form->desktop()) ctl.form->desktop()->ui().refresh();
     });
 }
 

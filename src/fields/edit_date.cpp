@@ -83,7 +83,7 @@ bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& req
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, 6, "");
-        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(kSource, fault);
+        if (!isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }
     return result;

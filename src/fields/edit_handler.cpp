@@ -5,7 +5,7 @@
 #include "diagnostics/error_tail.h"
 #include "fields/edit_failure.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/form.h"
 
 namespace lw {
 
@@ -18,7 +18,7 @@ bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::fu
     } catch (...) {
         const Fault fault = faultOf(std::current_exception());
         showInvalidField(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
-        if (program().g.process.debug && !isDataError(fault.number)) stopForProgrammer(label, fault);
+        if (!isDataError(fault.number)) stopForProgrammer(label, fault);
         if (ctl.form) ctl.form->setFocus(ctl);
         return false;
     }

@@ -131,7 +131,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             logError("F0_MDI:cmdBtn_Click - Button Pressed = " + button.caption, fault.number,
                      fault.description);
         if (fault.number == 343) return;
-        if (g().process.debug) stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
+        stopForProgrammer("F0_MDI:cmdBtn_Click", fault);
         logError("F0_MDI:cmdBtn_Click", fault.number, fault.description);
     }
 }

@@ -147,6 +147,17 @@ TEST_F(DiagnosticsTest, OutsideDebugModeNothingIsWritten) {
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
+TEST_F(DiagnosticsTest, AStopForTheProgrammerHoldsOnlyInDebugMode) {
+    const Fault fault{53, "File not found"};
+    ::testing::internal::CaptureStderr();
+    stopForProgrammer("M9_Test:Stop", fault);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
+    prog().g.process.debug = true;
+    ::testing::internal::CaptureStderr();
+    stopForProgrammer("M9_Test:Stop", fault);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "M9_Test:Stop: error 53: File not found\n");
+}
+
 volatile std::sig_atomic_t trapped = 0;
 void onTrap(int) { trapped = trapped + 1; }
 
