@@ -35,7 +35,7 @@ K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {
 void K1Form::onLoad() {
     setTabOrder();
     TaxForm::onLoad();
-    keepK1DesignValues(*this);
+    designValues_ = keptDesignValues(*this);
     const std::string prefix = std::string("K1HELP") + text::kFieldSeparator + design_.key;
     setUpCodeColumn("Text2", design_.text2Rows, prefix);
     setUpCodeColumn("Text4", design_.text4Rows, prefix);
@@ -116,7 +116,7 @@ void K1Form::onKeyDown(Control& ctl, int& keyCode, int) {
     focusRoutine(ctl, limitOf(ctl));
     const K1HelpKeys rule = left ? design_.text2Keys : design_.text4Keys;
     if (k1KeyOpensList(rule, keyCode) && text::equalsNoCase(ctl.tag.substr(0, 6), "K1HELP"))
-        openK1CodeList(*this, ctl);
+        openK1CodeList(*this, ctl, designValues_);
 }
 
 void K1Form::onKeyPress(Control& ctl, int& keyAscii) {
@@ -145,7 +145,7 @@ void K1Form::styleTextBox(Control& box) {
     if (box.name == "Text2" || box.name == "Text4") box.alignment = 2;
 }
 
-void K1Form::refillAfterClear() { restoreK1DesignValues(*this); }
+void K1Form::refillAfterClear() { restoreK1DesignValues(*this, designValues_); }
 
 bool K1Form::requiredFieldsFilled(int& focusIndex) {
     const Globals& g = program().g;

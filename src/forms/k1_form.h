@@ -4,6 +4,7 @@
 // from the list of its box. The page on show follows the field in focus.
 
 #include "forms/k1_design.h"
+#include "forms/k1_help.h"
 #include "forms/k1_paper.h"
 #include "forms/tax_form.h"
 
@@ -51,6 +52,9 @@ private:
     bool isCheckBoxField(const Control& ctl) const;
 
     const K1Design& design_;
+    // The code fields' texts and the amounts' tags as the form loaded: Clear and the code list go back to
+    // them.
+    K1DesignValues designValues_;
     K1Tabs clipTabs_;  // the tab strip as the clip found it
 };
 

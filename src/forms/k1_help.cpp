@@ -4,7 +4,7 @@
 
 #include "diagnostics/error_tail.h"
 #include "forms/k1_help_form.h"
-#include "model/program.h"
+#include "model/desktop.h"
 #include "text/case.h"
 
 namespace lw {
@@ -24,16 +24,12 @@ std::vector<std::string> keep(const Form& form, const char* name, bool tags) {
 
 }  // namespace
 
-void keepK1DesignValues(Form& form) {
-    Globals& g = program().g;
-    g.document.k1Design.text2 = keep(form, "Text2", false);
-    g.document.k1Design.tag3 = keep(form, "Text3", true);
-    g.document.k1Design.text4 = keep(form, "Text4", false);
-    g.document.k1Design.tag5 = keep(form, "Text5", true);
+K1DesignValues keptDesignValues(const Form& form) {
+    return {keep(form, "Text2", false), keep(form, "Text3", true), keep(form, "Text4", false),
+            keep(form, "Text5", true)};
 }
 
-void restoreK1DesignValues(Form& form) {
-    const K1DesignValues& kept = program().g.document.k1Design;
+void restoreK1DesignValues(Form& form, const K1DesignValues& kept) {
     const auto restore = [&form](const char* name, const std::vector<std::string>& values, bool tags) {
         for (Control* field : form.arrayOf(name)) {
             const std::size_t i = static_cast<std::size_t>(field->index);
@@ -47,7 +43,7 @@ void restoreK1DesignValues(Form& form) {
     restore("Text5", kept.tag5, true);
 }
 
-void openK1CodeList(Form& form, Control& field) {
+void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept) {
     runGuarded("M3_Ledgerwick:K1_Help_KeyDown", [&] {
         const std::string name = text::toUpper(field.name);
         const int index = field.index;
@@ -60,7 +56,8 @@ void openK1CodeList(Form& form, Control& field) {
         members.chosenCode.clear();
         members.chosenOverride.clear();
         members.listCancelled = false;
-        Desktop& desktop = program().desktop;
+        if (!form.desktop()) return;
+        Desktop& desktop = *form.desktop();
         Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
         if (list.isLoaded()) desktop.showModal(list);
 
@@ -69,8 +66,7 @@ void openK1CodeList(Form& form, Control& field) {
             const bool left = name == "TEXT2";
             Control& amount = form.at(left ? "Text3" : "Text5", index);
             // A code picked earlier for the row may have lifted the money check: it comes back first.
-            const std::vector<std::string>& designTags =
-                left ? program().g.document.k1Design.tag3 : program().g.document.k1Design.tag5;
+            const std::vector<std::string>& designTags = left ? kept.tag3 : kept.tag5;
             amount.tag = designTags.at(static_cast<std::size_t>(index));
             if (members.chosenOverride == "X") amount.tag.clear();
             desktop.setFocus(amount);

@@ -27,15 +27,6 @@ struct CatalogueValues {
     int focusAfterTaxpayerButton = 0;
 };
 
-// The design Text of the K-1 code fields (Text2, Text4) and the design Tag of their amounts (Text3,
-// Text5), kept at each K-1 form's load: Clear puts them back and the code list takes back an override.
-struct K1DesignValues {
-    std::vector<std::string> text2;
-    std::vector<std::string> tag3;
-    std::vector<std::string> text4;
-    std::vector<std::string> tag5;
-};
-
 struct OpenDocument {
     Form* currentForm = nullptr;  // the form that the shared procedures work on
     std::string formKey;
@@ -45,7 +36,6 @@ struct OpenDocument {
     std::optional<SaveOutcome> lastSaveOutcome;
     std::string lastFieldKey;  // the field the taxpayer fill hands the focus back to
     CatalogueValues catalogue;
-    K1DesignValues k1Design;
 };
 
 }  // namespace lw

@@ -46,12 +46,12 @@ protected:
         owned->add(ControlKind::TextBox, "Text2", 0).tag = "K1HELP" + kDot + "K1-1065-Box13";
         owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
         form_ = &desktop().load(std::move(owned));
-        keepK1DesignValues(*form_);
+        kept = keptDesignValues(*form_);
     }
     void callList() {
         Control& code = form_->at("Text2", 0);
         desktop().setFocus(code);
-        desktop().dispatch([&] { openK1CodeList(*form_, code); });
+        desktop().dispatch([&] { openK1CodeList(*form_, code, kept); });
     }
     // The middle of a row of the grid, the header being row 0.
     static QPoint rowPoint(const Form& list, int row) {
@@ -63,6 +63,7 @@ protected:
 
     QTemporaryDir folder_;
     Form* form_ = nullptr;
+    K1DesignValues kept;
 };
 
 TEST_F(K1ListTest, TheDialogShowsTheRowsAndAClickPicksACode) {

@@ -18,6 +18,7 @@ const std::string kDot = "\xB7";
 struct K1Help : ::testing::Test {
     testing::TestProgram test;
     Form* form = nullptr;
+    K1DesignValues kept;
 
     void SetUp() override {
         test.start();
@@ -45,7 +46,7 @@ struct K1Help : ::testing::Test {
             owned->add(ControlKind::TextBox, "Text5", i).tag = "MONEY";
         }
         form = &desktop().load(std::move(owned));
-        keepK1DesignValues(*form);
+        kept = keptDesignValues(*form);
         g().document.currentForm = form;
         g().document.formKey = "K11065";
     }
@@ -60,7 +61,7 @@ struct K1Help : ::testing::Test {
     void pick(Control& code, const std::string& answer) {
         desktop().setFocus(code);
         test.ui.k1Answers.push_back(answer);
-        desktop().dispatch([&] { openK1CodeList(*form, code); });
+        desktop().dispatch([&] { openK1CodeList(*form, code, kept); });
     }
     const std::vector<std::string>& lastList() { return test.ui.k1Lists.back(); }
 };
@@ -133,7 +134,7 @@ TEST_F(K1Help, ClearPutsBackTheDesignTextsAndTags) {
     pick(field("Text4", 0), "Z");
     field("Text2", 1).text = "typed";
     clearForm();
-    restoreK1DesignValues(*form);
+    restoreK1DesignValues(*form, kept);
     EXPECT_EQ(field("Text2", 0).text, "");
     EXPECT_EQ(field("Text2", 1).text, "9b");
     EXPECT_EQ(field("Text3", 0).tag, "MONEY");
@@ -158,11 +159,11 @@ TEST_F(K1Help, ACodeFieldWithNoAmountIsReportedAndNothingBreaks) {
     EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
 }
 
-TEST_F(K1Help, SaveInfoKeepsTheArraysByIndex) {
-    EXPECT_EQ(g().document.k1Design.text2, (std::vector<std::string>{"", "9b", ""}));
-    EXPECT_EQ(g().document.k1Design.tag3, (std::vector<std::string>{"MONEY", "MONEY", "-MONEY"}));
-    EXPECT_EQ(g().document.k1Design.text4, (std::vector<std::string>{"", ""}));
-    EXPECT_EQ(g().document.k1Design.tag5, (std::vector<std::string>{"MONEY", "MONEY"}));
+TEST_F(K1Help, TheDesignValuesAreKeptByIndex) {
+    EXPECT_EQ(kept.text2, (std::vector<std::string>{"", "9b", ""}));
+    EXPECT_EQ(kept.tag3, (std::vector<std::string>{"MONEY", "MONEY", "-MONEY"}));
+    EXPECT_EQ(kept.text4, (std::vector<std::string>{"", ""}));
+    EXPECT_EQ(kept.tag5, (std::vector<std::string>{"MONEY", "MONEY"}));
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ struct ScriptK1Answers : ::testing::Test {
     std::unique_ptr<Program> program;
     std::filesystem::path folder;
     Form* form = nullptr;
+    K1DesignValues kept;
 
     void SetUp() override {
         std::string pattern = (std::filesystem::temp_directory_path() / "lw-k1-XXXXXX").string();
@@ -36,7 +37,7 @@ struct ScriptK1Answers : ::testing::Test {
         owned->add(ControlKind::TextBox, "Text2", 0).tag = "K1HELP\xB7K1-1120S-Box12";
         owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
         form = &program->desktop.load(std::move(owned));
-        keepK1DesignValues(*form);
+        kept = keptDesignValues(*form);
     }
     void TearDown() override {
         program.reset();
@@ -47,7 +48,7 @@ struct ScriptK1Answers : ::testing::Test {
     void callList() {
         Control& code = form->at("Text2", 0);
         program->desktop.setFocus(code);
-        program->desktop.dispatch([&] { openK1CodeList(*form, code); });
+        program->desktop.dispatch([&] { openK1CodeList(*form, code, kept); });
     }
 };
 
