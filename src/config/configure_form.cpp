@@ -305,7 +305,8 @@ bool ConfigureForm::putBackAfterClip() {
 }
 
 void registerConfigureForm() {
-    registerForm("F1_Configure", [] { return std::make_unique<ConfigureForm>(); });
+    registerForm("F1_Configure",
+                 [](const ProgramParts& parts) { return std::make_unique<ConfigureForm>(parts); });
 }
 
 }  // namespace lw

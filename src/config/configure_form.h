@@ -12,7 +12,7 @@ namespace lw {
 
 class ConfigureForm : public CatalogueForm {
 public:
-    ConfigureForm();
+    explicit ConfigureForm(const ProgramParts& parts);
 
     // Set when the operator changes a figure; the frame's Save and Print clear it. Nothing reads it.
     bool changed = false;

@@ -40,8 +40,8 @@ void figureField(Control& c, const char* tip, int top) {
 
 }  // namespace
 
-ConfigureForm::ConfigureForm()
-    : CatalogueForm("F1_Configure"),
+ConfigureForm::ConfigureForm(const ProgramParts& parts)
+    : CatalogueForm("F1_Configure", parts),
       Frame6(add(ControlKind::Frame, "Frame6")),
       Frame1(add(ControlKind::Frame, "Frame1")),
       cbxPrinters(add(ControlKind::ComboBox, "cbxPrinters")),

@@ -17,9 +17,10 @@ namespace {
 constexpr int kOverflow = 6;
 }  // namespace
 
-BenefitStatementForm::BenefitStatementForm(const std::string& formName, std::string statement,
-                                           const std::string& guideName, std::string computeLabel)
-    : TaxForm(formName),
+BenefitStatementForm::BenefitStatementForm(const ProgramParts& parts, const std::string& formName,
+                                           std::string statement, const std::string& guideName,
+                                           std::string computeLabel)
+    : TaxForm(formName, parts),
       statement_(std::move(statement)),
       guideName_(guideName),
       computeLabel_(std::move(computeLabel)) {

@@ -15,8 +15,8 @@ class BenefitStatementForm : public TaxForm {
 public:
     // statement is the statement's name in the reports ("SSA1099"); guideName the one the guide line
     // names ("SSA-1099"); computeLabel the source of the computation's reports.
-    BenefitStatementForm(const std::string& formName, std::string statement, const std::string& guideName,
-                         std::string computeLabel);
+    BenefitStatementForm(const ProgramParts& parts, const std::string& formName, std::string statement,
+                         const std::string& guideName, std::string computeLabel);
 
     void onLoad() override;
     // A field of Text1 is edited as it is left; once it stands, the statement's own step follows.

@@ -23,7 +23,7 @@ bool isNumberField(const Control& ctl) { return text::equalsNoCase(ctl.tag, "TIN
 
 }  // namespace
 
-CardsForm::CardsForm() : TaxForm("F2_SS_ITIN") {}
+CardsForm::CardsForm(const ProgramParts& parts) : TaxForm("F2_SS_ITIN", parts) {}
 
 void CardsForm::onLoad() {
     initCatalogueForm(*this);
@@ -179,7 +179,7 @@ bool CardsForm::fillTaxpayers(const std::string& who, const TPInfoRec&, const TP
 }
 
 void registerCardsForm() {
-    registerForm("F2_SS_ITIN", [] { return std::make_unique<CardsForm>(); });
+    registerForm("F2_SS_ITIN", [](const ProgramParts& parts) { return std::make_unique<CardsForm>(parts); });
 }
 
 }  // namespace lw

@@ -11,7 +11,7 @@ namespace lw {
 
 class CardsForm : public TaxForm {
 public:
-    CardsForm();
+    explicit CardsForm(const ProgramParts& parts);
 
     void onLoad() override;
     void onKeyPress(Control& ctl, int& keyAscii) override;

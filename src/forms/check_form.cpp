@@ -10,7 +10,7 @@ constexpr const char* kSampleRouting = "325070760";
 constexpr const char* kSampleAccount = "987123654";
 }  // namespace
 
-CheckForm::CheckForm() : TaxForm("F4_CHK") {}
+CheckForm::CheckForm(const ProgramParts& parts) : TaxForm("F4_CHK", parts) {}
 
 void CheckForm::onKeyPress(Control& ctl, int& keyAscii) {
     if (isFieldArray(ctl)) filterFieldKey(ctl, keyAscii);
@@ -37,7 +37,7 @@ bool CheckForm::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPIn
 }
 
 void registerCheckForm() {
-    registerForm("F4_CHK", [] { return std::make_unique<CheckForm>(); });
+    registerForm("F4_CHK", [](const ProgramParts& parts) { return std::make_unique<CheckForm>(parts); });
 }
 
 }  // namespace lw

@@ -8,7 +8,7 @@ namespace lw {
 
 class CheckForm : public TaxForm {
 public:
-    CheckForm();
+    explicit CheckForm(const ProgramParts& parts);
 
     // Every key, copy and paste included, goes through the keystroke filter.
     void onKeyPress(Control& ctl, int& keyAscii) override;

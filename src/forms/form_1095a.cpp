@@ -34,7 +34,7 @@ MonthColumn monthColumnOf(int fieldIndex) {
     return {};
 }
 
-Form1095A::Form1095A() : TaxForm("TF_1095A") {
+Form1095A::Form1095A(const ProgramParts& parts) : TaxForm("TF_1095A", parts) {
     sizesBorder_ = false;
     shadesPartLabels_ = true;
 }
@@ -147,7 +147,7 @@ void Form1095A::showTotalOutOfReach(int fieldIndex, int target) {
 }
 
 void register1095AForm() {
-    registerForm("TF_1095A", [] { return std::make_unique<Form1095A>(); });
+    registerForm("TF_1095A", [](const ProgramParts& parts) { return std::make_unique<Form1095A>(parts); });
 }
 
 }  // namespace lw

@@ -16,7 +16,7 @@ struct MonthColumn {
 
 class Form1095A : public TaxForm {
 public:
-    Form1095A();
+    explicit Form1095A(const ProgramParts& parts);
 
     void onGotFocus(Control& ctl) override;
     void onKeyDown(Control& ctl, int& keyCode, int shift) override;

@@ -9,7 +9,8 @@
 
 namespace lw {
 
-EnterMovesOnForm::EnterMovesOnForm(const std::string& name) : TaxForm(name) {
+EnterMovesOnForm::EnterMovesOnForm(const std::string& name, const ProgramParts& parts)
+    : TaxForm(name, parts) {
     sizesBorder_ = false;
     shadesPartLabels_ = true;
 }
@@ -22,14 +23,14 @@ void EnterMovesOnForm::onKeyPress(Control& ctl, int& keyAscii) {
     TaxForm::onKeyPress(ctl, keyAscii);
 }
 
-Form1095B::Form1095B() : EnterMovesOnForm("TF_1095B") {}
+Form1095B::Form1095B(const ProgramParts& parts) : EnterMovesOnForm("TF_1095B", parts) {}
 
 bool Form1095B::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec&) {
     fillTaxpayers1095B(*this, a);
     return true;
 }
 
-Form1095C::Form1095C() : EnterMovesOnForm("TF_1095C") {}
+Form1095C::Form1095C(const ProgramParts& parts) : EnterMovesOnForm("TF_1095C", parts) {}
 
 bool Form1095C::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec&) {
     fillTaxpayers1095C(*this, a);
@@ -48,8 +49,8 @@ void Form1095C::styleTextBox(Control& box) {
 }
 
 void register1095BCForms() {
-    registerForm("TF_1095B", [] { return std::make_unique<Form1095B>(); });
-    registerForm("TF_1095C", [] { return std::make_unique<Form1095C>(); });
+    registerForm("TF_1095B", [](const ProgramParts& parts) { return std::make_unique<Form1095B>(parts); });
+    registerForm("TF_1095C", [](const ProgramParts& parts) { return std::make_unique<Form1095C>(parts); });
 }
 
 }  // namespace lw

@@ -10,7 +10,7 @@ namespace lw {
 
 class EnterMovesOnForm : public TaxForm {
 public:
-    explicit EnterMovesOnForm(const std::string& name);
+    EnterMovesOnForm(const std::string& name, const ProgramParts& parts);
 
     void onKeyPress(Control& ctl, int& keyAscii) override;
 };
@@ -18,7 +18,7 @@ public:
 // The provider's statement: Load TP fills the responsible individual.
 class Form1095B : public EnterMovesOnForm {
 public:
-    Form1095B();
+    explicit Form1095B(const ProgramParts& parts);
 
     bool fillTaxpayers(const std::string& who, const TPInfoRec& a, const TPInfoRec& b) override;
 };
@@ -27,7 +27,7 @@ public:
 // Tahoma 11.
 class Form1095C : public EnterMovesOnForm {
 public:
-    Form1095C();
+    explicit Form1095C(const ProgramParts& parts);
 
     void styleTextBox(Control& box) override;
     // Load TP fills the employee.

@@ -11,7 +11,7 @@ namespace {
 bool isBoxSix(const Control& label) { return label.name == "Label1" && label.index == 6; }
 }  // namespace
 
-Form1099A::Form1099A() : TaxForm("TF_1099A") {}
+Form1099A::Form1099A(const ProgramParts& parts) : TaxForm("TF_1099A", parts) {}
 
 void Form1099A::paintLabelAsPaper(Control& label) {
     // White, and for box 6 the system's window colour, which is white as well.
@@ -32,7 +32,7 @@ bool Form1099A::putBackAfterClip() {
 }
 
 void register1099AForm() {
-    registerForm("TF_1099A", [] { return std::make_unique<Form1099A>(); });
+    registerForm("TF_1099A", [](const ProgramParts& parts) { return std::make_unique<Form1099A>(parts); });
 }
 
 }  // namespace lw

@@ -8,7 +8,7 @@ namespace lw {
 
 class Form1099A : public TaxForm {
 public:
-    Form1099A();
+    explicit Form1099A(const ProgramParts& parts);
 
     void paintLabelAsPaper(Control& label) override;
     bool putBackAfterClip() override;

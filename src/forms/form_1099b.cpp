@@ -6,7 +6,7 @@
 
 namespace lw {
 
-Form1099B::Form1099B() : TaxForm("TF_1099B") {}
+Form1099B::Form1099B(const ProgramParts& parts) : TaxForm("TF_1099B", parts) {}
 
 void Form1099B::onLoad() {
     TaxForm::onLoad();
@@ -20,7 +20,7 @@ void Form1099B::onLoad() {
 }
 
 void register1099BForm() {
-    registerForm("TF_1099B", [] { return std::make_unique<Form1099B>(); });
+    registerForm("TF_1099B", [](const ProgramParts& parts) { return std::make_unique<Form1099B>(parts); });
 }
 
 }  // namespace lw

@@ -8,7 +8,7 @@ namespace lw {
 
 class Form1099B : public TaxForm {
 public:
-    Form1099B();
+    explicit Form1099B(const ProgramParts& parts);
 
     void onLoad() override;
 

@@ -7,7 +7,7 @@
 
 namespace lw {
 
-Form1099G::Form1099G() : TaxForm("TF_1099G") {}
+Form1099G::Form1099G(const ProgramParts& parts) : TaxForm("TF_1099G", parts) {}
 
 void Form1099G::onLostFocus(Control& ctl) {
     if (ctl.index == kTaxYearBox && text::equalsNoCase(ctl.name, "Text1")) {
@@ -22,7 +22,7 @@ void Form1099G::onLostFocus(Control& ctl) {
 }
 
 void register1099GForm() {
-    registerForm("TF_1099G", [] { return std::make_unique<Form1099G>(); });
+    registerForm("TF_1099G", [](const ProgramParts& parts) { return std::make_unique<Form1099G>(parts); });
 }
 
 }  // namespace lw

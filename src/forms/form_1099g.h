@@ -8,7 +8,7 @@ namespace lw {
 
 class Form1099G : public TaxForm {
 public:
-    Form1099G();
+    explicit Form1099G(const ProgramParts& parts);
 
     void onLostFocus(Control& ctl) override;
 

@@ -27,7 +27,8 @@ int fieldIndexOf(const std::string& item) {
 
 }  // namespace
 
-FormRrb1099::FormRrb1099() : BenefitStatementForm("TF_RRB1099", "RRB1099", "RRB-1099", kComputeLabel) {}
+FormRrb1099::FormRrb1099(const ProgramParts& parts)
+    : BenefitStatementForm(parts, "TF_RRB1099", "RRB1099", "RRB-1099", kComputeLabel) {}
 
 void FormRrb1099::onLoad() {
     BenefitStatementForm::onLoad();
@@ -133,7 +134,8 @@ void FormRrb1099::computeRailroadBenefits(int /*Index*/) {
 }
 
 void registerRRB1099Form() {
-    registerForm("TF_RRB1099", [] { return std::make_unique<FormRrb1099>(); });
+    registerForm("TF_RRB1099",
+                 [](const ProgramParts& parts) { return std::make_unique<FormRrb1099>(parts); });
 }
 
 }  // namespace lw

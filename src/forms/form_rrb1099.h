@@ -10,7 +10,7 @@ namespace lw {
 
 class FormRrb1099 : public BenefitStatementForm {
 public:
-    FormRrb1099();
+    explicit FormRrb1099(const ProgramParts& parts);
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;

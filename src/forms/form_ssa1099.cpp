@@ -21,7 +21,8 @@ bool leavingComputes(int index) { return (index >= 2 && index <= 11) || index ==
 
 }  // namespace
 
-FormSsa1099::FormSsa1099() : BenefitStatementForm("TF_SSA1099", "SSA1099", "SSA-1099", kComputeLabel) {}
+FormSsa1099::FormSsa1099(const ProgramParts& parts)
+    : BenefitStatementForm(parts, "TF_SSA1099", "SSA1099", "SSA-1099", kComputeLabel) {}
 
 void FormSsa1099::onActivate() { onActivateForm(); }
 
@@ -134,7 +135,8 @@ void FormSsa1099::computeSocialSecurityBenefits(int fieldIndex) {
 }
 
 void registerSSA1099Form() {
-    registerForm("TF_SSA1099", [] { return std::make_unique<FormSsa1099>(); });
+    registerForm("TF_SSA1099",
+                 [](const ProgramParts& parts) { return std::make_unique<FormSsa1099>(parts); });
 }
 
 }  // namespace lw

@@ -11,7 +11,7 @@ namespace lw {
 
 class FormSsa1099 : public BenefitStatementForm {
 public:
-    FormSsa1099();
+    explicit FormSsa1099(const ProgramParts& parts);
 
     void onActivate() override;
     void afterYearChange() override;

@@ -27,7 +27,8 @@ bool isArray(const Control& ctl, char number) { return isFieldArray(ctl) && ctl.
 
 }  // namespace
 
-K1Form::K1Form(const K1Design& design) : TaxForm(design.form), design_(design) {
+K1Form::K1Form(const K1Design& design, const ProgramParts& parts)
+    : TaxForm(design.form, parts), design_(design) {
     sizesBorder_ = false;
     shadesPartLabels_ = true;
 }
@@ -205,7 +206,8 @@ void K1Form::afterTaxpayerFill() {
 void registerK1Forms() {
     for (const char* name : {"TF_K11041", "TF_K11065", "TF_K11120S"}) {
         const K1Design* design = k1DesignOf(name);
-        registerForm(name, [design] { return std::make_unique<K1Form>(*design); });
+        registerForm(
+            name, [design](const ProgramParts& parts) { return std::make_unique<K1Form>(*design, parts); });
     }
 }
 

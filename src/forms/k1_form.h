@@ -12,7 +12,7 @@ namespace lw {
 
 class K1Form : public TaxForm {
 public:
-    explicit K1Form(const K1Design& design);
+    K1Form(const K1Design& design, const ProgramParts& parts);
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;

@@ -12,7 +12,7 @@
 
 namespace lw {
 
-LicenseForm::LicenseForm() : TaxForm("F3_DL") {}
+LicenseForm::LicenseForm(const ProgramParts& parts) : TaxForm("F3_DL", parts) {}
 
 void LicenseForm::onLoad() {
     TaxForm::onLoad();
@@ -105,7 +105,7 @@ void LicenseForm::refillAfterClear() {
 }
 
 void registerLicenseForm() {
-    registerForm("F3_DL", [] { return std::make_unique<LicenseForm>(); });
+    registerForm("F3_DL", [](const ProgramParts& parts) { return std::make_unique<LicenseForm>(parts); });
 }
 
 }  // namespace lw

@@ -10,7 +10,7 @@ namespace lw {
 
 class LicenseForm : public TaxForm, public ChosenPictures {
 public:
-    LicenseForm();
+    explicit LicenseForm(const ProgramParts& parts);
 
     void onLoad() override;
     void onValidate(Control& ctl, bool& cancel) override;

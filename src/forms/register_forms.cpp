@@ -65,7 +65,8 @@ void registerAllForms() {
     for (const CatalogueEntry& entry : catalogue()) {
         const std::string name = entry.form;
         if (hasForm(name) || !hasDefinition(name)) continue;
-        registerForm(name, [name] { return std::make_unique<TaxForm>(name); });
+        registerForm(name,
+                     [name](const ProgramParts& parts) { return std::make_unique<TaxForm>(name, parts); });
     }
 }
 

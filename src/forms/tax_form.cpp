@@ -17,7 +17,7 @@ bool isFieldArray(const Control& ctl) {
            text::startsWithNoCase(ctl.name, "Text") && ctl.name[4] >= '1' && ctl.name[4] <= '5';
 }
 
-TaxForm::TaxForm(const std::string& name) : CatalogueForm(name) {}
+TaxForm::TaxForm(const std::string& name, const ProgramParts& parts) : CatalogueForm(name, parts) {}
 
 void TaxForm::onLoad() {
     initCatalogueForm(*this);

@@ -10,7 +10,7 @@ namespace lw {
 
 class TaxForm : public CatalogueForm {
 public:
-    explicit TaxForm(const std::string& name);
+    TaxForm(const std::string& name, const ProgramParts& parts);
 
     void onLoad() override;
     void onGotFocus(Control& ctl) override;

@@ -45,7 +45,7 @@ bool isTextOne(const Control& ctl) { return ctl.isTextBox() && ctl.name == "Text
 
 }  // namespace
 
-TaxpayerSheetForm::TaxpayerSheetForm() : TaxForm("F5_TPInfo") {}
+TaxpayerSheetForm::TaxpayerSheetForm(const ProgramParts& parts) : TaxForm("F5_TPInfo", parts) {}
 
 void TaxpayerSheetForm::onLoad() {
     TaxForm::onLoad();
@@ -135,7 +135,8 @@ void TaxpayerSheetForm::afterYearChange() {
 }
 
 void registerTPInfoForm() {
-    registerForm("F5_TPInfo", [] { return std::make_unique<TaxpayerSheetForm>(); });
+    registerForm("F5_TPInfo",
+                 [](const ProgramParts& parts) { return std::make_unique<TaxpayerSheetForm>(parts); });
 }
 
 }  // namespace lw

@@ -8,7 +8,7 @@ namespace lw {
 
 class TaxpayerSheetForm : public TaxForm {
 public:
-    TaxpayerSheetForm();
+    explicit TaxpayerSheetForm(const ProgramParts& parts);
 
     void onLoad() override;
     // Copy, paste and cut pass unfiltered; every other key goes through the keystroke filter.

@@ -46,7 +46,7 @@ std::string shown(text::Currency amount) {
 
 }  // namespace
 
-FormW2::FormW2() : TaxForm("TF_W2") {}
+FormW2::FormW2(const ProgramParts& parts) : TaxForm("TF_W2", parts) {}
 
 void FormW2::onLoad() {
     TaxForm::onLoad();
@@ -102,7 +102,7 @@ void FormW2::onActivate() {
 void FormW2::afterYearChange() { onActivate(); }
 
 void registerW2Form() {
-    registerForm("TF_W2", [] { return std::make_unique<FormW2>(); });
+    registerForm("TF_W2", [](const ProgramParts& parts) { return std::make_unique<FormW2>(parts); });
 }
 
 }  // namespace lw

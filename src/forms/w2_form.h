@@ -9,7 +9,7 @@ namespace lw {
 
 class FormW2 : public TaxForm {
 public:
-    FormW2();
+    explicit FormW2(const ProgramParts& parts);
 
     void onLoad() override;
     // editField first; a box that stands then fills its tax box: 3 gives 4, 5 gives 6.

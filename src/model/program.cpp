@@ -8,7 +8,10 @@ namespace {
 Program* current = nullptr;
 }
 
-Program::Program(UiPort& ui_, PlatformPort& platform_) : ui(ui_), platform(platform_), desktop(ui_) {
+Program::Program(UiPort& ui_, PlatformPort& platform_)
+    : ui(ui_), platform(platform_), desktop(ui_), parts{ui,        platform,  desktop,    g.process,
+                                                        g.edition, g.choices, g.document, g.taxpayers,
+                                                        g.taxYear, g.rates} {
     if (current) throw std::logic_error("a program is already running in this process");
     current = this;
     // The shared procedures work on CurrentForm; a form that is gone is no longer current.

@@ -7,6 +7,7 @@
 #include "model/desktop.h"
 #include "model/globals.h"
 #include "model/ports.h"
+#include "model/program_parts.h"
 
 namespace lw {
 
@@ -19,6 +20,8 @@ public:
     PlatformPort& platform;
     Desktop desktop;
     Globals g;
+    // The set handed to the forms and procedures: references to the ports, the desktop and the state above.
+    const ProgramParts parts;
 };
 
 // The program of this process. Present from construction of a Program to its destruction.

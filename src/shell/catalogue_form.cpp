@@ -8,7 +8,7 @@
 
 namespace lw {
 
-CatalogueForm::CatalogueForm(const std::string& name) : Form(name) {
+CatalogueForm::CatalogueForm(const std::string& name, const ProgramParts& parts) : Form(name), parts_(parts) {
     if (const FormDefinition* definition = findDefinition(name)) realizeDefinition(*definition, *this);
     if (const CatalogueEntry* entry = findCatalogueEntry(name)) caption = entry->caption;
 }

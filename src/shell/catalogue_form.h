@@ -8,6 +8,7 @@
 
 #include "fields/control_setup.h"
 #include "model/form.h"
+#include "model/program_parts.h"
 #include "model/tp_info_rec.h"
 #include "store/record_line.h"
 
@@ -22,7 +23,10 @@ enum class OtherInFileName {
 
 class CatalogueForm : public Form, public FieldRules {
 public:
-    explicit CatalogueForm(const std::string& name);
+    CatalogueForm(const std::string& name, const ProgramParts& parts);
+
+    // The parts of the program this form works with, handed to it when it was made.
+    const ProgramParts& parts() const { return parts_; }
 
     // The form's own step of the common set-up, after its catalogue values are read and before its
     // looks are given: the configuration form fills its rates there.
@@ -101,6 +105,9 @@ public:
     // The form as the operator left it after a clip, once its looks are given again: true when it has
     // put itself back, false for the common return to its first field and status line.
     virtual bool putBackAfterClip() { return false; }
+
+private:
+    const ProgramParts& parts_;
 };
 
 // The font of a text box as a form chooses it.

@@ -9,7 +9,7 @@ namespace lw {
 // The configuration form is the first screen; a program without it starts with the frame alone.
 void openFirstChild(FrameForm&) {
     if (!hasForm("F1_Configure")) return;
-    Form& configure = program().desktop.load(createForm("F1_Configure"), false);
+    Form& configure = program().desktop.load(createForm("F1_Configure", program().parts), false);
     program().platform.sleep(250);
     if (configure.isLoaded()) placeInFrame(configure);
     program().platform.sleep(250);

@@ -207,7 +207,7 @@ Form* openCatalogueForm(const std::string& formName) {
     Desktop& desktop = program().desktop;
     Form* form = desktop.findForm(formName);
     if (!form) {
-        std::unique_ptr<Form> made = createForm(formName);
+        std::unique_ptr<Form> made = createForm(formName, program().parts);
         if (!made) return nullptr;
         form = &desktop.load(std::move(made), false);
         if (!form->isLoaded()) return nullptr;

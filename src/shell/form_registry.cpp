@@ -19,10 +19,10 @@ void registerForm(const std::string& name, FormFactory factory) {
 
 bool hasForm(std::string_view name) { return factories().count(text::toUpper(name)) > 0; }
 
-std::unique_ptr<Form> createForm(std::string_view name) {
+std::unique_ptr<Form> createForm(std::string_view name, const ProgramParts& parts) {
     auto it = factories().find(text::toUpper(name));
     if (it == factories().end()) return nullptr;
-    return it->second();
+    return it->second(parts);
 }
 
 }  // namespace lw

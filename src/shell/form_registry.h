@@ -7,13 +7,15 @@
 #include <string_view>
 
 #include "model/form.h"
+#include "model/program_parts.h"
 
 namespace lw {
 
-using FormFactory = std::function<std::unique_ptr<Form>()>;
+// A factory hands the new form the parts of the program it works with.
+using FormFactory = std::function<std::unique_ptr<Form>(const ProgramParts&)>;
 
 void registerForm(const std::string& name, FormFactory factory);
 bool hasForm(std::string_view name);
-std::unique_ptr<Form> createForm(std::string_view name);
+std::unique_ptr<Form> createForm(std::string_view name, const ProgramParts& parts);
 
 }  // namespace lw

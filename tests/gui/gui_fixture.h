@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <memory>
 #include <string>
+#include <type_traits>
 
 #include "model/program.h"
 #include "ui/form_view.h"
@@ -58,7 +59,10 @@ protected:
     // Loads a form into the program's desktop and returns it.
     template <typename F>
     F& load() {
-        return static_cast<F&>(desktop().load(std::make_unique<F>()));
+        if constexpr (std::is_constructible_v<F, const ProgramParts&>)
+            return static_cast<F&>(desktop().load(std::make_unique<F>(program_->parts)));
+        else
+            return static_cast<F&>(desktop().load(std::make_unique<F>()));
     }
     // A key as the operator presses it: to the widget that has Qt's focus in the window.
     void press(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,

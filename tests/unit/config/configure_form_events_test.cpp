@@ -151,7 +151,7 @@ TEST_F(ConfigureFormTest, TheThirdAnswerToTheClosingQuestionIsMFJ) {
 TEST_F(ConfigureFormTest, RegisteringMakesTheFormKnownAndABadRateKeepsTheScreen) {
     registerConfigureForm();
     ASSERT_TRUE(hasForm("F1_Configure"));
-    std::unique_ptr<Form> made = createForm("f1_configure");
+    std::unique_ptr<Form> made = createForm("f1_configure", program().parts);
     ASSERT_NE(dynamic_cast<ConfigureForm*>(made.get()), nullptr);
     ConfigureForm& loaded = open();
     EXPECT_FALSE(loaded.keepsTheScreen());

@@ -13,7 +13,7 @@ namespace lw::test {
 class ConfigureFormTest : public ConfigTest {
 protected:
     ConfigureForm& open() {
-        form = static_cast<ConfigureForm*>(&desktop().load(std::make_unique<ConfigureForm>()));
+        form = static_cast<ConfigureForm*>(&desktop().load(std::make_unique<ConfigureForm>(program().parts)));
         return *form;
     }
 

@@ -71,7 +71,7 @@ TEST_F(ConfigureFormTest, LoadStartsFromSingleAndWritesTheChangePointIntoTheCapt
 }
 
 TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
-    auto owned = std::make_unique<ConfigureForm>();
+    auto owned = std::make_unique<ConfigureForm>(program().parts);
     owned->lblMC[0]->caption = "up to <<InitRate>> and <<initrate>>";
     owned->lblMC[2]->caption = "over <<wage>>:";
     owned->TaxYear1.caption = "25";

@@ -16,7 +16,7 @@ class RatesStoreTest : public ConfigTest {
 protected:
     void SetUp() override {
         ConfigTest::SetUp();
-        form = std::make_unique<ConfigureForm>();
+        form = std::make_unique<ConfigureForm>(program().parts);
         g().document.currentForm = form.get();
         g().taxYear = TaxYearChoice(2025);
     }

@@ -67,24 +67,24 @@ public:
 
 inline void registerSmallForms() {
     registerAllForms();
-    registerForm("TF_W2", [] {
+    registerForm("TF_W2", [](const ProgramParts&) {
         auto form = std::make_unique<SmallForm>("TF_W2", SmallFormShape{8, 0, 3, true});
         form->add(ControlKind::TextBox, "txtNote");
         return form;
     });
-    registerForm("TF_W2G", [] {
+    registerForm("TF_W2G", [](const ProgramParts&) {
         auto form = std::make_unique<SmallForm>("TF_W2G", SmallFormShape{4, 0, 0});
         form->at("Text1", 2).tag = "DATEX";
         form->at("Text1", 3).tag = "DATE";
         return form;
     });
-    registerForm("TF_1099MISC", [] {
+    registerForm("TF_1099MISC", [](const ProgramParts&) {
         return std::make_unique<SmallForm>("TF_1099MISC", SmallFormShape{4, 0, 0});
     });
-    registerForm("F4_CHK", [] {
+    registerForm("F4_CHK", [](const ProgramParts&) {
         return std::make_unique<SmallForm>("F4_CHK", SmallFormShape{4, 0, 0, false});
     });
-    registerForm("F3_DL", [] { return std::make_unique<SmallLicenseForm>(); });
+    registerForm("F3_DL", [](const ProgramParts&) { return std::make_unique<SmallLicenseForm>(); });
 }
 
 struct Documents : ::testing::Test {

@@ -31,7 +31,8 @@ const char* const kTemplates[] = {
 // keeps its drawing and only gains what it lacks.
 class SmallForm : public TaxForm {
 public:
-    SmallForm(const std::string& name, int fields, bool hasYear) : TaxForm(name) {
+    SmallForm(const std::string& name, int fields, bool hasYear, const ProgramParts& parts)
+        : TaxForm(name, parts) {
         if (width == 0) width = 6000;
         if (height == 0) height = 300 * fields + 600;
         addMissing(ControlKind::Label, "labelMisc");
@@ -70,7 +71,9 @@ inline void registerSmallForms() {
         const std::string name = f.name;
         const int fields = f.fields;
         const bool hasYear = f.hasYear;
-        registerForm(name, [=] { return std::make_unique<SmallForm>(name, fields, hasYear); });
+        registerForm(name, [=](const ProgramParts& parts) {
+            return std::make_unique<SmallForm>(name, fields, hasYear, parts);
+        });
     }
 }
 

@@ -110,7 +110,7 @@ TEST_F(FormLooks, TheLongStatementsKeepTheirBorderAsDrawn) {
     for (const char* menuItem : {"mnu1095A", "mnu1095B", "mnu1095C", "mnuSSA1099", "mnuRRB1099"}) {
         SCOPED_TRACE(menuItem);
         const Control& border = opened(test, menuItem).at("myBorder");
-        const TaxForm drawn(border.form->name());
+        const TaxForm drawn(border.form->name(), test.program->parts);
         const Control& asDrawn = drawn.at("myBorder");
         EXPECT_EQ(border.left, asDrawn.left);
         EXPECT_EQ(border.top, asDrawn.top);

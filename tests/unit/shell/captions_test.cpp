@@ -11,7 +11,7 @@ namespace {
 
 struct Captions : ::testing::Test {
     testing::TestProgram test;
-    CatalogueForm form{"TF_SAMPLE"};
+    CatalogueForm form{"TF_SAMPLE", test.program->parts};
 
     void SetUp() override {
         std::string path = (test.root / "Forms.inf").string();

@@ -14,7 +14,7 @@ namespace {
 // A tax form of the test with two dated fields and its year labels.
 class SampleForm : public CatalogueForm {
 public:
-    SampleForm() : CatalogueForm("TF_SAMPLE") {
+    explicit SampleForm(const ProgramParts& parts) : CatalogueForm("TF_SAMPLE", parts) {
         width = 6000;
         height = 3000;
         add(ControlKind::Label, "TaxYear", 0).caption = "20";
@@ -46,7 +46,8 @@ public:
 struct Lifecycle : ::testing::Test {
     testing::TestProgram test;
     void SetUp() override {
-        registerForm("TF_SAMPLE", [] { return std::make_unique<SampleForm>(); });
+        registerForm("TF_SAMPLE",
+                     [](const ProgramParts& parts) { return std::make_unique<SampleForm>(parts); });
         test.start();
         std::string path = (test.root / "Forms.inf").string();
         std::ofstream(path, std::ios::binary) << "[SAMPLE]\r\nFormName=TF_SAMPLE\r\nFocusOnStartup=2\r\n";
@@ -72,8 +73,8 @@ TEST_F(Lifecycle, OpeningPlacesTheFormWithItsYearAndFocus) {
 }
 
 TEST_F(Lifecycle, OneFormAtATime) {
-    registerForm("TF_OTHER", [] {
-        auto other = std::make_unique<SampleForm>();
+    registerForm("TF_OTHER", [](const ProgramParts& parts) {
+        auto other = std::make_unique<SampleForm>(parts);
         return other;
     });
     Form& first = open();
