@@ -30,12 +30,12 @@ void OpenK1CodeList(benchmark::State& state, const std::string& section) {
     code.tag = "K1HELP\xB7" + section;
     owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
     Form& form = desktop.load(std::move(owned));
-    keepK1DesignValues(form);
+    const K1DesignValues kept = keptDesignValues(form);
     for (auto _ : state) {
         code.text.clear();
         desktop.setFocus(code);
         const auto start = Clock::now();
-        desktop.dispatch([&] { openK1CodeList(form, code); });
+        desktop.dispatch([&] { openK1CodeList(form, code, kept); });
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
         if (code.text.empty()) {
             state.SkipWithError("no code was picked from the list");
