@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "face/face_description.h"
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
-#include "ui/control_text.h"
+#include "ui/face_painter.h"
 #include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw::ui {
 
@@ -39,7 +41,7 @@ void installFontSubstitutes() {
 }
 
 QFont scaledFont(const std::string& name, double points, bool bold, bool italic, double scale) {
-    QFont font = designFont(name, points, bold, italic);
+    QFont font = qtFont(face::designFace(name, points, bold, italic));
     // Whole pixels only: the size is rounded down, so a text the painter fits fits the widget too.
     font.setPixelSize(std::max(1, static_cast<int>(std::floor(points * 20.0 * scale + 1e-6))));
     font.setStyleStrategy(QFont::PreferDefault);
@@ -50,221 +52,51 @@ QFont controlFont(const Control& control, double scale) {
     return scaledFont(control.fontName, control.fontSize, control.fontBold, control.fontItalic, scale);
 }
 
-int toPixels(int twips, double scale) { return static_cast<int>(std::lround(twips * scale)); }
-
-QRect controlRect(const Control& control, double scale) {
-    const int left = formLeft(control);
-    const int top = formTop(control);
-    const int x = toPixels(left, scale);
-    const int y = toPixels(top, scale);
-    return QRect(x, y, toPixels(left + control.width, scale) - x, toPixels(top + control.height, scale) - y);
-}
+QRect controlRect(const Control& control, double scale) { return toQRect(face::controlRect(control, scale)); }
 
 QRect paintedExtent(const Control& control, double scale) {
-    QRect extent = control.kind == ControlKind::Line
-                       ? QRect(QPoint(toPixels(formLeft(control), scale), toPixels(formTop(control), scale)),
-                               QPoint(toPixels(control.x2 + originLeft(control), scale),
-                                      toPixels(control.y2 + originTop(control), scale)))
-                             .normalized()
-                       : controlRect(control, scale);
-    if (takesBoxDollarSign(control)) extent = extent.united(boxDollarSignRect(control, scale));
-    const int stroke = std::max(2, static_cast<int>(std::ceil(control.borderWidth * 15 * scale))) + 1;
-    return extent.adjusted(-stroke, -stroke, stroke, stroke);
+    return toQRect(face::paintedExtent(control, scale));
 }
 
 QSize formSize(const Form& form, double scale) {
-    return QSize(std::max(1, toPixels(form.width, scale)), std::max(1, toPixels(form.height, scale)));
+    const face::Size size = face::formSize(form, scale);
+    return QSize(size.width, size.height);
 }
 
 QRect boxDollarSignRect(const Control& field, double scale) {
-    const QRect r = controlRect(field, scale);
-    const int left = toPixels(formLeft(field) - kBoxDollarSignRoom, scale);
-    return QRect(left, r.top(), r.left() - left, r.height());
+    return toQRect(face::boxDollarSignRect(field, scale));
 }
 
 QFont boxDollarSignFont(double scale) { return scaledFont("Tahoma", 8, false, false, scale); }
 
-bool hasEditor(ControlKind kind) {
-    switch (kind) {
-        case ControlKind::TextBox:
-        case ControlKind::ComboBox:
-        case ControlKind::CommandButton:
-        case ControlKind::OptionButton:
-            return true;
-        default:
-            return false;
-    }
-}
-
-namespace {
-
-int layerOf(ControlKind kind) {
-    switch (kind) {
-        case ControlKind::Frame:
-        case ControlKind::Picture:
-        case ControlKind::TabControl:
-            return 0;
-        case ControlKind::Shape:
-        case ControlKind::Line:
-        case ControlKind::Image:
-        case ControlKind::Label:
-        case ControlKind::CheckLabel:
-            return 1;
-        default:
-            return 2;
-    }
-}
-
-}  // namespace
-
-std::vector<const Control*> paintOrder(const Form& form) {
-    std::vector<const Control*> order;
-    order.reserve(form.controls().size());
-    for (const auto& control : form.controls()) order.push_back(control.get());
-    std::stable_sort(order.begin(), order.end(),
-                     [](const Control* a, const Control* b) { return layerOf(a->kind) < layerOf(b->kind); });
-    return order;
-}
-
-int tabStripHeight(const Control& control, double scale) { return toPixels(tabStripTwips(control), scale); }
+int tabStripHeight(const Control& control, double scale) { return face::tabStripHeight(control, scale); }
 
 int rowHeight(const Control& control, double scale) {
-    return std::max(1, static_cast<int>(std::lround(rowTwips(control) * scale)));
+    return face::rowHeight(control, scale, qtTextMeasure());
 }
 
 int entryAt(const Control& control, QPoint point, double scale) {
-    const QRect r = controlRect(control, scale);
-    if (!r.contains(point) || control.items.empty()) return -1;
-    const int count = static_cast<int>(control.items.size());
-    if (control.kind == ControlKind::TabControl) {
-        if (point.y() >= r.top() + tabStripHeight(control, scale)) return -1;
-        return std::clamp((point.x() - r.left()) * count / std::max(1, r.width()), 0, count - 1);
-    }
-    if (control.kind != ControlKind::Grid && control.kind != ControlKind::ListBox) return -1;
-    int row = (point.y() - r.top() - 1) / std::max(1, rowHeight(control, scale));
-    // The first row of a grid is its header and cannot be chosen.
-    if (control.kind == ControlKind::Grid && row == 0) return -1;
-    return row < count ? row : -1;
-}
-
-QString withoutAccessMarks(const QString& caption) {
-    QString shown;
-    for (int i = 0; i < caption.size(); ++i) {
-        if (caption[i] == QLatin1Char('&')) {
-            if (i + 1 < caption.size() && caption[i + 1] == QLatin1Char('&')) {
-                shown += QLatin1Char('&');
-                ++i;
-            }
-            continue;
-        }
-        shown += caption[i];
-    }
-    return shown;
+    return face::entryAt(control, face::Point{point.x(), point.y()}, scale, qtTextMeasure());
 }
 
 void FormPainter::paintForm(QPainter& painter, const Form& form, bool skipEditors) const {
-    painter.save();
-    painter.fillRect(QRect(QPoint(0, 0), formSize(form, scale_)), toQColor(form.backColor));
-    for (const Control* control : paintOrder(form)) {
-        if (!isShown(*control)) continue;
-        if (takesBoxDollarSign(*control)) paintBoxDollarSign(painter, *control);
-        if (skipEditors && hasEditor(control->kind)) continue;
-        paintControl(painter, *control);
-    }
-    painter.restore();
+    paintFace(painter, face::describeFace(form, face::FaceRequest{scale_, skipEditors, {}}, qtTextMeasure()));
 }
 
 void FormPainter::paintArea(QPainter& painter, const Form& form, const QRect& area, bool skipEditors) const {
-    painter.save();
-    painter.setClipRect(area);
-    painter.fillRect(area, toQColor(form.backColor));
-    for (const Control* control : paintOrder(form)) {
-        if (!isShown(*control) || !paintedExtent(*control, scale_).intersects(area)) continue;
-        if (takesBoxDollarSign(*control)) paintBoxDollarSign(painter, *control);
-        if (skipEditors && hasEditor(control->kind)) continue;
-        paintControl(painter, *control);
-    }
-    painter.restore();
+    paintFace(painter, face::describeFace(form, face::FaceRequest{scale_, skipEditors, toRect(area)},
+                                          qtTextMeasure()));
 }
 
 void FormPainter::paintControl(QPainter& painter, const Control& control) const {
-    const QRect r = controlRect(control, scale_);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    switch (control.kind) {
-        case ControlKind::Label:
-            paintLabel(painter, control, r);
-            break;
-        case ControlKind::CheckLabel:
-            paintCheckLabel(painter, control, r);
-            break;
-        case ControlKind::Shape:
-            paintShape(painter, control, r);
-            break;
-        case ControlKind::Line:
-            paintLine(painter, control);
-            break;
-        case ControlKind::Frame:
-            paintFrame(painter, control, r);
-            break;
-        case ControlKind::TextBox:
-            paintTextBox(painter, control, r);
-            break;
-        case ControlKind::CommandButton:
-            paintButton(painter, control, r);
-            break;
-        case ControlKind::OptionButton:
-            paintOption(painter, control, r);
-            break;
-        case ControlKind::ComboBox:
-            paintCombo(painter, control, r);
-            break;
-        case ControlKind::Picture:
-        case ControlKind::Image:
-            paintPicture(painter, control, r);
-            break;
-        case ControlKind::TabControl:
-            paintTabs(painter, control, r);
-            break;
-        case ControlKind::Grid:
-        case ControlKind::ListBox:
-            paintRows(painter, control, r);
-            break;
-    }
+    paintItems(painter, face::describeControl(control, scale_, qtTextMeasure()));
     painter.restore();
 }
 
 void FormPainter::paintBoxDollarSign(QPainter& painter, const Control& field) const {
-    painter.save();
-    painter.setFont(boxDollarSignFont(scale_));
-    painter.setPen(Qt::black);
-    // Set off from the field by the width of its border.
-    painter.drawText(boxDollarSignRect(field, scale_).adjusted(0, 0, -px(2), 0),
-                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, QStringLiteral("$"));
-    painter.restore();
-}
-
-int FormPainter::px(int pixelsAt96) const {
-    return std::max(1, static_cast<int>(std::lround(pixelsAt96 * kTwipsPerPixel * scale_)));
-}
-
-QPen FormPainter::borderPen(const Control& c, QColor color) const {
-    QPen pen(color);
-    pen.setWidth(px(std::max(1, c.borderWidth)));
-    switch (c.borderStyle) {
-        case 2:
-            pen.setStyle(Qt::DashLine);
-            break;
-        case 3:
-            pen.setStyle(Qt::DotLine);
-            break;
-        default:
-            pen.setStyle(Qt::SolidLine);
-            break;
-    }
-    pen.setCapStyle(Qt::FlatCap);
-    pen.setJoinStyle(Qt::MiterJoin);
-    return pen;
+    paintItems(painter, {face::describeBoxDollarSign(field, scale_, qtTextMeasure())});
 }
 
 }  // namespace lw::ui

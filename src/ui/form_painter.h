@@ -4,16 +4,17 @@
 #include <QFont>
 #include <QPainter>
 #include <QRect>
+#include <QRectF>
 #include <vector>
 
+#include "face/face_geometry.h"
 #include "model/form.h"
-#include "ui/text_layout.h"
 
 namespace lw::ui {
 
 // Twips to a pixel on a 96 dpi screen.
-constexpr double kTwipsPerPixel = 15.0;
-constexpr double kScreenScale = 1.0 / kTwipsPerPixel;
+constexpr double kTwipsPerPixel = face::kTwipsPerPixel;
+constexpr double kScreenScale = face::kScreenScale;
 
 // Makes Tahoma and Arial Narrow fall back to their metric twins where those are installed. Runs once.
 void installFontSubstitutes();
@@ -23,8 +24,13 @@ void installFontSubstitutes();
 QFont scaledFont(const std::string& name, double points, bool bold, bool italic, double scale);
 QFont controlFont(const Control& control, double scale);
 
+// The engine's places as Qt's.
+inline QRect toQRect(const face::Rect& r) { return QRect(r.x, r.y, r.width, r.height); }
+inline face::Rect toRect(const QRect& r) { return face::Rect{r.x(), r.y(), r.width(), r.height()}; }
+inline QRectF toQRectF(const face::RectF& r) { return QRectF(r.x, r.y, r.width, r.height); }
+
 // Whole device pixels of a length or position in twips.
-int toPixels(int twips, double scale);
+using face::toPixels;
 QRect controlRect(const Control& control, double scale);
 // Everything a control's painting may touch: its rectangle (a line's two ends) and the width of its
 // border and strokes.
@@ -34,10 +40,10 @@ QSize formSize(const Form& form, double scale);
 QRect boxDollarSignRect(const Control& field, double scale);
 QFont boxDollarSignFont(double scale);
 
-// The kinds a form view hosts as real editors instead of painting them.
-bool hasEditor(ControlKind kind);
-// Controls in the order they are drawn: containers first, then the light controls, then the boxes.
-std::vector<const Control*> paintOrder(const Form& form);
+// The kinds a form view hosts as real editors instead of painting them, and the order controls are
+// drawn in.
+using face::hasEditor;
+using face::paintOrder;
 
 // The height of a tab control's strip of captions, and the height of a row of a grid or list.
 int tabStripHeight(const Control& control, double scale);
@@ -45,9 +51,7 @@ int rowHeight(const Control& control, double scale);
 // The entry of a tab control, grid or list under a point of the form, or -1.
 int entryAt(const Control& control, QPoint point, double scale);
 
-// The caption of a button with its access key marker taken out: "&Save" shows "Save", "&&" an "&".
-QString withoutAccessMarks(const QString& caption);
-
+// Paints forms from the description of their faces, at a scale of device pixels per twip.
 class FormPainter {
 public:
     explicit FormPainter(double scale = kScreenScale) : scale_(scale) {}
@@ -62,22 +66,6 @@ public:
     void paintBoxDollarSign(QPainter& painter, const Control& field) const;
 
 private:
-    void paintLabel(QPainter& p, const Control& c, const QRect& r) const;
-    void paintCheckLabel(QPainter& p, const Control& c, const QRect& r) const;
-    void paintShape(QPainter& p, const Control& c, const QRect& r) const;
-    void paintLine(QPainter& p, const Control& c) const;
-    void paintFrame(QPainter& p, const Control& c, const QRect& r) const;
-    void paintTextBox(QPainter& p, const Control& c, const QRect& r) const;
-    void paintButton(QPainter& p, const Control& c, const QRect& r) const;
-    void paintOption(QPainter& p, const Control& c, const QRect& r) const;
-    void paintCombo(QPainter& p, const Control& c, const QRect& r) const;
-    void paintPicture(QPainter& p, const Control& c, const QRect& r) const;
-    void paintTabs(QPainter& p, const Control& c, const QRect& r) const;
-    void paintRows(QPainter& p, const Control& c, const QRect& r) const;
-
-    QPen borderPen(const Control& c, QColor color) const;
-    int px(int pixelsAt96) const;  // a size fixed in screen pixels, at this painter's scale
-
     double scale_;
 };
 

@@ -14,11 +14,11 @@
 #include <algorithm>
 
 #include "catalogue/field_names.h"
+#include "face/control_text.h"
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
 #include "model/program.h"
 #include "ui/command_icons.h"
-#include "ui/control_text.h"
 #include "ui/field_panel_style.h"
 #include "ui/form_painter.h"
 #include "ui/form_view_accessible.h"
@@ -148,7 +148,7 @@ QWidget* FormView::createEditor(Control& control) {
     switch (control.kind) {
         case ControlKind::TextBox:
             // A field whose text may take several lines on paper shows them in an editor of lines.
-            editor = breaksLines(control) ? createLinesEditor(control) : createLineField(control);
+            editor = face::breaksLines(control) ? createLinesEditor(control) : createLineField(control);
             break;
         case ControlKind::ComboBox:
             editor = createComboBox(control);

@@ -10,13 +10,15 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "face/caption_text.h"
+#include "face/control_text.h"
 #include "model/containers.h"
 #include "model/program.h"
-#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
 #include "ui/lines_editor.h"
 #include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw::ui {
 
@@ -33,18 +35,19 @@ void setWhenDifferent(QWidget* w, const QString& tip) {
 QFont editorFont(const Control& control) {
     if (control.kind != ControlKind::TextBox || control.fitFloor <= 0)
         return controlFont(control, kScreenScale);
-    const TextBlock laid = fieldLayout(control);
+    const face::TextBlock laid = face::fieldLayout(control, qtTextMeasure());
     return scaledFont(control.fontName, laid.points, control.fontBold, control.fontItalic, kScreenScale);
 }
 
 // The width of line that makes an editor of several lines break them where the painter does: as wide as
 // the painted lines, in the measure of the editor's own face.
 qreal lineWidthOf(const Control& control, const QPlainTextEdit& box) {
-    const TextBlock laid = fieldLayout(control);
-    QString sample = withLineFeeds(control.text).replace(QLatin1Char('\n'), QLatin1Char(' '));
-    if (sample.trimmed().isEmpty()) sample = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789");
-    const double painted = advanceOf(laid.font, sample);
-    const double shown = QFontMetricsF(box.font()).horizontalAdvance(sample);
+    const face::TextBlock laid = face::fieldLayout(control, qtTextMeasure());
+    std::string sample = face::withLineFeeds(control.text);
+    std::replace(sample.begin(), sample.end(), '\n', ' ');
+    if (toQString(sample).trimmed().isEmpty()) sample = "ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789";
+    const double painted = qtTextMeasure().advance(laid.face, sample);
+    const double shown = QFontMetricsF(box.font()).horizontalAdvance(toQString(sample));
     return laid.lineWidth * (painted > 0 ? shown / painted : kScreenScale);
 }
 

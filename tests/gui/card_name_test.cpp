@@ -4,11 +4,13 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
+#include "face/control_text.h"
 #include "forms/cards_form.h"
 #include "gui_fixture.h"
-#include "ui/control_text.h"
 #include "ui/form_view.h"
 #include "ui/input_bridge.h"
+#include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw::ui::test {
 namespace {
@@ -37,7 +39,8 @@ TEST_F(CardNameWindowTest, ALongNameShowsOnTheLinesOfThePrintedCard) {
         shown << block.text().mid(line.textStart(), line.textLength()).trimmed();
     }
     QStringList printed;
-    for (const TextLine& line : fieldLayout(name).lines) printed << line.text;
+    for (const face::TextLine& line : face::fieldLayout(name, qtTextMeasure()).lines)
+        printed << toQString(line.text);
     EXPECT_EQ(shown, printed);
     EXPECT_EQ(printed.size(), 2);
     press(view_.get(), Qt::Key_Return);

@@ -8,11 +8,12 @@
 #include <string>
 
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "ui/control_text.h"
 #include "ui/form_painter.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw {
 namespace {
@@ -47,8 +48,8 @@ std::string inTheWay(const Form& form, const Control& field, const QRect& sign, 
         }
         if (isField(c) && ui::controlRect(c, scale).intersects(sign)) return "the field " + c.key();
         if (c.kind == ControlKind::Label && !c.caption.empty()) {
-            const ui::TextBlock layout = ui::captionLayout(c);
-            const QRectF twips = layout.extent().translated(layout.origin);
+            const face::TextBlock layout = face::captionLayout(c, ui::qtTextMeasure());
+            const QRectF twips = ui::toQRectF(layout.extent().translated(layout.origin.x, layout.origin.y));
             const QRect words = QRectF(twips.left() * scale, twips.top() * scale, twips.width() * scale,
                                        twips.height() * scale)
                                     .toAlignedRect();

@@ -9,9 +9,11 @@
 #include <vector>
 
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "ui/control_text.h"
+#include "ui/qt_text_measure.h"
+#include "ui/form_painter.h"
 
 namespace lw {
 namespace {
@@ -27,8 +29,8 @@ class CaptionsOffFields : public testing::EachDrawnForm {};
 
 // The words of a caption as laid out, in twips of the form.
 QRectF wordsOf(const Control& label) {
-    const ui::TextBlock block = ui::captionLayout(label);
-    return block.extent().translated(block.origin);
+    const face::TextBlock block = face::captionLayout(label, ui::qtTextMeasure());
+    return ui::toQRectF(block.extent().translated(block.origin.x, block.origin.y));
 }
 
 QRectF twipsOf(const Control& c) { return QRectF(formLeft(c), formTop(c), c.width, c.height); }

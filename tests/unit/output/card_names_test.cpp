@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "qt_offscreen.h"
-#include "ui/control_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw {
 namespace {
@@ -23,42 +24,42 @@ protected:
         name.alignment = 2;
     }
 
-    ui::TextBlock laidOut(const char* text) {
+    face::TextBlock laidOut(const char* text) {
         name.text = text;
-        return ui::fieldLayout(name);
+        return face::fieldLayout(name, ui::qtTextMeasure());
     }
 
     Control name;
 };
 
 TEST_F(CardName, AShortNameKeepsTheSizeOfTheFace) {
-    const ui::TextBlock block = laidOut("ANN LEE");
+    const face::TextBlock block = laidOut("ANN LEE");
     ASSERT_EQ(block.lines.size(), 1u);
     EXPECT_EQ(block.points, 11);
     EXPECT_TRUE(block.fits());
 }
 
 TEST_F(CardName, ANameOfThirtyCapitalsTakesASmallerSizeOnOneLine) {
-    const ui::TextBlock block = laidOut("ALEXANDRA KATHERINE MONTGOMERY");
+    const face::TextBlock block = laidOut("ALEXANDRA KATHERINE MONTGOMERY");
     ASSERT_EQ(block.lines.size(), 1u);
     EXPECT_LT(block.points, 11);
     EXPECT_GE(block.points, name.fitFloor);
-    EXPECT_TRUE(block.fits()) << block.extent().width() << " across " << block.area.width();
+    EXPECT_TRUE(block.fits()) << block.extent().width << " across " << block.area.width;
 }
 
 TEST_F(CardName, ANameTooLongForTheFloorTakesTwoEvenLinesBrokenBetweenWords) {
-    const ui::TextBlock block = laidOut("MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE");
+    const face::TextBlock block = laidOut("MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE");
     ASSERT_EQ(block.lines.size(), 2u);
-    EXPECT_EQ(block.lines[0].text, QStringLiteral("MAXIMILIANO ALEJANDRO"));
-    EXPECT_EQ(block.lines[1].text, QStringLiteral("WASHINGTON-MCBRIDE"));
+    EXPECT_EQ(block.lines[0].text, "MAXIMILIANO ALEJANDRO");
+    EXPECT_EQ(block.lines[1].text, "WASHINGTON-MCBRIDE");
     EXPECT_TRUE(block.fits());
     // Both lines stand in the middle of the card.
-    for (const ui::TextLine& line : block.lines)
-        EXPECT_NEAR(line.x + line.width / 2, block.area.center().x(), 1) << line.text.toStdString();
+    for (const face::TextLine& line : block.lines)
+        EXPECT_NEAR(line.x + line.width / 2, block.area.x + block.area.width / 2, 1) << line.text;
 }
 
 TEST_F(CardName, ANameBeyondTwoLinesStaysAtTheFloor) {
-    const ui::TextBlock block =
+    const face::TextBlock block =
         laidOut("MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE DE LA SANTISIMA TRINIDAD Y BARTHOLOMEW-KING");
     EXPECT_EQ(block.points, name.fitFloor);
     EXPECT_GT(block.lines.size(), 2u);

@@ -7,9 +7,11 @@
 #include <vector>
 
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "ui/control_text.h"
+#include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw {
 namespace {
@@ -17,9 +19,9 @@ namespace {
 const auto* const kQt = testing::addQtOffscreen();
 
 // The dots of a caption stand whole on one of the lines its layout breaks it into.
-bool onOneLine(const ui::TextBlock& block, const QString& dots) {
-    for (const ui::TextLine& line : block.lines)
-        if (line.text.contains(dots)) return true;
+bool onOneLine(const face::TextBlock& block, const QString& dots) {
+    for (const face::TextLine& line : block.lines)
+        if (ui::toQString(line.text).contains(dots)) return true;
     return false;
 }
 
@@ -34,10 +36,12 @@ TEST_P(DotLeaders, StayOnTheLineTheyStartOn) {
         for (const auto& owned : form->controls()) {
             const Control& label = *owned;
             if (label.kind != ControlKind::Label || !isShown(label)) continue;
-            const ui::TextBlock layout = ui::captionLayout(label);
+            const face::TextBlock layout = face::captionLayout(label, ui::qtTextMeasure());
             QString text;
-            for (const ui::TextLine& line : layout.lines) text += line.text + QLatin1Char(' ');
-            for (const QString& paragraph : QString::fromStdString(label.caption).split(QRegularExpression("[\r\n|]+"))) {
+            for (const face::TextLine& line : layout.lines)
+                text += ui::toQString(line.text) + QLatin1Char(' ');
+            for (const QString& paragraph :
+                 QString::fromStdString(label.caption).split(QRegularExpression("[\r\n|]+"))) {
                 const QRegularExpressionMatch dots = leader.match(paragraph);
                 if (!dots.hasMatch()) continue;
                 EXPECT_TRUE(onOneLine(layout, dots.captured().trimmed()))

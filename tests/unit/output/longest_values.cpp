@@ -3,9 +3,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "face/text_measure.h"
 #include "text/case.h"
 #include "ui/qt_text.h"
-#include "ui/text_layout.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw::testing {
 
@@ -266,11 +267,11 @@ std::string LongestValues::widestCode(const Control& field) const {
     if (dot == std::string::npos) return {};
     const auto codes = k1Codes_.find(field.tag.substr(dot + 1));
     if (codes == k1Codes_.end()) return {};
-    const QFont face = ui::designFont(field);
+    const face::TextFace face = face::designFace(field);
+    face::TextMeasure& measure = ui::qtTextMeasure();
     std::string widest;
     for (const std::string& code : codes->second)
-        if (ui::advanceOf(face, ui::toQString(code)) > ui::advanceOf(face, ui::toQString(widest)))
-            widest = code;
+        if (measure.advance(face, code) > measure.advance(face, widest)) widest = code;
     return widest;
 }
 

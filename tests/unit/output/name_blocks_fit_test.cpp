@@ -14,12 +14,13 @@
 #include <vector>
 
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
-#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
 #include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw {
 namespace {
@@ -83,15 +84,15 @@ TEST_P(NameBlocks, FiveLinesOfFortyCapitalsFitThePrintedBlock) {
         ASSERT_EQ(lines.size(), 5u) << c->key() << " holds \"" << c->text << "\"";
         for (const std::string& line : lines) ASSERT_EQ(line.size(), 40u) << c->key() << ": " << line;
         // One measure at every resolution: what fits here fits the screen at any zoom and the paper.
-        const ui::TextBlock block = ui::fieldLayout(*c);
+        const face::TextBlock block = face::fieldLayout(*c, ui::qtTextMeasure());
         EXPECT_EQ(block.lines.size(), 5u) << GetParam() << " " << c->key() << " wraps a line";
-        const QRectF taken = block.extent();
+        const QRectF taken = ui::toQRectF(block.extent());
         EXPECT_LE(taken.right(), block.area.right() + 0.5)
             << GetParam() << " " << c->key() << " cuts a line: " << c->width << " twips wide, needs "
-            << std::lround(taken.width() + c->width - block.area.width());
+            << std::lround(taken.width() + c->width - block.area.width);
         EXPECT_LE(taken.bottom(), block.area.bottom() + 0.5)
             << GetParam() << " " << c->key() << " loses its last line: " << c->height << " twips high, needs "
-            << std::lround(taken.height() + c->height - block.area.height());
+            << std::lround(taken.height() + c->height - block.area.height);
     }
 }
 

@@ -19,16 +19,17 @@
 #include "catalogue/definitions.h"
 #include "documents/saving.h"
 #include "drawn_forms.h"
+#include "face/control_text.h"
 #include "fields/edit_ctl.h"
 #include "forms/register_forms.h"
 #include "longest_values.h"
 #include "model/containers.h"
 #include "qt_offscreen.h"
 #include "test_program.h"
-#include "ui/control_text.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
 #include "ui/qt_text.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw {
 namespace {
@@ -61,16 +62,16 @@ struct DrawnText {
 };
 
 DrawnText drawnAt(const Control& box, double scale) {
-    const ui::TextBlock block = ui::fieldLayout(box);
+    const face::TextBlock block = face::fieldLayout(box, ui::qtTextMeasure());
     DrawnText drawn;
-    const QPointF corner(ui::toPixels(block.origin.x(), scale), ui::toPixels(block.origin.y(), scale));
-    for (const ui::TextLine& line : block.lines) {
-        drawn.lines.push_back(line.text);
+    const QPointF corner(ui::toPixels(block.origin.x, scale), ui::toPixels(block.origin.y, scale));
+    for (const face::TextLine& line : block.lines) {
+        drawn.lines.push_back(ui::toQString(line.text));
         drawn.places.push_back(QRectF(corner + QPointF(line.x, line.baseline - block.ascent) * scale,
                                       QSizeF(line.width, block.height) * scale));
     }
     const int border =
-        box.borderStyle != 0 ? std::max(1, static_cast<int>(std::lround(ui::kPixelTwips * scale))) : 0;
+        box.borderStyle != 0 ? std::max(1, static_cast<int>(std::lround(face::kPixelTwips * scale))) : 0;
     drawn.inside = QRectF(ui::controlRect(box, scale)).adjusted(border, border, -border, -border);
     return drawn;
 }
@@ -172,13 +173,13 @@ TEST_P(TextFit, EveryFieldShowsItsLongestValueWholeAtEveryScale) {
                 cuts << " at " << scale.name << " by " << std::lround(worst / scale.pixelsPerTwip)
                      << " twips (" << quoted(cut) << ")";
         }
-        const ui::TextBlock block = ui::fieldLayout(*box);
-        const QRectF taken = block.extent();
+        const face::TextBlock block = face::fieldLayout(*box, ui::qtTextMeasure());
+        const QRectF taken = ui::toQRectF(block.extent());
         EXPECT_TRUE(cuts.str().empty() && block.fits())
             << GetParam() << " " << box->key() << " is cut" << cuts.str() << "; its box of " << box->width
             << " x " << box->height << " twips needs "
-            << std::lround(taken.width() + box->width - block.area.width()) << " x "
-            << std::lround(taken.height() + box->height - block.area.height()) << " for its "
+            << std::lround(taken.width() + box->width - block.area.width) << " x "
+            << std::lround(taken.height() + box->height - block.area.height) << " for its "
             << block.lines.size() << " lines";
     }
 }
@@ -188,8 +189,8 @@ TEST_P(TextFit, EveryFieldShowsItsLongestValueWholeAtEveryScale) {
 TEST_P(TextFit, EveryCaptionStandsWholeInItsLabel) {
     for (const auto& label : form->controls()) {
         if (label->kind != ControlKind::Label || !label->visible || label->caption.empty()) continue;
-        const ui::TextBlock block = ui::captionLayout(*label);
-        const QRectF taken = block.extent();
+        const face::TextBlock block = face::captionLayout(*label, ui::qtTextMeasure());
+        const QRectF taken = ui::toQRectF(block.extent());
         EXPECT_TRUE(taken.left() >= block.area.left() - 0.5 && taken.right() <= block.area.right() + 0.5 &&
                     taken.bottom() <= block.area.bottom() + 0.5)
             << GetParam() << " " << label->key() << " cuts \"" << label->caption << "\": its label of "
@@ -249,7 +250,8 @@ TEST_P(TextFit, TheEditorsOfTheWindowShowTheLinesOfThePaper) {
                     << " in its editor: " << lineEditorNeed(*line) << " pixels in " << lineEditorRoom(*line);
             } else if (auto* lines = qobject_cast<QPlainTextEdit*>(editor)) {
                 std::vector<QString> painted;
-                for (const ui::TextLine& l : ui::fieldLayout(*box).lines) painted.push_back(l.text);
+                for (const face::TextLine& l : face::fieldLayout(*box, ui::qtTextMeasure()).lines)
+                    painted.push_back(ui::toQString(l.text));
                 EXPECT_EQ(editorLines(*lines), painted)
                     << GetParam() << " " << box->key()
                     << " breaks its lines in the editor otherwise than on paper";

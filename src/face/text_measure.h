@@ -1,0 +1,52 @@
+#pragma once
+// How wide and tall text is: the one thing the engine asks of a front end to lay out a form's text.
+// Each front end measures with the faces it draws with; the engine places every line from these
+// measures alone, so that the lines break and stand alike wherever the same faces are measured.
+
+#include <string>
+#include <string_view>
+
+#include "model/control.h"
+
+namespace lw::face {
+
+// A face at a size: its name as a form names it (the front end finds the face it stands for), and the
+// height of its letters' em in the units of the text laid out in it.
+struct TextFace {
+    std::string name;
+    int size = 0;
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const TextFace& other) const {
+        return size == other.size && bold == other.bold && italic == other.italic && name == other.name;
+    }
+    bool operator!=(const TextFace& other) const { return !(*this == other); }
+};
+
+// The face a form's text is laid out in, in twips: a point is twenty.
+TextFace designFace(const std::string& name, double points, bool bold, bool italic);
+TextFace designFace(const Control& control);
+
+// The vertical measures of a face, in its units.
+struct FaceMetrics {
+    double ascent = 0;
+    double descent = 0;
+    double lineSpacing = 0;  // from one baseline to the next
+    double height() const { return ascent + descent; }
+};
+
+class TextMeasure {
+public:
+    virtual ~TextMeasure() = default;
+    virtual FaceMetrics metrics(const TextFace& face) = 0;
+    // The advance of a line of Windows-1252 text in the face: where the next character would start.
+    virtual double advance(const TextFace& face, std::string_view text) = 0;
+    // How far the ink of a character reaches past its advance, or 0 where it stays within it.
+    virtual double overhang(const TextFace& face, char character) = 0;
+    // Whether two characters side by side are drawn as one glyph, as a face may draw "fi": a word broken
+    // between its characters is never broken between these.
+    virtual bool joins(const TextFace& face, char first, char second) = 0;
+};
+
+}  // namespace lw::face
