@@ -24,41 +24,40 @@ public:
     // The line that starts at `start` in the paragraph that ends at `end`, the last of the text or one
     // ended by a line feed; broken between pieces: words, or characters when `anywhere`.
     FilledLine fill(std::size_t start, std::size_t end, bool lastParagraph, bool anywhere) {
+        // Widths add up piece by piece, each piece's last character kerned against what follows it.
         std::size_t committed = start;
+        double committedWidth = 0;
+        double blanks = 0;  // the blanks after what is committed
         bool any = false;
         std::size_t i = start;
         while (i < end) {
             if (isBlank(text_[i])) {
                 std::size_t j = i;
                 while (j < end && isBlank(text_[j])) ++j;
+                blanks = advanceInContext(i, j, end);
                 // Blanks wider than the whole line end it.
-                if (advanceInContext(committed, j, end) > width_)
-                    return {start, committed, j, advanceInContext(start, committed, end), true};
+                if (blanks > width_) return {start, committed, j, committedWidth, true};
                 i = j;
                 continue;
             }
-            std::size_t k = i + 1;
-            if (!anywhere)
-                while (k < end && !isBlank(text_[k]) && !breaks_[k]) ++k;
-            else
-                while (k < end && !isBlank(text_[k]) && measure_.joins(face_, text_[k - 1], text_[k])) ++k;
+            const std::size_t k = pieceEnd(i, end, anywhere);
+            const double piece = advanceInContext(i, k, end);
             // A piece that does not fit goes to the next line, unless it would stand there alone.
-            const double wanted = advanceInContext(start, k, end) + overhang(text_[k - 1]);
-            if (any && wanted > width_)
-                return {start, committed, i,
-                        advanceInContext(start, committed, end) + overhang(text_[i - 1])};
+            if (any && committedWidth + blanks + piece + inkAfter(k) > width_)
+                return {start, committed, i, committedWidth + inkAfter(i)};
+            committedWidth += blanks + piece;
+            blanks = 0;
             committed = k;
             any = true;
             i = k;
         }
-        if (committed == end)
-            return {start, end, end, any ? advanceInContext(start, end, end) + overhang(text_[end - 1]) : 0};
+        if (committed == end) return {start, end, end, any ? committedWidth + inkAfter(end) : 0};
         // Blanks that end the text count in its last line's width where they fit; blanks before a line
         // feed do not, and the ink of the last character does.
-        const double withBlanks = advanceInContext(start, end, end);
+        const double withBlanks = committedWidth + blanks;
         if (lastParagraph && (!any || withBlanks <= width_)) return {start, committed, end, withBlanks};
-        const double ink = lastParagraph || !any ? 0 : overhang(text_[committed - 1]);
-        return {start, committed, end, advanceInContext(start, committed, end) + ink};
+        const double ink = lastParagraph || !any ? 0 : inkAfter(committed);
+        return {start, committed, end, committedWidth + ink};
     }
 
 private:
@@ -68,12 +67,36 @@ private:
         if (to <= from) return 0;
         const std::string_view text(text_);
         if (to >= end) return measure_.advance(face_, text.substr(from, to - from));
-        const std::size_t glyph = to + 1 < end && measure_.joins(face_, text_[to], text_[to + 1]) ? 2 : 1;
+        const std::size_t glyph = to + 1 < end && joins(text_[to], text_[to + 1]) ? 2 : 1;
         return measure_.advance(face_, text.substr(from, to + glyph - from)) -
                measure_.advance(face_, text.substr(to, glyph));
     }
 
-    double overhang(char c) { return isBlank(c) ? 0 : measure_.overhang(face_, c); }
+    // Where the piece that starts at `from` ends: at the next blank or break inside a word, or after
+    // one character (or the characters of one glyph) when breaking anywhere.
+    std::size_t pieceEnd(std::size_t from, std::size_t end, bool anywhere) const {
+        std::size_t k = from + 1;
+        if (!anywhere)
+            while (k < end && !isBlank(text_[k]) && !breaks_[k]) ++k;
+        else
+            while (k < end && joins(text_[k - 1], text_[k])) ++k;
+        return k;
+    }
+
+    // Two letters or signs the face draws as one glyph; never a blank, a line feed or a control.
+    bool joins(char a, char b) const {
+        const auto drawn = [](char c) { return static_cast<unsigned char>(c) > ' '; };
+        return drawn(a) && drawn(b) && measure_.joins(face_, a, b);
+    }
+
+    // How far the ink of the glyph that ends at `at` reaches past its advance.
+    double inkAfter(std::size_t at) {
+        if (isBlank(text_[at - 1])) return 0;
+        const std::string_view text(text_);
+        const bool joined = at >= 2 && joins(text_[at - 2], text_[at - 1]);
+        return joined ? measure_.overhang(face_, text.substr(at - 2, 2))
+                      : measure_.overhang(face_, text.substr(at - 1, 1));
+    }
 
     const std::string& text_;
     const TextFace& face_;

@@ -42,8 +42,9 @@ public:
     virtual FaceMetrics metrics(const TextFace& face) = 0;
     // The advance of a line of Windows-1252 text in the face: where the next character would start.
     virtual double advance(const TextFace& face, std::string_view text) = 0;
-    // How far the ink of a character reaches past its advance, or 0 where it stays within it.
-    virtual double overhang(const TextFace& face, char character) = 0;
+    // How far the ink of a glyph reaches past its advance, or 0 where it stays within it: a character,
+    // or the characters a face draws as one glyph (see joins()).
+    virtual double overhang(const TextFace& face, std::string_view glyph) = 0;
     // Whether two characters side by side are drawn as one glyph, as a face may draw "fi": a word broken
     // between its characters is never broken between these.
     virtual bool joins(const TextFace& face, char first, char second) = 0;

@@ -97,7 +97,9 @@ private:
     // The fixed face: every painted control drawn once; where controls change, a face is made from it
     // with those places painted again. Faces are shared with the cache of faces and never painted on.
     void ensureFace();
+    // Paints areas of the face as the form now stands; the whole face, described once.
     CompactFace::AreaPainter facePainter() const;
+    CompactFace::AreaPainter wholeFacePainter() const;
     void showLook(std::size_t look, const QRegion& damaged);
     std::size_t currentFaceLook() const;
 

@@ -3,9 +3,12 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "face/face_description.h"
 #include "ui/face_cache.h"
+#include "ui/face_painter.h"
 #include "ui/form_painter.h"
 #include "ui/form_view.h"
+#include "ui/qt_text_measure.h"
 
 namespace lw::ui {
 
@@ -35,7 +38,7 @@ void FormView::ensureFace() {
     faceLook_ = currentFaceLook();
     keptFace_ = FaceCache::instance().find(form_->name(), faceLook_, pixels, ratio);
     if (keptFace_) return;
-    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, facePainter());
+    keptFace_ = std::make_shared<const CompactFace>(pixels, ratio, wholeFacePainter());
     FaceCache::instance().keep(form_->name(), faceLook_, keptFace_);
 }
 
@@ -46,6 +49,18 @@ CompactFace::AreaPainter FormView::facePainter() const {
     return [formArea, ground, form](QPainter& painter, const QRect& area) {
         painter.fillRect(area, ground);
         FormPainter(kScreenScale).paintArea(painter, *form, area.intersected(formArea), true);
+    };
+}
+
+// A face made whole is described once and painted a strip at a time.
+CompactFace::AreaPainter FormView::wholeFacePainter() const {
+    const QRect formArea(QPoint(0, 0), formSize(*form_, kScreenScale));
+    const QColor ground = palette().window().color();
+    const auto described = std::make_shared<const face::FaceDescription>(
+        face::describeFace(*form_, face::FaceRequest{kScreenScale, true, {}}, qtTextMeasure()));
+    return [formArea, ground, described](QPainter& painter, const QRect& area) {
+        painter.fillRect(area, ground);
+        paintFaceArea(painter, *described, toRect(area.intersected(formArea)));
     };
 }
 

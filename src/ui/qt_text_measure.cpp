@@ -30,6 +30,7 @@ struct MeasuredFace {
     std::array<double, 256> overhangs;
     std::unordered_map<std::string, double> advances;
     std::unordered_map<std::uint16_t, bool> joined;  // by the two characters
+    std::unordered_map<std::string, double> glyphOverhangs;
 };
 
 constexpr std::size_t kMostAdvancesKept = 20000;
@@ -75,12 +76,30 @@ double QtTextMeasure::advance(const face::TextFace& face, std::string_view text)
     return width;
 }
 
-double QtTextMeasure::overhang(const face::TextFace& face, char character) {
+double QtTextMeasure::overhang(const face::TextFace& face, std::string_view glyph) {
     MeasuredFace& kept = measured(face);
-    double& known = kept.overhangs[static_cast<unsigned char>(character)];
-    if (known < 0)
-        known = std::max(0.0, -kept.measures.rightBearing(toQString(std::string(1, character)).front()));
-    return known;
+    if (glyph.size() == 1) {
+        double& known = kept.overhangs[static_cast<unsigned char>(glyph.front())];
+        if (known < 0)
+            known = std::max(0.0, -kept.measures.rightBearing(toQString(std::string(glyph)).front()));
+        return known;
+    }
+    // A glyph of several characters: how much wider a line of it is than its advance.
+    const std::string key(glyph);
+    if (const auto found = kept.glyphOverhangs.find(key); found != kept.glyphOverhangs.end())
+        return found->second;
+    QTextLayout layout(toQString(key), kept.font);
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(1e6);
+    const double natural = line.naturalTextWidth();
+    layout.endLayout();
+    const double ink = std::max(0.0, natural - kept.measures.horizontalAdvance(toQString(key)));
+    kept.glyphOverhangs.emplace(key, ink);
+    return ink;
 }
 
 bool QtTextMeasure::joins(const face::TextFace& face, char first, char second) {

@@ -16,7 +16,7 @@ class QtTextMeasure : public face::TextMeasure {
 public:
     face::FaceMetrics metrics(const face::TextFace& face) override;
     double advance(const face::TextFace& face, std::string_view text) override;
-    double overhang(const face::TextFace& face, char character) override;
+    double overhang(const face::TextFace& face, std::string_view glyph) override;
     bool joins(const face::TextFace& face, char first, char second) override;
 };
 
