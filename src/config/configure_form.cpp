@@ -112,7 +112,7 @@ void ConfigureForm::loadForm() {
         "All forms created will be for the year shown here. NOTE: If [Change Tax Yr] button is\r\n"
         "pressed on a different form, (e.g. the W2), change will apply to ALL forms, including this form.";
 
-    TaxYear1.caption = lastTwo(setUpTaxYears());
+    TaxYear1.caption = lastTwo(setUpTaxYears(parts()));
 
     initCatalogueForm(*this);
 
@@ -263,7 +263,7 @@ void ConfigureForm::onUnload(bool&) {
         static const FilingStatus statuses[] = {FilingStatus::NotChosen, FilingStatus::MarriedSeparately,
                                                 FilingStatus::SingleOnClosing, FilingStatus::MarriedJointly,
                                                 FilingStatus::NotChosen};
-        g().rates.filingStatus = statuses[static_cast<int>(showMessageBox(ask).button)];
+        g().rates.filingStatus = statuses[static_cast<int>(showMessageBox(parts().desktop, ask).button)];
         program().ui.quit();
     });
 }

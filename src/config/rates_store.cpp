@@ -147,7 +147,7 @@ void offerToSaveChangedRates() {
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
             const MessageBoxRequest ask{
                 "M3_Ledgerwick:SS_MC_Check_Changes", message, kNoMessageNumber, {"Yes", "No"}};
-            if (showMessageBox(ask).button == MessageBoxButton::First) storeRates();
+            if (showMessageBox(program().desktop, ask).button == MessageBoxButton::First) storeRates();
         }
         if (g().process.quitting) program().ui.quit();
     });

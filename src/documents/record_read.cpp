@@ -79,7 +79,8 @@ void unloadEveryFormButTheFrame() {
 }
 
 Form& openFormOf(const std::string& field0, const std::string& path) {
-    const std::string formName = readFormInfo(store::catalogueKeyOf(field0), "FormName");
+    const std::string formName =
+        readFormInfo(store::catalogueKeyOf(field0), "FormName", g().edition.formsInfFile);
     unloadEveryFormButTheFrame();
     if (formName.empty())
         throw AppError(kNoSuchForm,

@@ -57,7 +57,9 @@ int lineCount(const std::string& text) {
     return lines;
 }
 
-void tell(const std::string& source, const std::string& message) { showMessageBox({source, message}); }
+void tell(const std::string& source, const std::string& message) {
+    showMessageBox(program().desktop, {source, message});
+}
 
 }  // namespace
 

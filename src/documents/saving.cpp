@@ -130,8 +130,8 @@ std::optional<std::string> buildFileName(int& focusIndex) {
     }
 
     // The first-name-first templates take the whole cleaned line, the others LAST,FIRST.
-    const std::vector<std::string> names =
-        text::split(formatTaxpayerName(name), std::string(1, text::kFieldSeparator));
+    const std::vector<std::string> names = text::split(formatTaxpayerName(name, g().choices.fileNameFormat),
+                                                       std::string(1, text::kFieldSeparator));
     fileName = replaceNoCase(fileName, "<LAST>_<FIRST>", piece(names, 1));
     fileName = replaceNoCase(fileName, "<FIRST>_<LAST>", piece(names, 0));
 
@@ -139,8 +139,8 @@ std::optional<std::string> buildFileName(int& focusIndex) {
     if (other.empty() || otherRule == OtherInFileName::Omitted) {
         fileName = replaceNoCase(fileName, "<OTHER>_", "");
     } else if (otherRule == OtherInFileName::LastName) {
-        const std::vector<std::string> others =
-            text::split(formatTaxpayerName(other), std::string(1, text::kFieldSeparator));
+        const std::vector<std::string> others = text::split(
+            formatTaxpayerName(other, g().choices.fileNameFormat), std::string(1, text::kFieldSeparator));
         fileName = replaceNoCase(fileName, "<OTHER>", piece(others, 1));
     } else {
         fileName = replaceNoCase(fileName, "<OTHER>", other);
@@ -203,7 +203,7 @@ void saveDataFile() {
     if (!form) return;
     runGuarded(kSaveLabel, [&] {
         if (Control* field = form->find("Text1", focusIndex)) {
-            setUpControl(*field, false);
+            setUpControl(*field, false, g().document, g().edition.legendColors);
             form->setFocus(*field);
         }
     });

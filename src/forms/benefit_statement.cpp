@@ -37,7 +37,7 @@ void BenefitStatementForm::onLoad() {
 void BenefitStatementForm::onValidate(Control& ctl, bool& cancel) {
     if (!isText1(ctl)) return;
     runGuarded(validateLabel(), [&] {
-        if (!editField(ctl)) {
+        if (!editField(ctl, editContextOf(parts()))) {
             cancel = true;
             return;
         }
@@ -89,7 +89,7 @@ void BenefitStatementForm::countWithoutOverflow(const std::function<void()>& ari
 
 void BenefitStatementForm::reportShortfall(int redField, int number, const std::string& reason) {
     field(redField).foreColor = kRed;
-    showMessageBox({computeLabel_, benefitErrorMessage(reason), number});
+    showMessageBox(parts().desktop, {computeLabel_, benefitErrorMessage(reason), number});
     computationFailed = true;
 }
 

@@ -94,7 +94,9 @@ void CardsForm::onValidate(Control& ctl, bool& cancel) {
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (fieldIndex % 2 == 0 && checkDuplicateNumbers(kNumberFields, fieldIndex) != 99) cancel = true;
+    if (fieldIndex % 2 == 0 &&
+        checkDuplicateNumbers(kNumberFields, fieldIndex, parts().document, parts().desktop) != 99)
+        cancel = true;
 }
 
 void CardsForm::giveOwnLook() {

@@ -54,7 +54,7 @@ void FormRrb1099::afterTaxpayerFill() {
 
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
-    setUpControl(ctl, false);
+    setUpControl(ctl, false, parts().document, parts().edition.legendColors);
     passComputedField(ctl);
     myIndex = ctl.index;
 }

@@ -85,7 +85,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
         setTab(tabs, 1);
     else if (tabOf(tabs) == 1 && field.index <= limit)
         setTab(tabs, 0);
-    setUpControl(field, false);
+    setUpControl(field, false, parts().document, parts().edition.legendColors);
     if ((isArray(field, '2') || isArray(field, '4')) && text::equalsNoCase(field.tag.substr(0, 6), "K1Help"))
         status.caption = kCodedHint;
 }
@@ -93,7 +93,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
 void K1Form::leavingRoutine(Control& field, int count) {
     field.backColor = kWhite;
     field.foreColor = kBlack;
-    if (!editField(field)) {
+    if (!editField(field, editContextOf(parts()))) {
         setFocus(field);
         return;
     }
@@ -155,7 +155,7 @@ bool K1Form::requiredFieldsFilled(int& focusIndex) {
         {firstFieldIndex(g.document.catalogue.nameAddrIndex), &design_.nameRequired}};
     for (const auto& [index, rule] : required) {
         if (!index || !at("Text1", *index).text.empty()) continue;
-        showMessageBox({"M4_FileCode:Build_FileName", rule->message, rule->number});
+        showMessageBox(parts().desktop, {"M4_FileCode:Build_FileName", rule->message, rule->number});
         at("SSTab1").listIndex = rule->tab;
         // The save's last step focuses focusIndex: it must land on the same field.
         focusIndex = *index;

@@ -31,7 +31,7 @@ void LicenseForm::onClick(Control& ctl, MouseButton button) {
 
 void LicenseForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
-    if (!editField(ctl)) {
+    if (!editField(ctl, editContextOf(parts()))) {
         ctl.select(0, 99);
         setFocus(ctl);
         cancel = true;

@@ -113,14 +113,15 @@ void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
 void TaxpayerSheetForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (!editField(ctl)) {
+    if (!editField(ctl, editContextOf(parts()))) {
         cancel = true;
         return;
     }
     if (!isTextOne(ctl)) return;
     const std::string index = std::to_string(ctl.index);
     // A repeated number is pointed out; the field may still be left.
-    if (listContains(kNumberFields, index)) checkDuplicateNumbers(kNumberFields, ctl.index);
+    if (listContains(kNumberFields, index))
+        checkDuplicateNumbers(kNumberFields, ctl.index, parts().document, parts().desktop);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
         for (const auto& row : program().g.taxpayers.personTable)

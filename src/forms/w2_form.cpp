@@ -72,7 +72,7 @@ void FormW2::onValidate(Control& ctl, bool& cancel) {
         // An amount beyond what the program can count is the box's own fault: it keeps the focus, and
         // the tax box no longer claims a value.
         at("Text1", ctl.index == kSocialSecurityWages ? kSocialSecurityTax : kMedicareTax).text.clear();
-        showInvalidField(ctl, kMoneyColour, "");
+        showInvalidField(ctl, kMoneyColour, "", parts().document, parts().desktop);
         cancel = true;
     }
 }

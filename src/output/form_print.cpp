@@ -38,7 +38,7 @@ void askAndPrint(Form& form) {
         if (g().process.debug) {
             MessageBoxRequest ask{"Print?", "Do you want to print?", kNoMessageNumber, {"Yes", "No"}};
             ask.icon = MessageBoxIcon::Question;
-            if (showMessageBox(ask).button == MessageBoxButton::Second) return;
+            if (showMessageBox(program().desktop, ask).button == MessageBoxButton::Second) return;
         }
         if (program().platform.printers().empty())
             throw AppError(kPrinterError,

@@ -73,7 +73,7 @@ void paintAsPaper(Form& form) {
 void putBack(Form& form) {
     if (auto* rules = dynamic_cast<CatalogueForm*>(&form); rules && rules->putBackAfterClip()) return;
     Control& first = form.at("Text1", 0);
-    setUpControl(first, false);
+    setUpControl(first, false, g().document, g().edition.legendColors);
     form.setFocus(first);
     form.at("labelMisc").visible = true;
 }

@@ -114,7 +114,7 @@ private:
 void setTextFont(Control& box, const char* name, double size, bool bold = false);
 // The common rules of the commands, for a form outside the catalogue as well.
 void saveAsDocument();
-void focusFirstFieldAfterPrint(Form& form);
+void focusFirstFieldAfterPrint(Form& form, OpenDocument& document, const LegendColors& legend);
 void clearAndFocusFirstField(Form& form);
 
 }  // namespace lw

@@ -81,7 +81,7 @@ int frameInnerHeight() {
 
 void initCatalogueForm(Form& frm) {
     g().document.currentForm = &frm;
-    loadFormInfo();
+    loadFormInfo(g().document, g().edition.formsInfFile);
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
     resetFormLook();
     writeYearCaptions(g().taxYear);
@@ -115,7 +115,7 @@ void resetFormLook() {
                         catalogueForm->styleTextBox(c);
                     else
                         setTextFont(c, "Tahoma", 10);
-                    setUpControl(c, true);
+                    setUpControl(c, true, g().document, g().edition.legendColors);
                     break;
                 case ControlKind::Frame:
                 case ControlKind::OptionButton:
@@ -144,7 +144,7 @@ void writeYearCaptions(const TaxYearChoice& taxYear) {
                 c.caption = withLineBreaks(text::replaceAll(c.caption, "20??", year));
                 continue;
             }
-            c.caption = longText(readFormInfo(form.name(), c.name), year);
+            c.caption = longText(readFormInfo(form.name(), c.name, g().edition.formsInfFile), year);
         }
     });
 }
@@ -185,7 +185,7 @@ void placeInFrame(Form& frm) {
                     desktop.activate(*open);
                     g().document.currentForm = open;
                     g().document.formKey = formKeyOf(open->name());
-                    loadFormInfo();
+                    loadFormInfo(g().document, g().edition.formsInfFile);
                 }
                 return;
             }
@@ -230,15 +230,15 @@ void changeTaxYear(Form& frm) {
 void recheckYearDates() {
     Form* form = g().document.currentForm;
     if (!form) return;
+    const EditContext context = editContextOf(program().parts);
     for (const auto& owned : form->controls()) {
         Control& c = *owned;
         if (!c.isTextBox()) continue;
         bool stands = true;
         if (c.tag == "DATE")
-            stands = editDate(c, g().taxYear, "");
+            stands = editDate(c, context, "");
         else if (c.tag == "DATEX")
-            stands =
-                editDate(c, g().taxYear, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+            stands = editDate(c, context, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
         if (!stands) return;
     }
 }

@@ -53,14 +53,15 @@ bool outputBlocked(Form& active) {
     if (!form) return false;
     const std::string text = form->outputRefusal();
     if (text.empty()) return false;
-    showMessageBox({"F0_MDI:cmdBtn_Click", text, 801});
+    showMessageBox(program().desktop, {"F0_MDI:cmdBtn_Click", text, 801});
     return true;
 }
 
 // Every text box in the order of the form's controls; the first that does not stand keeps the focus.
 bool allFieldsStand(Form& form) {
+    const EditContext context = editContextOf(program().parts);
     for (const auto& owned : form.controls()) {
-        if (owned->isTextBox() && !editField(*owned)) return false;
+        if (owned->isTextBox() && !editField(*owned, context)) return false;
     }
     return true;
 }
@@ -81,7 +82,7 @@ void runOutputCommand(const std::string& pressed, Form& active) {
         if (form)
             form->afterPrinted();
         else
-            focusFirstFieldAfterPrint(active);
+            focusFirstFieldAfterPrint(active, g().document, g().edition.legendColors);
     } else if (pressed == "CLIP") {
         if (hooks().mdiClip) hooks().mdiClip();
     }

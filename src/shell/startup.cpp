@@ -114,7 +114,7 @@ void setUpTestPath(FrameForm& frame) {
                                 kNoMessageNumber,
                                 {"Venturo", "Other"},
                                 MessageBoxButton::None};
-    bool venturo = showMessageBox(ask).button == MessageBoxButton::First;
+    bool venturo = showMessageBox(program().desktop, ask).button == MessageBoxButton::First;
     Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.versionMajor)
                               : othAgcyEdition(root, platform().executableFolder(), frame.versionMajor);
     frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
@@ -199,6 +199,7 @@ void onFrameLoad(FrameForm& frame) {
         g().document.currentForm = &frame;
         if (platform().earlierInstanceRunning()) {
             showMessageBox(
+                program().desktop,
                 {"F0_MDI:FormLoad",
                  "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
                  "Ledgerwick ICON on the Taskbar to restore."});

@@ -1,7 +1,10 @@
 #include "shell/tax_year.h"
 
-#include "model/program.h"
-#include "shell/startup.h"
+#include "model/edition_settings.h"
+#include "model/ports.h"
+#include "model/process_state.h"
+#include "model/program_parts.h"
+#include "store/inf_store.h"
 
 namespace lw {
 
@@ -13,12 +16,14 @@ TaxYearChoice rememberedTaxYear(const DateTime& today, const std::string& rememb
     return taxYear;
 }
 
-std::string setUpTaxYears() {
-    Globals& g = program().g;
-    const std::string remembered = readUserInf("LastTaxYear");
-    g.taxYear = rememberedTaxYear(program().platform.now(), remembered);
-    writeUserInf("LastTaxYear", g.taxYear.text());
-    return remembered.empty() ? g.taxYear.text() : remembered;
+std::string setUpTaxYears(const ProgramParts& parts) {
+    // LastTaxYear stands in the user's section of the user INF file.
+    const std::string& user = parts.process.userNameUpper;
+    const std::string& userInfFile = parts.edition.userInfFile;
+    const std::string remembered = store::readInfValue(user, "LastTaxYear", "", userInfFile);
+    parts.taxYear = rememberedTaxYear(parts.platform.now(), remembered);
+    store::writeInfValue(user, "LastTaxYear", parts.taxYear.text(), userInfFile);
+    return remembered.empty() ? parts.taxYear.text() : remembered;
 }
 
 }  // namespace lw

@@ -59,7 +59,7 @@ void readTaxpayers(const std::string& who) {
         if (rules)
             rules->afterTaxpayerFill();
         else
-            refocusAfterTaxpayerFill();
+            refocusAfterTaxpayerFill(g().document);
         program().ui.refresh();
     });
 }

@@ -126,7 +126,7 @@ protected:
             const bool editedTwice = c->tag == "#" && form->find("SSTab1") != nullptr;
             if (c->locked || !c->canTakeFocus() || editedTwice) {
                 c->text = *value;
-                if (editedTwice) editField(*c);
+                if (editedTwice) editField(*c, editContextOf(test.program->parts));
                 continue;
             }
             ASSERT_NO_FATAL_FAILURE(left(*c));

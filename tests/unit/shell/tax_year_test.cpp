@@ -41,7 +41,7 @@ struct YearSetup : ::testing::Test {
 };
 
 TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
-    EXPECT_EQ(setUpTaxYears(), "2025");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "2025");
     EXPECT_EQ(taxYear().textOf(Slot::LastYear), "2024");
     EXPECT_EQ(taxYear().textOf(Slot::ThisYear), "2025");
     EXPECT_EQ(taxYear().textOf(Slot::NextYear), "2026");
@@ -52,7 +52,7 @@ TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
 
 TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
     writeUserInf("LastTaxYear", "20XX");
-    EXPECT_EQ(setUpTaxYears(), "20XX");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "20XX");
     EXPECT_EQ(taxYear().index(), 3);
     EXPECT_EQ(taxYear().digits(), "XX");
     EXPECT_EQ(remembered(), "20XX");
@@ -60,14 +60,14 @@ TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
 
 TEST_F(YearSetup, AYearOutOfTheWindowFallsBackToThisYearAndIsOverwritten) {
     writeUserInf("LastTaxYear", "2015");
-    EXPECT_EQ(setUpTaxYears(), "2015");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "2015");
     EXPECT_EQ(taxYear().index(), 1);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, LastYearIsKept) {
     writeUserInf("LastTaxYear", "2024");
-    setUpTaxYears();
+    setUpTaxYears(test.program->parts);
     EXPECT_EQ(taxYear().index(), 0);
     EXPECT_EQ(taxYear().digits(), "24");
 }
