@@ -13,8 +13,8 @@ struct ProgramParts;
 struct EditContext {
     // The document on the screen: its current form holds the status line the edits write to and the
     // tax year the dates are held to, whichever form the field stands on.
-    OpenDocument& document;
-    // Its frame holds the legend whose colours a failed field takes; the boxes of the edits show on it.
+    const OpenDocument& document;
+    // The desktop: the legend on its frame gives a failed field its colour, and the edits' boxes show on it.
     Desktop& desktop;
     // The tax year in force, for a date on a form that shows none.
     const TaxYearChoice& taxYear;
