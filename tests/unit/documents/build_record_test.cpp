@@ -79,6 +79,30 @@ TEST_F(BuildRecord, ANameWithoutANumberIsRefusedAndTheFirstBadPairDecides) {
               std::string::npos);
 }
 
+TEST_F(BuildRecord, NoFormIsAFaultOfItsOwnAndMakesNoLine) {
+    open("TF_W2");
+    EXPECT_EQ(buildRecord(nullptr, g.document), std::nullopt);
+    ASSERT_EQ(test.ui.reports.size(), 1u);
+    EXPECT_NE(test.ui.reports[0].find("M4_FileCode:Build_Record"), std::string::npos) << test.ui.reports[0];
+    EXPECT_NE(test.ui.reports[0].find("Object required"), std::string::npos) << test.ui.reports[0];
+}
+
+// The line needs nothing of the program: the form handed in and what its document says of it.
+TEST(BuildRecordAlone, TheFormHandedInMakesTheLineUnderTheDocumentsPrefix) {
+    SmallForm form("TF_W2", {2, 0, 1, true});
+    form.at("TaxYear", 1).caption = "24";
+    form.at("Text1", 1).text = "A";
+    form.at("Check", 0).caption = "X";
+    OpenDocument document;
+    document.formKey = "W2";
+    document.catalogue.recordPrefix = "W-2";
+    EXPECT_EQ(buildRecord(&form, document), "W-2" + D + "2024" + D + "TXT1=A" + D + "CHK0=X");
+    document.formKey = "CHK";
+    document.catalogue.recordPrefix = "CHK";
+    EXPECT_EQ(buildRecord(&form, document), "CHK" + D + D + "TXT1=A" + D + "CHK0=X")
+        << "a form key without a tax year leaves the year out, whatever the form shows";
+}
+
 TEST_F(BuildRecord, NineBlankCardsAreNotSaved) {
     open("F2_SS_ITIN");
     EXPECT_EQ(record(), std::nullopt);

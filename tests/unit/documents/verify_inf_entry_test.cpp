@@ -59,6 +59,14 @@ TEST_F(VerifyInfEntry, AnExistingFolderIsKept) {
     EXPECT_EQ(read("LastSaveFolder"), existing_);
 }
 
+TEST_F(VerifyInfEntry, OnlyTheSectionHandedInIsChecked) {
+    write("LastOpenFolder", gone_);
+    store::writeInfValue("OTHER", "LastOpenFolder", gone_, g.edition.userInfFile);
+    verifyRememberedFolder(FileDialogMode::Open, {g.edition.userInfFile, "OTHER"});
+    EXPECT_EQ(store::readInfValue("OTHER", "LastOpenFolder", "<none>", g.edition.userInfFile), "");
+    EXPECT_EQ(read("LastOpenFolder"), gone_);
+}
+
 TEST_F(VerifyInfEntry, AFileIsNoFolder) {
     write("LastSaveFolder", g.edition.userInfFile);
     verifyRememberedFolder(FileDialogMode::Save, userInf());
