@@ -174,7 +174,7 @@ bool CardsForm::putBackAfterClip() {
 }
 
 bool CardsForm::fillTaxpayers(const std::string& who, const TPInfoRec&, const TPInfoRec&) {
-    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1);
+    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1, parts().process.userNameUpper, parts().edition);
     return true;
 }
 

@@ -8,11 +8,12 @@
 namespace lw {
 
 class Form;
+struct ProgramParts;
 
 struct FrameCommandHooks {
     std::function<void()> openFile;
     std::function<void()> saveFile;
-    std::function<void(const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
+    std::function<void(const ProgramParts&, const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
     std::function<void()> screenClip;
     std::function<void(Form&)> printForm;
     std::function<void()> mdiClip;
