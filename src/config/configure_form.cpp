@@ -273,7 +273,7 @@ void ConfigureForm::commonInitStep() {
     configureFormCommonInit(*this, parts().edition.ssmcInfFile, parts().rates);
 }
 
-// The figures go to the document's current form, which is this one whenever its year can change.
+// The figures are read into the document's current form, the one the change of year works on.
 void ConfigureForm::afterYearChange() {
     if (Form* current = parts().document.currentForm)
         loadRates(*current, parts().edition.ssmcInfFile, parts().rates);
