@@ -4,16 +4,33 @@
 #include <optional>
 #include <string>
 
+#include "model/edition_settings.h"
+#include "model/process_state.h"
+
 namespace lw {
+
+struct ProgramParts;
 
 enum class FileDialogMode { Open, Save };
 
+// The user's section of the user INF file, where each dialog remembers the last folder it used.
+struct UserInfSection {
+    std::string file;
+    std::string user;  // the section's name: the user's name in capitals
+};
+
+inline UserInfSection userInfSectionOf(const EditionSettings& edition, const ProcessState& process) {
+    return {edition.userInfFile, process.userNameUpper};
+}
+
 // Asks for a path; fileName is the name proposed in save mode. Returns the full path, or nothing when
 // the operator cancels. A fault is logged and gives an empty path, which the write or read then refuses.
-std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName);
+// A folder other than the one the dialog started in is remembered in the user INF file and the choices.
+std::optional<std::string> chooseFileToOpenOrSave(const ProgramParts& parts, FileDialogMode mode,
+                                                  const std::string& fileName);
 
 // Runs just before each dialog: the remembered folder of that dialog is emptied in the user INF file
 // when it no longer exists.
-void verifyRememberedFolder(FileDialogMode mode);
+void verifyRememberedFolder(FileDialogMode mode, const UserInfSection& userInf);
 
 }  // namespace lw

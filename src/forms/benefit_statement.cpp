@@ -9,6 +9,7 @@
 #include "forms/benefit_amounts.h"
 #include "model/app_error.h"
 #include "model/desktop.h"
+#include "model/edition_settings.h"
 #include "text/case.h"
 
 namespace lw {
@@ -56,6 +57,10 @@ bool BenefitStatementForm::isText1(const Control& ctl) {
 
 bool BenefitStatementForm::hasComputedTag(const Control& ctl) {
     return text::equalsNoCase(ctl.tag, "COMPUTED");
+}
+
+std::string BenefitStatementForm::partBPremiumOfYearInForce() const {
+    return partBPremiumOfYear(parts().taxYear, parts().edition.ssmcInfFile);
 }
 
 void BenefitStatementForm::passComputedField(Control& ctl) {

@@ -4,7 +4,9 @@
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
 #include "model/keys.h"
-#include "model/program.h"
+#include "model/ports.h"
+#include "model/tax_year_choice.h"
+#include "model/taxpayer_memory.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
@@ -60,7 +62,7 @@ void TaxpayerSheetForm::onLoad() {
 
 void TaxpayerSheetForm::showAgeYear() {
     Control& yearDigits = at("TaxYear", 1);
-    yearDigits.caption = program().g.taxYear.digits();
+    yearDigits.caption = parts().taxYear.digits();
     const std::string caption = "Age as of 12/31/20" + yearDigits.caption;
     at("LabelTPAge", 0).caption = caption;
     at("LabelTPAge", 1).caption = caption;
@@ -78,7 +80,7 @@ void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(parts()); }
 void TaxpayerSheetForm::beforeFileRead() {
     constexpr Color kYellow = 65535;
     if (Control* banner = find("Label1")) banner->backColor = kYellow;
-    program().ui.refresh();
+    parts().ui.refresh();
 }
 
 // The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
@@ -123,7 +125,7 @@ void TaxpayerSheetForm::onValidate(Control& ctl, bool& cancel) {
     if (listContains(kNumberFields, index)) checkDuplicateNumbers(kNumberFields, ctl.index);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
-        for (const auto& row : program().g.taxpayers.personTable)
+        for (const auto& row : parts().taxpayers.personTable)
             if (row[1] == index) updateAge(*this, row[1], row[2], parts().taxYear);
     });
 }

@@ -19,7 +19,7 @@ void CatalogueForm::showYearDigits(const std::string& digits) { at("TaxYear", 1)
 
 Control& CatalogueForm::focusOnOpening(int focusOnStartup) { return at("Text1", focusOnStartup); }
 
-void CatalogueForm::saveCommand() { saveAsDocument(); }
+void CatalogueForm::saveCommand() { saveAsDocument(parts()); }
 
 void CatalogueForm::afterPrinted() { focusFirstFieldAfterPrint(*this); }
 
@@ -27,8 +27,8 @@ void CatalogueForm::clearCommand(bool) { clearAndFocusFirstField(*this); }
 
 void CatalogueForm::afterTaxpayerFill() { refocusAfterTaxpayerFill(); }
 
-void saveAsDocument() {
-    if (frameCommandHooks().saveFile) frameCommandHooks().saveFile();
+void saveAsDocument(const ProgramParts& parts) {
+    if (frameCommandHooks().saveFile) frameCommandHooks().saveFile(parts);
 }
 
 void focusFirstFieldAfterPrint(Form& form) {

@@ -72,18 +72,18 @@ void runOutputCommand(const std::string& pressed, Form& active) {
         if (form)
             form->saveCommand();
         else
-            saveAsDocument();
+            saveAsDocument(program().parts);
     } else if (pressed == "PRINT") {
         if (!hooks().printForm) return;
-        if (hooks().screenClip) hooks().screenClip();
-        hooks().printForm(active);
+        if (hooks().screenClip) hooks().screenClip(program().parts);
+        hooks().printForm(program().parts, active);
         resetFormLook();
         if (form)
             form->afterPrinted();
         else
             focusFirstFieldAfterPrint(active);
     } else if (pressed == "CLIP") {
-        if (hooks().mdiClip) hooks().mdiClip();
+        if (hooks().mdiClip) hooks().mdiClip(program().parts);
     }
 }
 
@@ -96,7 +96,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             return;
         }
         if (pressed == "OPEN") {
-            if (hooks().openFile) hooks().openFile();
+            if (hooks().openFile) hooks().openFile(program().parts);
             return;
         }
         if (pressed == "CONFIGURE") {
@@ -159,7 +159,7 @@ void onMenuClear() {
 void onMenuPrint() {
     Form* active = program().desktop.activeChild();
     if (!active || !hooks().printForm) return;
-    hooks().printForm(*active);
+    hooks().printForm(program().parts, *active);
     resetFormLook();
     if (Control* first = active->find("Text1", 0)) {
         first->backColor = 0x00C0FFFF;
@@ -189,9 +189,9 @@ void FrameForm::onMenu(const std::string& itemName) {
         if (is("mnuControlQuit")) {
             quitProgram();
         } else if (is("mnuControlOpen")) {
-            if (hooks().openFile) hooks().openFile();
+            if (hooks().openFile) hooks().openFile(program().parts);
         } else if (is("mnuControlSave")) {
-            if (hooks().saveFile) hooks().saveFile();
+            if (hooks().saveFile) hooks().saveFile(program().parts);
         } else if (is("mnuControlClose")) {
             if (Form* active = program().desktop.activeChild()) active->unload();
         } else if (is("mnuControlClear")) {
@@ -199,7 +199,7 @@ void FrameForm::onMenu(const std::string& itemName) {
         } else if (is("mnuControlPrint")) {
             onMenuPrint();
         } else if (is("mnuControlClip")) {
-            if (hooks().mdiClip) hooks().mdiClip();
+            if (hooks().mdiClip) hooks().mdiClip(program().parts);
         } else if (is("mnuControlGuide")) {
             if (!program().ui.openDocument(g().edition.userGuideFile))
                 throw AppError(900, "(2) Error encountered opening " + g().edition.userGuideFile,

@@ -93,7 +93,7 @@ protected:
         test.ui.fileAnswers.push_back(
             (folder + QLatin1Char('/') + QString::fromStdString(GetParam()) + QStringLiteral(".venturo"))
                 .toStdString());
-        saveDataFile();
+        saveDataFile(test.program->parts);
     }
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
