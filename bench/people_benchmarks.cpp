@@ -38,7 +38,7 @@ void LoadTP(benchmark::State& state, const std::string& formName) {
     if (!opened.form) return;
     storeWholeCase();
     for (auto _ : state) {
-        readTaxpayers("TP 1");
+        readTaxpayers(opened.bench.program->parts, "TP 1");
         if (opened.form->at("Text1", 0).text.empty() && opened.form->at("Text1", 13).text.empty()) {
             state.SkipWithError("nothing was filled");
             break;

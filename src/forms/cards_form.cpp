@@ -6,6 +6,7 @@
 #include "model/edition_settings.h"
 #include "model/keys.h"
 #include "model/ports.h"
+#include "model/process_state.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/paths.h"
@@ -177,7 +178,7 @@ bool CardsForm::putBackAfterClip() {
 }
 
 bool CardsForm::fillTaxpayers(const std::string& who, const TPInfoRec&, const TPInfoRec&) {
-    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1);
+    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1, parts().process.userNameUpper, parts().edition);
     return true;
 }
 

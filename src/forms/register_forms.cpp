@@ -63,7 +63,9 @@ void registerAllForms() {
     register1095BCForms();
     registerK1Forms();
     // The Load TP buttons read the people of the case from the store that the sheet fills.
-    frameCommandHooks().loadTaxpayer = [](const std::string& who) { readTaxpayers(who); };
+    frameCommandHooks().loadTaxpayer = [](const ProgramParts& parts, const std::string& who) {
+        readTaxpayers(parts, who);
+    };
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

@@ -75,7 +75,7 @@ void TaxpayerSheetForm::giveOwnLook() {
     if (Control* printer = find("lblPrinter")) printer->opaque = true;
 }
 
-void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(); }
+void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(parts()); }
 
 void TaxpayerSheetForm::beforeFileRead() {
     constexpr Color kYellow = 65535;
@@ -95,7 +95,7 @@ void TaxpayerSheetForm::afterFileRead() {
 }
 
 // The ages follow the birth dates just read.
-void TaxpayerSheetForm::afterFileOpened() { updateAllAges(*this); }
+void TaxpayerSheetForm::afterFileOpened() { updateAllAges(*this, parts().taxpayers, parts().taxYear); }
 
 bool TaxpayerSheetForm::cutToDocument() {
     bool secondBlockUsed = false;
@@ -127,13 +127,13 @@ void TaxpayerSheetForm::onValidate(Control& ctl, bool& cancel) {
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
         for (const auto& row : parts().taxpayers.personTable)
-            if (row[1] == index) updateAge(*this, row[1], row[2]);
+            if (row[1] == index) updateAge(*this, row[1], row[2], parts().taxYear);
     });
 }
 
 void TaxpayerSheetForm::afterYearChange() {
     if (!isLoaded()) return;
-    updateAllAges(*this);
+    updateAllAges(*this, parts().taxpayers, parts().taxYear);
     showAgeYear();
 }
 

@@ -14,7 +14,7 @@ struct ProgramParts;
 struct FrameCommandHooks {
     std::function<void(const ProgramParts&)> openFile;
     std::function<void(const ProgramParts&)> saveFile;
-    std::function<void(const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
+    std::function<void(const ProgramParts&, const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
     std::function<void(const ProgramParts&)> screenClip;
     std::function<void(const ProgramParts&, Form&)> printForm;
     std::function<void(const ProgramParts&)> mdiClip;

@@ -109,7 +109,8 @@ void onFrameButton(FrameForm& frame, Control& button) {
         auto* form = dynamic_cast<CatalogueForm*>(active);
         if (pressed == "LOAD TP 1" || pressed == "LOAD TP 2") {
             if (form && !form->takesTaxpayers()) return;
-            if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
+            if (hooks().loadTaxpayer)
+                hooks().loadTaxpayer(program().parts, button.caption.substr(button.caption.size() - 4));
         } else if (pressed == "CLEAR") {
             if (form)
                 form->clearCommand(false);

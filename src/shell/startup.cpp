@@ -48,12 +48,18 @@ std::string removeWordNoCase(std::string text, const std::string& word) {
 
 }  // namespace
 
-std::string readUserInf(const std::string& key) {
-    return store::readInfValue(g().process.userNameUpper, key, "", g().edition.userInfFile);
-}
+std::string readUserInf(const std::string& key) { return readUserInf(program().parts, key); }
 
 void writeUserInf(const std::string& key, const std::string& value) {
-    store::writeInfValue(g().process.userNameUpper, key, value, g().edition.userInfFile);
+    writeUserInf(program().parts, key, value);
+}
+
+std::string readUserInf(const ProgramParts& parts, const std::string& key) {
+    return store::readInfValue(parts.process.userNameUpper, key, "", parts.edition.userInfFile);
+}
+
+void writeUserInf(const ProgramParts& parts, const std::string& key, const std::string& value) {
+    store::writeInfValue(parts.process.userNameUpper, key, value, parts.edition.userInfFile);
 }
 
 void saveRememberedFolders(const std::string& infFile, const std::string& defaultFolder) {

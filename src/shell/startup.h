@@ -6,6 +6,7 @@
 namespace lw {
 
 class FrameForm;
+struct ProgramParts;
 
 void onFrameLoad(FrameForm& frame);
 void setUpFrame(FrameForm& frame);
@@ -18,5 +19,8 @@ void openFirstChild(FrameForm& frame);
 // The user INF file, in the section of the user.
 std::string readUserInf(const std::string& key);
 void writeUserInf(const std::string& key, const std::string& value);
+// The same, for a procedure handed the parts it works with: the user's name and the edition's file.
+std::string readUserInf(const ProgramParts& parts, const std::string& key);
+void writeUserInf(const ProgramParts& parts, const std::string& key, const std::string& value);
 
 }  // namespace lw

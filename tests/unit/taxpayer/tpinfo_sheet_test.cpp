@@ -37,7 +37,7 @@ TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
     g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
     form->at("Text2", 0).text = "41";
     form->at("Text1", 2).text = "03/15/1980";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "N/A") << "the sheet ages by the year in force";
 }
 
@@ -52,10 +52,10 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
     form->at("Text2", 0).text = "41";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "41");
     form->at("Text1", 2).text = "05/05/20XX";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
@@ -66,7 +66,7 @@ TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFiel
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
     form->at("Text1", 6).text = "KIM LEE";
     form->at("Text1", 11).text = "222-33-4444";
-    saveTaxpayerSheet();
+    saveTaxpayerSheet(test.program->parts);
     EXPECT_EQ(readUserInf("TP1NameAddr"),
               "ANN LEE\xBB"
               "1 MAIN ST");
