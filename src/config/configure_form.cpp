@@ -17,6 +17,7 @@
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "shell/tax_year.h"
 #include "text/case.h"
 #include "text/number.h"

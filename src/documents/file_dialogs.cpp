@@ -3,6 +3,7 @@
 #include "documents/file_dialogs.h"
 
 #include "diagnostics/error_tail.h"
+#include "model/edition_settings.h"
 #include "model/ports.h"
 #include "model/program_parts.h"
 #include "model/user_choices.h"
@@ -50,7 +51,7 @@ std::optional<std::string> chooseFileToOpenOrSave(const ProgramParts& parts, Fil
             const UserInfSection userInf = userInfSectionOf(edition, parts.process);
             const bool save = mode == FileDialogMode::Save;
             const std::string key = rememberedFolderKey(mode);
-            std::string startFolder = store::readInfValue(userInf.user, key, "", userInf.file);
+            std::string startFolder = userInf.read(key);
             if (startFolder.empty())
                 startFolder = store::readInfValue("TaxForms", "Folder", "", userInf.file);
 
@@ -66,7 +67,7 @@ std::optional<std::string> chooseFileToOpenOrSave(const ProgramParts& parts, Fil
             const std::string path = beforeNul(*answer);
             const std::string folder = folderOf(path);
             if (folder != startFolder) {
-                store::writeInfValue(userInf.user, key, folder, userInf.file);
+                userInf.write(key, folder);
                 (save ? parts.choices.lastSaveFolder : parts.choices.lastOpenFolder) = folder;
             }
             return path;
@@ -76,9 +77,9 @@ std::optional<std::string> chooseFileToOpenOrSave(const ProgramParts& parts, Fil
 void verifyRememberedFolder(FileDialogMode mode, const UserInfSection& userInf) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
         const std::string key = rememberedFolderKey(mode);
-        const std::string folder = store::readInfValue(userInf.user, key, "", userInf.file);
+        const std::string folder = userInf.read(key);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder)) store::writeInfValue(userInf.user, key, "", userInf.file);
+        if (!folderExists(folder)) userInf.write(key, "");
     });
 }
 

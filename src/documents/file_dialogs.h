@@ -4,24 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "model/edition_settings.h"
-#include "model/process_state.h"
+#include "store/user_inf.h"
 
 namespace lw {
 
 struct ProgramParts;
 
 enum class FileDialogMode { Open, Save };
-
-// The user's section of the user INF file, where each dialog remembers the last folder it used.
-struct UserInfSection {
-    std::string file;
-    std::string user;  // the section's name: the user's name in capitals
-};
-
-inline UserInfSection userInfSectionOf(const EditionSettings& edition, const ProcessState& process) {
-    return {edition.userInfFile, process.userNameUpper};
-}
 
 // Asks for a path; fileName is the name proposed in save mode. Returns the full path, or nothing when
 // the operator cancels. A fault is logged and gives an empty path, which the write or read then refuses.

@@ -11,6 +11,7 @@
 #include "shell/form_registry.h"
 #include "shell/startup.h"
 #include "store/record_line.h"
+#include "store/user_inf.h"
 #include "taxpayer/tpinfo_sheet.h"
 #include "text/pieces.h"
 
@@ -86,12 +87,12 @@ void TaxpayerSheetForm::beforeFileRead() {
 // The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
 void TaxpayerSheetForm::afterFileRead() {
     auto text = [&](int index) { return at("Text1", index).text; };
-    writeUserInf("TP1NameAddr", store::recordValue(text(0)));
-    writeUserInf("TP1DOB", text(2));
-    writeUserInf("TP1SSN", text(1));
-    writeUserInf("TP2NameAddr", store::recordValue(text(3)));
-    writeUserInf("TP2DOB", text(5));
-    writeUserInf("TP2SSN", text(4));
+    writeUserInf(parts(), "TP1NameAddr", store::recordValue(text(0)));
+    writeUserInf(parts(), "TP1DOB", text(2));
+    writeUserInf(parts(), "TP1SSN", text(1));
+    writeUserInf(parts(), "TP2NameAddr", store::recordValue(text(3)));
+    writeUserInf(parts(), "TP2DOB", text(5));
+    writeUserInf(parts(), "TP2SSN", text(4));
 }
 
 // The ages follow the birth dates just read.

@@ -10,6 +10,7 @@
 #include "shell/catalogue_form.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 #include "text/pieces.h"
 
@@ -220,7 +221,7 @@ void changeTaxYear(Form& frm) {
     runGuarded("M3_Ledgerwick:Year_Change", [&] {
         g().taxYear = g().taxYear.next();
         writeYearCaptions(g().taxYear);
-        writeUserInf("LastTaxYear", g().taxYear.text());
+        writeUserInf(program().parts, "LastTaxYear", g().taxYear.text());
         if (formHasTaxYear()) showYearDigits(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
         recheckYearDates();

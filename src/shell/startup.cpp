@@ -13,6 +13,7 @@
 #include "shell/frame_form.h"
 #include "shell/paths.h"
 #include "store/inf_store.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 
 namespace lw {
@@ -48,24 +49,10 @@ std::string removeWordNoCase(std::string text, const std::string& word) {
 
 }  // namespace
 
-std::string readUserInf(const std::string& key) { return readUserInf(program().parts, key); }
-
-void writeUserInf(const std::string& key, const std::string& value) {
-    writeUserInf(program().parts, key, value);
-}
-
-std::string readUserInf(const ProgramParts& parts, const std::string& key) {
-    return store::readInfValue(parts.process.userNameUpper, key, "", parts.edition.userInfFile);
-}
-
-void writeUserInf(const ProgramParts& parts, const std::string& key, const std::string& value) {
-    store::writeInfValue(parts.process.userNameUpper, key, value, parts.edition.userInfFile);
-}
-
 void saveRememberedFolders(const std::string& infFile, const std::string& defaultFolder) {
     for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
-        if (store::readInfValue(g().process.userNameUpper, key, "", infFile).empty())
-            store::writeInfValue(g().process.userNameUpper, key, defaultFolder, infFile);
+        const UserInfSection userInf{infFile, g().process.userNameUpper};
+        if (userInf.read(key).empty()) userInf.write(key, defaultFolder);
     }
 }
 
@@ -74,10 +61,10 @@ void setUpTaxFormsFolder(FrameForm& frame) {
     std::string byDefault = text::endsWithNoCase(g().edition.userInfFile, "UserVenturo.inf")
                                 ? joinPath(root, "VenturoForms")
                                 : joinPath(root, "TaxFormsLW");
-    frame.taxFormsFolder = readUserInf("TaxFormsFolder");
+    frame.taxFormsFolder = readUserInf(program().parts, "TaxFormsFolder");
     if (frame.taxFormsFolder.empty()) {
         frame.taxFormsFolder = byDefault;
-        writeUserInf("TaxFormsFolder", byDefault);
+        writeUserInf(program().parts, "TaxFormsFolder", byDefault);
     }
 }
 
@@ -184,7 +171,7 @@ namespace {
 // A remembered folder that is gone is forgotten, in memory and in the file.
 void forgetVanishedFolder(const char* key, std::string& folder) {
     if (folderExists(folder)) return;
-    writeUserInf(key, "");
+    writeUserInf(program().parts, key, "");
     pause(250);
     folder.clear();
 }
@@ -226,9 +213,9 @@ void onFrameLoad(FrameForm& frame) {
         installShippedInfFiles(platform().executableFolder(), infFilesFolder(platform().rootFolder()));
         setUpFrame(frame);
 
-        g().choices.lastOpenFolder = readUserInf("LastOpenFolder");
+        g().choices.lastOpenFolder = readUserInf(program().parts, "LastOpenFolder");
         pause(250);
-        g().choices.lastSaveFolder = readUserInf("LastSaveFolder");
+        g().choices.lastSaveFolder = readUserInf(program().parts, "LastSaveFolder");
         pause(250);
         forgetVanishedFolder("LastOpenFolder", g().choices.lastOpenFolder);
         forgetVanishedFolder("LastSaveFolder", g().choices.lastSaveFolder);

@@ -4,7 +4,7 @@
 #include "model/ports.h"
 #include "model/process_state.h"
 #include "model/program_parts.h"
-#include "store/inf_store.h"
+#include "store/user_inf.h"
 
 namespace lw {
 
@@ -17,12 +17,9 @@ TaxYearChoice rememberedTaxYear(const DateTime& today, const std::string& rememb
 }
 
 std::string setUpTaxYears(const ProgramParts& parts) {
-    // LastTaxYear stands in the user's section of the user INF file.
-    const std::string& user = parts.process.userNameUpper;
-    const std::string& userInfFile = parts.edition.userInfFile;
-    const std::string remembered = store::readInfValue(user, "LastTaxYear", "", userInfFile);
+    const std::string remembered = readUserInf(parts, "LastTaxYear");
     parts.taxYear = rememberedTaxYear(parts.platform.now(), remembered);
-    store::writeInfValue(user, "LastTaxYear", parts.taxYear.text(), userInfFile);
+    writeUserInf(parts, "LastTaxYear", parts.taxYear.text());
     return remembered.empty() ? parts.taxYear.text() : remembered;
 }
 

@@ -12,6 +12,7 @@
 #include "model/taxpayer_memory.h"
 #include "shell/catalogue_form.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/pieces.h"
 
 namespace lw {

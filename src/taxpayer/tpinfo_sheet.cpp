@@ -10,6 +10,7 @@
 #include "model/program_parts.h"
 #include "model/taxpayer_memory.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/date_text.h"

@@ -4,6 +4,7 @@
 
 #include "shell/startup.h"
 #include "store/inf_store.h"
+#include "store/user_inf.h"
 #include "test_program.h"
 
 namespace lw {
@@ -51,7 +52,7 @@ TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
 }
 
 TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
-    writeUserInf("LastTaxYear", "20XX");
+    writeUserInf(program().parts, "LastTaxYear", "20XX");
     EXPECT_EQ(setUpTaxYears(test.program->parts), "20XX");
     EXPECT_EQ(taxYear().index(), 3);
     EXPECT_EQ(taxYear().digits(), "XX");
@@ -59,14 +60,14 @@ TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
 }
 
 TEST_F(YearSetup, AYearOutOfTheWindowFallsBackToThisYearAndIsOverwritten) {
-    writeUserInf("LastTaxYear", "2015");
+    writeUserInf(program().parts, "LastTaxYear", "2015");
     EXPECT_EQ(setUpTaxYears(test.program->parts), "2015");
     EXPECT_EQ(taxYear().index(), 1);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, LastYearIsKept) {
-    writeUserInf("LastTaxYear", "2024");
+    writeUserInf(program().parts, "LastTaxYear", "2024");
     setUpTaxYears(test.program->parts);
     EXPECT_EQ(taxYear().index(), 0);
     EXPECT_EQ(taxYear().digits(), "24");

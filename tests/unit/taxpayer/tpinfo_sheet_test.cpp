@@ -7,6 +7,7 @@
 #include "model/app_error.h"
 #include "opened_form.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "taxpayer/load_tp.h"
 
 namespace lw {
@@ -67,17 +68,17 @@ TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFiel
     form->at("Text1", 6).text = "KIM LEE";
     form->at("Text1", 11).text = "222-33-4444";
     saveTaxpayerSheet(test.program->parts);
-    EXPECT_EQ(readUserInf("TP1NameAddr"),
+    EXPECT_EQ(readUserInf(program().parts, "TP1NameAddr"),
               "ANN LEE\xBB"
               "1 MAIN ST");
-    EXPECT_EQ(readUserInf("TP1SSN"), "123-45-6789");
-    EXPECT_EQ(readUserInf("TP1DOB"), "");
-    EXPECT_EQ(readUserInf("TP2DOB"), "07/04/1982");
-    EXPECT_EQ(readUserInf("Dependent1"), "KIM LEE\xB7");
-    EXPECT_EQ(readUserInf("Dependent2"),
+    EXPECT_EQ(readUserInf(program().parts, "TP1SSN"), "123-45-6789");
+    EXPECT_EQ(readUserInf(program().parts, "TP1DOB"), "");
+    EXPECT_EQ(readUserInf(program().parts, "TP2DOB"), "07/04/1982");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent1"), "KIM LEE\xB7");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent2"),
               "\xB7"
               "222-33-4444");
-    EXPECT_EQ(readUserInf("Dependent3"), "");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent3"), "");
 }
 
 }  // namespace
