@@ -1,11 +1,10 @@
 #pragma once
 // What the edits of a field work with besides the field itself.
 
-#include "model/date_time.h"
-
 namespace lw {
 
 class Desktop;
+class PlatformPort;
 class TaxYearChoice;
 struct OpenDocument;
 struct ProgramParts;
@@ -18,8 +17,9 @@ struct EditContext {
     Desktop& desktop;
     // The tax year in force, for a date on a form that shows none.
     const TaxYearChoice& taxYear;
-    // The moment of the edit: a date typed without a year takes its year, a two-digit year its century.
-    DateTime now;
+    // The machine's clock, read only by the edits that need today: a date typed without a year takes
+    // this year, a two-digit year this century.
+    PlatformPort& platform;
 };
 
 // The context of an edit from the parts of the program.

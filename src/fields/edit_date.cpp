@@ -6,6 +6,7 @@
 #include "fields/edit_failure.h"
 #include "model/app_error.h"
 #include "model/open_document.h"
+#include "model/ports.h"
 #include "model/tax_year_choice.h"
 #include "text/date_text.h"
 #include "text/pieces.h"
@@ -74,7 +75,7 @@ bool editDate(Control& ctl, const EditContext& context, const std::string& requi
     try {
         clearStatusLine(context.document);
         const std::string taxYear = formTaxYear(context.document, context.taxYear);
-        if (!formatDateText(ctl, context.now))
+        if (!formatDateText(ctl, context.platform.now()))
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);
         if (lastFour(ctl.text) == "20XX" && taxYear != "20XX")

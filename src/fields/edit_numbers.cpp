@@ -4,6 +4,7 @@
 #include "fields/edit_ctl.h"
 #include "fields/edit_handler.h"
 #include "model/app_error.h"
+#include "model/ports.h"
 #include "text/masks.h"
 #include "text/number.h"
 #include "text/pieces.h"
@@ -59,7 +60,7 @@ bool editYear(Control& ctl, const EditContext& context) {
         const char* const kInvalid = "Invalid Year - Use yy or yyyy";
         std::string year = ctl.text;
         if (!text::isNumeric(year)) throw AppError(800, kInvalid, kLabel);
-        const std::string century = std::to_string(context.now.year).substr(0, 2);
+        const std::string century = std::to_string(context.platform.now().year).substr(0, 2);
         if (year.size() == 2)
             year = century + year;
         else if (year.size() == 4 && year.substr(0, 2) != century)

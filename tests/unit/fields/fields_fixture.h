@@ -66,7 +66,7 @@ protected:
     Program& prog() { return *program_; }
     Globals& g() { return program_->g; }
     // What an edit works with: the document, the desktop, the tax year in force and the fake clock.
-    EditContext editContext() { return {g().document, prog().desktop, g().taxYear, platform.now()}; }
+    EditContext editContext() { return {g().document, prog().desktop, g().taxYear, platform}; }
 
     // A child form with the status line and the tax year labels 20 and 23, made the current form.
     FieldForm& openForm(const std::string& name, bool everyKeyFiltered) {
