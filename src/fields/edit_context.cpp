@@ -1,0 +1,11 @@
+#include "fields/edit_context.h"
+
+#include "model/program_parts.h"
+
+namespace lw {
+
+EditContext editContextOf(const ProgramParts& parts) {
+    return {parts.document, parts.desktop, parts.taxYear, parts.platform};
+}
+
+}  // namespace lw
