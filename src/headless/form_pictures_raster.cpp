@@ -55,8 +55,6 @@ constexpr double kPageDpi = 150;
 
 }  // namespace
 
-bool picturesDrawn() { return true; }
-
 std::shared_ptr<const FormPicture> drawForm(const Form& form, double zoom) {
     return std::make_shared<RasterFormPicture>(paintedForm(form, face::kScreenScale * zoom));
 }
