@@ -116,7 +116,8 @@ void SaveFile(benchmark::State& state) {
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
     for (auto _ : state) {
-        const std::string bytes = buildRecord().value_or("") + "\r\n";
+        const std::string bytes =
+            buildRecord(opened.form, opened.bench.program->g.document).value_or("") + "\r\n";
         if (!store::writeFileAtomically(path, bytes, error)) {
             state.SkipWithError(error.c_str());
             break;
@@ -132,13 +133,15 @@ void ReadFile(benchmark::State& state) {
     fillW2(*opened.form);
     const auto path = opened.bench.root / "bench.w2";
     std::string error;
-    if (!store::writeFileAtomically(path, buildRecord().value_or("") + "\r\n", error)) {
+    const std::string bytes =
+        buildRecord(opened.form, opened.bench.program->g.document).value_or("") + "\r\n";
+    if (!store::writeFileAtomically(path, bytes, error)) {
         state.SkipWithError(error.c_str());
         return;
     }
     opened.bench.program->g.document.currentFileName = path.string();
     for (auto _ : state) {
-        const Form* read = readDataFile();
+        const Form* read = readDataFile(path.string(), opened.bench.program->parts);
         if (!read || read->name() != "TF_W2") {
             state.SkipWithError(
                 ("the file read as " + (read ? read->name() : std::string("nothing"))).c_str());

@@ -31,11 +31,13 @@ void OpenK1CodeList(benchmark::State& state, const std::string& section) {
     owned->add(ControlKind::TextBox, "Text3", 0).tag = "MONEY";
     Form& form = desktop.load(std::move(owned));
     const K1DesignValues kept = keptDesignValues(form);
+    const std::string& infFile = bench.program->parts.edition.k1HelpInfFile;
+    K1HelpMembers members;
     for (auto _ : state) {
         code.text.clear();
         desktop.setFocus(code);
         const auto start = Clock::now();
-        desktop.dispatch([&] { openK1CodeList(form, code, kept); });
+        desktop.dispatch([&] { openK1CodeList(form, code, kept, infFile, members); });
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
         if (code.text.empty()) {
             state.SkipWithError("no code was picked from the list");
@@ -52,10 +54,12 @@ void DrawK1CodeList(benchmark::State& state, const std::string& section) {
         return;
     }
     Desktop& desktop = bench.program->desktop;
+    const std::string& infFile = bench.program->parts.edition.k1HelpInfFile;
+    K1HelpMembers members;
     for (auto _ : state) {
         const auto start = Clock::now();
-        k1HelpMembers().listSectionKey = section;
-        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
+        members.listSectionKey = section;
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(members, infFile), false);
         const QImage picture = ui::renderForm(list);
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
         desktop.unload(list);

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 void Clip(benchmark::State& state, const std::string& formName) {
     OpenedForm opened(state, formName);
     if (!opened.form) return;
-    for (auto _ : state) clipCurrentForm();
+    for (auto _ : state) clipCurrentForm(opened.bench.program->parts);
     if (!opened.bench.ui.reports.empty()) state.SkipWithError(opened.bench.ui.reports.front().c_str());
 }
 
@@ -43,7 +43,8 @@ void RenderHundredW2(benchmark::State& state) {
         for (int i = 0; i < 100; ++i) {
             opened.form->at("Text1", 5).text = std::to_string(40000 + i) + ".00";
             files.push_back((folder / ("w2-" + std::to_string(i) + ".venturo")).string());
-            std::ofstream(files.back(), std::ios::binary) << buildRecord().value_or("") << "\r\n";
+            std::ofstream(files.back(), std::ios::binary)
+                << buildRecord(opened.form, opened.bench.program->g.document).value_or("") << "\r\n";
         }
     }
     render::RenderOptions options;

@@ -7,30 +7,33 @@
 
 #include "bench_program.h"
 #include "model/form.h"
-#include "shell/startup.h"
+#include "model/program.h"
+#include "store/user_inf.h"
 #include "taxpayer/load_tp.h"
 
 namespace lw::bench {
 namespace {
 
 void storeWholeCase() {
-    writeUserInf("TP1NameAddr",
+    const ProgramParts& parts = program().parts;
+    writeUserInf(parts, "TP1NameAddr",
                  "JOHN Q DOE JR\xBB"
                  "12 MAIN ST\xBB"
                  "ANYTOWN, OH 44000");
-    writeUserInf("TP1SSN", "123-45-6789");
-    writeUserInf("TP1DOB", "03/15/1980");
-    writeUserInf("TP2NameAddr",
+    writeUserInf(parts, "TP1SSN", "123-45-6789");
+    writeUserInf(parts, "TP1DOB", "03/15/1980");
+    writeUserInf(parts, "TP2NameAddr",
                  "MARY DOE\xBB"
                  "12 MAIN ST\xBB"
                  "ANYTOWN, OH 44000");
-    writeUserInf("TP2SSN", "234-56-7890");
-    writeUserInf("TP2DOB", "07/04/1982");
+    writeUserInf(parts, "TP2SSN", "234-56-7890");
+    writeUserInf(parts, "TP2DOB", "07/04/1982");
     for (int k = 1; k <= 7; ++k)
-        writeUserInf("Dependent" + std::to_string(k), "CHILD " + std::to_string(k) +
-                                                          "\xB7"
-                                                          "3" +
-                                                          std::to_string(k) + "5-67-890" + std::to_string(k));
+        writeUserInf(parts, "Dependent" + std::to_string(k),
+                     "CHILD " + std::to_string(k) +
+                         "\xB7"
+                         "3" +
+                         std::to_string(k) + "5-67-890" + std::to_string(k));
 }
 
 void LoadTP(benchmark::State& state, const std::string& formName) {
@@ -38,7 +41,7 @@ void LoadTP(benchmark::State& state, const std::string& formName) {
     if (!opened.form) return;
     storeWholeCase();
     for (auto _ : state) {
-        readTaxpayers("TP 1");
+        readTaxpayers(opened.bench.program->parts, "TP 1");
         if (opened.form->at("Text1", 0).text.empty() && opened.form->at("Text1", 13).text.empty()) {
             state.SkipWithError("nothing was filled");
             break;

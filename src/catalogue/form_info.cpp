@@ -4,21 +4,23 @@
 #include <cmath>
 #include <optional>
 
-#include "model/program.h"
+#include "model/form.h"
+#include "model/open_document.h"
 #include "store/inf_store.h"
 #include "text/number.h"
 #include "text/pieces.h"
 
 namespace lw {
 
-std::string readFormInfo(const std::string& sectionName, const std::string& key) {
+std::string readFormInfo(const std::string& sectionName, const std::string& key,
+                         const std::string& formsInfFile) {
     std::string section = sectionName;
     if (sectionName != "SS_ITIN") {
         std::size_t underscore = sectionName.find('_');
         section = underscore == std::string::npos ? sectionName : sectionName.substr(underscore + 1);
         section.erase(std::remove(section.begin(), section.end(), '-'), section.end());
     }
-    return store::readInfValue(section, key, "", program().g.edition.formsInfFile);
+    return store::readInfValue(section, key, "", formsInfFile);
 }
 
 std::optional<int> firstFieldIndex(const std::string& list) {
@@ -36,21 +38,22 @@ void keepNumber(const std::string& text, int& target) {
 }
 }  // namespace
 
-void loadFormInfo() {
-    Globals& g = program().g;
-    const std::string name = g.document.currentForm ? g.document.currentForm->name() : std::string();
-    g.document.catalogue.formTitle = readFormInfo(name, "FormName");
-    g.document.catalogue.recordPrefix = readFormInfo(name, "RecordPrefix");
-    g.document.catalogue.ssnIndex = readFormInfo(name, "SSNIndex");
-    g.document.catalogue.nameAddrIndex = readFormInfo(name, "NameAddrIndex");
-    g.document.catalogue.nameOnlyIndex = readFormInfo(name, "NameOnlyIndex");
-    g.document.catalogue.dobIndex = readFormInfo(name, "DOBIndex");
-    g.document.catalogue.medicareClaimNoIndex = readFormInfo(name, "MedicareClaimNoIndex");
-    g.document.catalogue.medicareNoIndex = readFormInfo(name, "MedicareNoIndex");
-    g.document.catalogue.einIndex = readFormInfo(name, "EINIndex");
-    g.document.catalogue.otherInfo = readFormInfo(name, "OtherInfo");
-    keepNumber(readFormInfo(name, "FocusOnStartup"), g.document.catalogue.focusOnStartup);
-    keepNumber(readFormInfo(name, "FocusAfterTPButton"), g.document.catalogue.focusAfterTaxpayerButton);
+void loadFormInfo(OpenDocument& document, const std::string& formsInfFile) {
+    const std::string name = document.currentForm ? document.currentForm->name() : std::string();
+    CatalogueValues& values = document.catalogue;
+    auto read = [&](const char* key) { return readFormInfo(name, key, formsInfFile); };
+    values.formTitle = read("FormName");
+    values.recordPrefix = read("RecordPrefix");
+    values.ssnIndex = read("SSNIndex");
+    values.nameAddrIndex = read("NameAddrIndex");
+    values.nameOnlyIndex = read("NameOnlyIndex");
+    values.dobIndex = read("DOBIndex");
+    values.medicareClaimNoIndex = read("MedicareClaimNoIndex");
+    values.medicareNoIndex = read("MedicareNoIndex");
+    values.einIndex = read("EINIndex");
+    values.otherInfo = read("OtherInfo");
+    keepNumber(read("FocusOnStartup"), values.focusOnStartup);
+    keepNumber(read("FocusAfterTPButton"), values.focusAfterTaxpayerButton);
 }
 
 }  // namespace lw

@@ -10,10 +10,14 @@
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/open_document.h"
+#include "model/ports.h"
+#include "model/user_choices.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "shell/tax_year.h"
 #include "text/case.h"
 #include "text/number.h"
@@ -21,8 +25,6 @@
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 // Where the operator reads up on Medicare; the status frame's caption names it.
 const char* const kMedicareAgencyAddress = "www.cms.gov";
@@ -49,8 +51,8 @@ int chosenOf(const std::array<Control*, 3>& options) {
 
 }  // namespace
 
-void configureFormCommonInit(Form& form) {
-    loadRates();
+void configureFormCommonInit(Form& form, const std::string& ssmcInfFile, Rates& rates) {
+    loadRates(form, ssmcInfFile, rates);
     const std::string changePoint = form.at("txtMCChgRateAfter").text;
     Control& upTo = form.at("lblMC", 0);
     Control& over = form.at("lblMC", 2);
@@ -81,20 +83,20 @@ void ConfigureForm::onLoad() {
 void ConfigureForm::loadForm() {
     switch (chosenOf(optStatus)) {
         case 0:
-            g().rates.filingStatus = FilingStatus::Single;
+            parts().rates.filingStatus = FilingStatus::Single;
             break;
         case 1:
-            g().rates.filingStatus = FilingStatus::MarriedSeparately;
+            parts().rates.filingStatus = FilingStatus::MarriedSeparately;
             break;
         case 2:
-            g().rates.filingStatus = FilingStatus::MarriedJointly;
+            parts().rates.filingStatus = FilingStatus::MarriedJointly;
             break;
         default:
             break;
     }
     Frame1.height = lblNote.height;
 
-    const std::string& extension = g().edition.fileExtension;
+    const std::string& extension = parts().edition.fileExtension;
     fileNameFormats = {
         "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>" + extension, "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>" + extension,
         "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>" + extension, "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>" + extension};
@@ -112,7 +114,7 @@ void ConfigureForm::loadForm() {
         "All forms created will be for the year shown here. NOTE: If [Change Tax Yr] button is\r\n"
         "pressed on a different form, (e.g. the W2), change will apply to ALL forms, including this form.";
 
-    TaxYear1.caption = lastTwo(setUpTaxYears());
+    TaxYear1.caption = lastTwo(setUpTaxYears(parts()));
 
     initCatalogueForm(*this);
 
@@ -131,7 +133,7 @@ void ConfigureForm::loadForm() {
 }
 
 void ConfigureForm::fillPrinters() {
-    const std::vector<std::string> machine = program().platform.printers();
+    const std::vector<std::string> machine = parts().platform.printers();
     cbxPrinters.items.clear();
     for (const std::string& printer : machine)
         if (std::find(cbxPrinters.items.begin(), cbxPrinters.items.end(), printer) == cbxPrinters.items.end())
@@ -144,11 +146,11 @@ void ConfigureForm::fillPrinters() {
         cbxPrinters.select(0, static_cast<int>(cbxPrinters.text.size()));
         if (moved) onPrinterChosen();
     };
-    const std::string remembered = readUserInf("Printer");
+    const std::string remembered = readUserInf(parts(), "Printer");
     if (remembered.empty()) {
         // With no printer on the machine there is nothing to remember.
         if (cbxPrinters.items.empty()) return;
-        writeUserInf("Printer", cbxPrinters.items.front());
+        writeUserInf(parts(), "Printer", cbxPrinters.items.front());
         select(0);
         return;
     }
@@ -157,7 +159,7 @@ void ConfigureForm::fillPrinters() {
 }
 
 void ConfigureForm::chooseFileNameFormat() {
-    const std::string remembered = readUserInf("FileNameFmt");
+    const std::string remembered = readUserInf(parts(), "FileNameFmt");
     if (remembered.empty()) {
         switchOn(*optFileName[0]);
         return;
@@ -193,15 +195,15 @@ void ConfigureForm::onClick(Control& control, MouseButton) {
 
 void ConfigureForm::onPrinterChosen() {
     runGuarded("F1_Configure:cbxPrinters_Click", [this] {
-        g().choices.printerName = cbxPrinters.text;
-        writeUserInf("Printer", cbxPrinters.text);
+        parts().choices.printerName = cbxPrinters.text;
+        writeUserInf(parts(), "Printer", cbxPrinters.text);
     });
 }
 
 void ConfigureForm::onFileNameOption(int fieldIndex) {
     runGuarded("F1_Configure:optFileName_Click", [this, fieldIndex] {
-        writeUserInf("FileNameFmt", std::to_string(fieldIndex));
-        g().choices.fileNameFormat = fileNameFormats.at(static_cast<std::size_t>(fieldIndex));
+        writeUserInf(parts(), "FileNameFmt", std::to_string(fieldIndex));
+        parts().choices.fileNameFormat = fileNameFormats.at(static_cast<std::size_t>(fieldIndex));
     });
 }
 
@@ -216,7 +218,7 @@ void ConfigureForm::onStatusOption(int) {
         const int chosen = chosenOf(optStatus);
         if (chosen < 0) return;
         const auto& row = byOption[chosen];
-        g().rates.filingStatus = row.status;
+        parts().rates.filingStatus = row.status;
         Frame4.caption = text::replaceAll(
             std::string("Medicare Info --- Goto ") + kMedicareAgencyAddress + " --- Filing Status: <STATUS>",
             "<STATUS>", filingStatusWord(row.status));
@@ -248,12 +250,12 @@ void ConfigureForm::onValidate(Control& control, bool& cancel) {
         cancel = true;
     }
     // A W-2 uses the figure at once, good or not, before and without any Save.
-    g().rates.set(figureItemOf(control), control.text);
+    parts().rates.set(figureItemOf(control), control.text);
 }
 
 void ConfigureForm::onUnload(bool&) {
     runGuarded("F1_Configure:Form_Unload", [this] {
-        if (g().rates.filingStatus != FilingStatus::NotChosen) return;
+        if (parts().rates.filingStatus != FilingStatus::NotChosen) return;
         const MessageBoxRequest ask{
             name(),
             "Filing Status not chosen - Choose Now",
@@ -263,14 +265,20 @@ void ConfigureForm::onUnload(bool&) {
         static const FilingStatus statuses[] = {FilingStatus::NotChosen, FilingStatus::MarriedSeparately,
                                                 FilingStatus::SingleOnClosing, FilingStatus::MarriedJointly,
                                                 FilingStatus::NotChosen};
-        g().rates.filingStatus = statuses[static_cast<int>(showMessageBox(ask).button)];
-        program().ui.quit();
+        parts().rates.filingStatus = statuses[static_cast<int>(showMessageBox(parts().desktop, ask).button)];
+        parts().ui.quit();
     });
 }
 
-void ConfigureForm::commonInitStep() { configureFormCommonInit(*this); }
+void ConfigureForm::commonInitStep() {
+    configureFormCommonInit(*this, parts().edition.ssmcInfFile, parts().rates);
+}
 
-void ConfigureForm::afterYearChange() { loadRates(); }
+// The figures are read into the document's current form, the one the change of year works on.
+void ConfigureForm::afterYearChange() {
+    if (Form* current = parts().document.currentForm)
+        loadRates(*current, parts().edition.ssmcInfFile, parts().rates);
+}
 
 void ConfigureForm::giveOwnLook() { lblPrinter.opaque = true; }
 
@@ -279,7 +287,7 @@ bool ConfigureForm::keepsTheScreen() { return !validateAllRates(*this); }
 Control& ConfigureForm::focusOnOpening(int) { return cbxPrinters; }
 
 void ConfigureForm::saveCommand() {
-    storeRates();
+    storeRates(*this, parts().edition.ssmcInfFile, parts().rates);
     changed = false;
 }
 
@@ -292,7 +300,7 @@ void ConfigureForm::clearCommand(bool fromMenu) {
     if (fromMenu) setFocus(txtSSRate);
 }
 
-void ConfigureForm::beforeProgramEnds() { offerToSaveChangedRates(); }
+void ConfigureForm::beforeProgramEnds() { offerToSaveChangedRates(*this, parts()); }
 
 bool ConfigureForm::cutToDocument() {
     height = Frame6.top + Frame6.height;

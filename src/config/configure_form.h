@@ -95,9 +95,10 @@ private:
     void switchOn(Control& option);
 };
 
-// The configuration form's own step of the common set-up: its figures are filled, and the change point
-// is written into the two Medicare captions in place of their markers.
-void configureFormCommonInit(Form& form);
+// The configuration form's own step of the common set-up: its figures are read from the rates file into
+// it and into rates, and the change point is written into the two Medicare captions in place of their
+// markers.
+void configureFormCommonInit(Form& form, const std::string& ssmcInfFile, Rates& rates);
 
 // Makes the configuration form known by name.
 void registerConfigureForm();

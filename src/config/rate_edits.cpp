@@ -4,8 +4,6 @@
 #include "config/classic_number.h"
 #include "config/rates.h"
 #include "diagnostics/error_tail.h"
-#include "model/app_error.h"
-#include "model/program.h"
 #include "text/case.h"
 #include "text/like.h"
 #include "text/masks.h"
@@ -98,8 +96,6 @@ bool validateAllRates(Form& configureForm) {
     return true;
 }
 
-bool validateAllRates() { return validateAllRates(configureFormInUse()); }
-
 bool ratesInForce(const Rates& rates) {
     struct Figure {
         const char* field;
@@ -122,13 +118,6 @@ bool ratesInForce(const Rates& rates) {
         if (!figure.edit(standIn)) return false;
     }
     return true;
-}
-
-Form& configureFormInUse() {
-    if (Form* loaded = program().desktop.findForm("F1_Configure")) return *loaded;
-    Form* current = program().g.document.currentForm;
-    if (!current) throw AppError(err::kObjectRequired, "Object required: F1_Configure");
-    return *current;
 }
 
 }  // namespace lw

@@ -6,7 +6,11 @@
 #include "diagnostics/error_tail.h"
 #include "diagnostics/message_box.h"
 #include "diagnostics/version.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/ports.h"
+#include "model/process_state.h"
+#include "model/program_parts.h"
+#include "model/tax_year_choice.h"
 #include "store/inf_store.h"
 #include "text/pieces.h"
 
@@ -14,15 +18,13 @@ namespace lw {
 
 namespace {
 
-Globals& g() { return program().g; }
-
 // The year as the form shows it, "2025" or "20XX": the section of SSMC.inf.
 std::string formYear(const Form& form) {
     return form.at("TaxYear", 0).caption + form.at("TaxYear", 1).caption;
 }
 
-std::string readRate(const std::string& year, const char* key) {
-    return store::readInfValue(year, key, "", g().edition.ssmcInfFile);
+std::string readRate(const std::string& year, const char* key, const std::string& ssmcFile) {
+    return store::readInfValue(year, key, "", ssmcFile);
 }
 
 // The change point of the year is kept by filing status; a status clicked on the form ("SGL") falls to
@@ -64,12 +66,10 @@ Rates readYearRates(const std::string& year, const std::string& ssmcFile, Filing
     return rates;
 }
 
-void loadRates() {
-    runGuarded("M3_Ledgerwick:SS_MC_Load", [] {
-        Form& form = *g().document.currentForm;
+void loadRates(Form& form, const std::string& ssmcFile, Rates& rates) {
+    runGuarded("M3_Ledgerwick:SS_MC_Load", [&] {
         const std::string year = formYear(form);
-        g().rates = readYearRates(year, g().edition.ssmcInfFile, g().rates.filingStatus);
-        const Rates& rates = g().rates;
+        rates = readYearRates(year, ssmcFile, rates.filingStatus);
 
         form.at("Frame3").caption = text::replaceAll("Social Security Withholding ????", "????", year);
         form.at("Frame4").caption =
@@ -89,14 +89,13 @@ void loadRates() {
     });
 }
 
-void storeRates() {
-    runGuarded("M3_Ledgerwick:SS_MC_Save", [] {
-        Form& form = configureFormInUse();
+void storeRates(Form& form, const std::string& ssmcFile, Rates& rates) {
+    runGuarded("M3_Ledgerwick:SS_MC_Save", [&] {
         const std::string year = formYear(form);
         if (!validateAllRates(form)) return;
         auto write = [&](const char* key, const std::string& value, RateItem item) {
-            store::writeInfValue(year, key, value, g().edition.ssmcInfFile);
-            g().rates.set(item, value);
+            store::writeInfValue(year, key, value, ssmcFile);
+            rates.set(item, value);
         };
         write("SSRate", form.at("txtSSRate").text, RateItem::SocialSecurityRate);
         write("SSMax", config::formatClassic(form.at("txtSSMax").text, "#######"),
@@ -114,10 +113,10 @@ std::string rateChangeRow(const std::string& rateItem, const std::string& origin
     return padRight(rateItem, 22) + padLeft(original, 9) + padLeft(currentValue, 9) + "\r\n";
 }
 
-void offerToSaveChangedRates() {
-    runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [] {
-        Form& form = configureFormInUse();
-        const std::string year = g().taxYear.text();
+void offerToSaveChangedRates(Form& form, const ProgramParts& parts) {
+    runGuarded("M3_Ledgerwick:SS_MC_Check_Changes", [&] {
+        const std::string year = parts.taxYear.text();
+        const std::string& ssmcFile = parts.edition.ssmcInfFile;
         struct rateItem {
             const char* caption;
             const char* key;
@@ -135,7 +134,7 @@ void offerToSaveChangedRates() {
         std::array<std::string, 6> stored;
         bool changed = false;
         for (std::size_t i = 0; i < items.size(); ++i) {
-            stored[i] = readRate(year, items[i].key);
+            stored[i] = readRate(year, items[i].key, ssmcFile);
             if (stored[i] != items[i].current) changed = true;
         }
         if (changed) {
@@ -147,9 +146,10 @@ void offerToSaveChangedRates() {
                 "One or more values below have changed.\r\n" + table + "DO YOU WANT TO SAVE THE CHANGES?";
             const MessageBoxRequest ask{
                 "M3_Ledgerwick:SS_MC_Check_Changes", message, kNoMessageNumber, {"Yes", "No"}};
-            if (showMessageBox(ask).button == MessageBoxButton::First) storeRates();
+            if (showMessageBox(parts.desktop, ask).button == MessageBoxButton::First)
+                storeRates(form, ssmcFile, parts.rates);
         }
-        if (g().process.quitting) program().ui.quit();
+        if (parts.process.quitting) parts.ui.quit();
     });
 }
 

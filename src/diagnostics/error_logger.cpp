@@ -69,7 +69,7 @@ void logError(const std::string& proc, int errNo, const std::string& errDesc) {
             const std::string message = "Procedure Name:        " + proc + "\r" +
                                         "Error Number:          " + std::to_string(errNo) + "\r" +
                                         "Error Description:     " + errDesc + "\r";
-            showMessageBox({"Data Error", message});
+            showMessageBox(program().desktop, {"Data Error", message});
             return;
         }
         auto form = reportForm(proc, errNo, errDesc);

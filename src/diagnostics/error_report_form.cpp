@@ -152,7 +152,7 @@ void ErrorReportForm::onClip() {
         MessageBoxRequest tell{"Provide Description",
                                "Please describe what you were doing just before the error."};
         tell.icon = MessageBoxIcon::Exclamation;
-        showMessageBox(tell);
+        showMessageBox(program().desktop, tell);
         setFocus(Text1);
         return;
     }

@@ -6,7 +6,7 @@
 #include "diagnostics/error_tail.h"
 #include "diagnostics/observers.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/desktop.h"
 #include "text/case.h"
 
 namespace lw {
@@ -258,14 +258,13 @@ MessageBoxRecord MessageBoxForm::record() const {
     return r;
 }
 
-MessageBoxAnswer showMessageBox(const MessageBoxRequest& request) {
+MessageBoxAnswer showMessageBox(Desktop& desktop, const MessageBoxRequest& request) {
     MessageBoxRequest shown = request;
     if (shown.number != kNoMessageNumber)
         shown.message = "Message Number: " + std::to_string(shown.number) + "\r\n" + shown.message;
     // A box that cannot be shown answers with no button, and its input line with what it held.
     MessageBoxAnswer answer{MessageBoxButton::None, shown.text};
     runGuarded(kCallLabel, [&] {
-        Desktop& desktop = program().desktop;
         auto owned = std::make_unique<MessageBoxForm>(shown);
         owned->caption = shown.title;
         const std::shared_ptr<const MessageBoxAnswer> given = owned->answer();

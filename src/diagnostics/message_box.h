@@ -72,9 +72,9 @@ void removeMessageBoxObserver(int id);
 // Forgets the last record (the observers stay): a fresh program starts with no answer.
 void resetMessageBoxes();
 
-// Shows the box modally and tells which button closed it. A number other than kNoMessageNumber puts
-// "Message Number: <n>" on top of the message.
-MessageBoxAnswer showMessageBox(const MessageBoxRequest& request);
+// Shows the box modally on the desktop and tells which button closed it. A number other than
+// kNoMessageNumber puts "Message Number: <n>" on top of the message.
+MessageBoxAnswer showMessageBox(Desktop& desktop, const MessageBoxRequest& request);
 
 // Breaks a trimmed line of more than 50 characters once, at its last blank within the first 50, dropping
 // the blank; shorter lines come back unchanged. A long line with no such blank raises error 5, as the

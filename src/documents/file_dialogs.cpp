@@ -3,9 +3,11 @@
 #include "documents/file_dialogs.h"
 
 #include "diagnostics/error_tail.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/ports.h"
+#include "model/program_parts.h"
+#include "model/user_choices.h"
 #include "shell/paths.h"
-#include "shell/startup.h"
 #include "store/inf_store.h"
 
 namespace lw {
@@ -41,44 +43,43 @@ const char* rememberedFolderKey(FileDialogMode mode) {
 
 }  // namespace
 
-std::optional<std::string> chooseFileToOpenOrSave(FileDialogMode mode, const std::string& fileName) {
+std::optional<std::string> chooseFileToOpenOrSave(const ProgramParts& parts, FileDialogMode mode,
+                                                  const std::string& fileName) {
     return runGuardedOr<std::optional<std::string>>(
         kLabel, std::string(), [&]() -> std::optional<std::string> {
-            Globals& g = program().g;
+            const EditionSettings& edition = parts.edition;
+            const UserInfSection userInf = userInfSectionOf(edition, parts.process);
             const bool save = mode == FileDialogMode::Save;
             const std::string key = rememberedFolderKey(mode);
-            std::string startFolder = readUserInf(key);
+            std::string startFolder = userInf.read(key);
             if (startFolder.empty())
-                startFolder = store::readInfValue("TaxForms", "Folder", "", g.edition.userInfFile);
+                startFolder = store::readInfValue("TaxForms", "Folder", "", userInf.file);
 
             FileDialogRequest request;
             request.save = save;
             request.title = save ? kSaveTitle : kOpenTitle;
             request.startFolder = startFolder;
             if (save) request.proposedName = beforeNul(fileName).substr(0, kOfferedName);
-            putFilter(g.edition.fileFilter, request);
+            putFilter(edition.fileFilter, request);
 
-            std::optional<std::string> answer = program().ui.fileDialog(request);
+            std::optional<std::string> answer = parts.ui.fileDialog(request);
             if (!answer) return std::nullopt;
             const std::string path = beforeNul(*answer);
             const std::string folder = folderOf(path);
             if (folder != startFolder) {
-                writeUserInf(key, folder);
-                (save ? g.choices.lastSaveFolder : g.choices.lastOpenFolder) = folder;
+                userInf.write(key, folder);
+                (save ? parts.choices.lastSaveFolder : parts.choices.lastOpenFolder) = folder;
             }
             return path;
         });
 }
 
-void verifyRememberedFolder(FileDialogMode mode) {
+void verifyRememberedFolder(FileDialogMode mode, const UserInfSection& userInf) {
     runGuarded("M3_Ledgerwick:Verify_INF_Entry", [&] {
         const std::string key = rememberedFolderKey(mode);
-        const Globals& g = program().g;
-        const std::string folder =
-            store::readInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        const std::string folder = userInf.read(key);
         // A folder that has gone would send the dialog astray.
-        if (!folderExists(folder))
-            store::writeInfValue(g.process.userNameUpper, key, "", g.edition.userInfFile);
+        if (!folderExists(folder)) userInf.write(key, "");
     });
 }
 

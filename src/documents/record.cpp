@@ -3,12 +3,14 @@
 
 #include <vector>
 
+#include "catalogue/catalogue_table.h"
 #include "diagnostics/error_tail.h"
 #include "documents/file_dialogs.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/open_document.h"
+#include "model/ports.h"
+#include "model/program_parts.h"
 #include "shell/catalogue_form.h"
-#include "shell/form_lifecycle.h"
 #include "store/record_line.h"
 #include "text/case.h"
 #include "text/cp1252.h"
@@ -21,8 +23,6 @@ constexpr const char* kBuildLabel = "M4_FileCode:Build_Record";
 constexpr const char* kOpenLabel = "M4_FileCode:Open_File";
 // What a cancelled open leaves as the file name: the dialog's cancel mark.
 const std::string kCancelMark(1, text::kFieldSeparator);
-
-Globals& g() { return program().g; }
 
 bool isCheckLabel(const Control& c) {
     return (c.kind == ControlKind::CheckLabel || c.kind == ControlKind::Label) &&
@@ -49,35 +49,36 @@ std::vector<store::RecordField> filledControls(const Form& form) {
 }
 
 // The form just read has its say once the Open command is done with it.
-void afterFileOpened() {
-    auto* form = dynamic_cast<CatalogueForm*>(g().document.currentForm);
+void afterFileOpened(const OpenDocument& document) {
+    auto* form = dynamic_cast<CatalogueForm*>(document.currentForm);
     if (form && form->isLoaded()) form->afterFileOpened();
 }
 
 }  // namespace
 
-std::optional<std::string> buildRecord() {
+std::optional<std::string> buildRecord(Form* form, const OpenDocument& document) {
     std::optional<std::string> line;
     runGuarded(kBuildLabel, [&] {
-        Form* form = g().document.currentForm;
         if (!form) throw AppError(err::kObjectRequired, "Object required");
         std::string year;
-        if (formHasTaxYear()) year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
+        if (formKeyHasTaxYear(document.formKey))
+            year = form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
         if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->checkBeforeRecord();
         std::vector<store::RecordField> fields = filledControls(*form);
         if (auto* pictures = dynamic_cast<ChosenPictures*>(form)) {
             fields.push_back({"PIC1", std::to_string(pictures->chosenPicture(1))});
             fields.push_back({"PIC2", std::to_string(pictures->chosenPicture(2))});
         }
-        line = store::buildRecordLine(g().document.catalogue.recordPrefix, year, fields);
+        line = store::buildRecordLine(document.catalogue.recordPrefix, year, fields);
     });
     return line;
 }
 
-void openDataFile() {
-    runGuarded(kOpenLabel, [] {
+void openDataFile(const ProgramParts& parts) {
+    runGuarded(kOpenLabel, [&] {
+        OpenDocument& document = parts.document;
         try {
-            if (Form* current = g().document.currentForm; current && current->isLoaded() && current->isChild)
+            if (Form* current = document.currentForm; current && current->isLoaded() && current->isChild)
                 current->unload();
         } catch (const ProgramEnded&) {
             throw;
@@ -85,14 +86,14 @@ void openDataFile() {
             // The form on the screen goes whatever its unloading says.
         }
         // A remembered folder that has gone would send the dialog astray.
-        verifyRememberedFolder(FileDialogMode::Open);
-        const std::optional<std::string> chosen = chooseFileToOpenOrSave(FileDialogMode::Open, "");
+        verifyRememberedFolder(FileDialogMode::Open, userInfSectionOf(parts.edition, parts.process));
+        const std::optional<std::string> chosen = chooseFileToOpenOrSave(parts, FileDialogMode::Open, "");
         // The mark stands as the file name until the next open or save chooses one.
-        g().document.currentFileName = chosen.value_or(kCancelMark);
+        document.currentFileName = chosen.value_or(kCancelMark);
         if (!chosen) return;
-        readDataFile();
-        afterFileOpened();
-        program().ui.refresh();
+        readDataFile(*chosen, parts);
+        afterFileOpened(document);
+        parts.ui.refresh();
     });
 }
 

@@ -7,15 +7,19 @@
 namespace lw {
 
 class Form;
+struct OpenDocument;
+struct ProgramParts;
 
-// The line for CurrentForm, without its line end; nothing when the form makes none, as cards that do
-// not pair up (the operator has been told why).
-std::optional<std::string> buildRecord();
-// Reads CurrentFileName into the form its first field names; returns that form, or nullptr when nothing
-// was opened.
-Form* readDataFile();
+// The line for the form of the document, without its line end; nothing when the form makes none, as
+// cards that do not pair up (the operator has been told why), or when there is no form. The document
+// gives the form's key and record prefix.
+std::optional<std::string> buildRecord(Form* form, const OpenDocument& document);
+// Reads the file at path into the form its first field names, which becomes the document's form;
+// returns that form, or nullptr when nothing was opened. The path is a copy: a caller may hand the
+// document's own file name, which the forms opened on the way may change.
+Form* readDataFile(std::string path, const ProgramParts& parts);
 // The Open command: unloads the form on the screen, asks for a file, reads it.
-void openDataFile();
+void openDataFile(const ProgramParts& parts);
 // Passes every DATE and DATEX field of CurrentForm through the date edit, in control order; the
 // first that fails ends the pass.
 void recheckDates();

@@ -7,7 +7,10 @@
 #include "documents/record.h"
 #include "fields/edit_date.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/desktop.h"
+#include "model/edition_settings.h"
+#include "model/open_document.h"
+#include "model/program_parts.h"
 #include "shell/catalogue_form.h"
 #include "shell/form_lifecycle.h"
 #include "shell/paths.h"
@@ -27,8 +30,6 @@ constexpr int kNoSuchForm = 851;
 constexpr int kFileAccessError = 75;
 // A data file is one line of a few kilobytes; anything this large is something else.
 constexpr std::uintmax_t kLargestRecordFile = 1024 * 1024;
-
-Globals& g() { return program().g; }
 
 [[noreturn]] void refuse(const std::string& path, const std::string& why) {
     throw AppError(kNotARecord, "The file " + path + " is not a form file: " + why + " Nothing was opened.",
@@ -71,16 +72,16 @@ void rewriteRecordFile(const std::string& path, const std::string& line) {
         throw AppError(kFileAccessError, "Path/File access error: " + error, kReadLabel);
 }
 
-void unloadEveryFormButTheFrame() {
-    Desktop& desktop = program().desktop;
+void unloadEveryFormButTheFrame(Desktop& desktop) {
     for (Form* open : desktop.forms()) {
         if (open != desktop.frame() && open->isLoaded()) desktop.unload(*open);
     }
 }
 
-Form& openFormOf(const std::string& field0, const std::string& path) {
-    const std::string formName = readFormInfo(store::catalogueKeyOf(field0), "FormName");
-    unloadEveryFormButTheFrame();
+Form& openFormOf(const std::string& field0, const std::string& path, const ProgramParts& parts) {
+    const std::string formName =
+        readFormInfo(store::catalogueKeyOf(field0), "FormName", parts.edition.formsInfFile);
+    unloadEveryFormButTheFrame(parts.desktop);
     if (formName.empty())
         throw AppError(kNoSuchForm,
                        "The file " + path + " is for \"" + field0 + "\", a form this program does not know.",
@@ -89,7 +90,7 @@ Form& openFormOf(const std::string& field0, const std::string& path) {
     if (!form)
         throw AppError(kNoSuchForm, "The form " + formName + " of the file " + path + " cannot be opened.",
                        kReadLabel);
-    g().document.currentForm = form;
+    parts.document.currentForm = form;
     return *form;
 }
 
@@ -102,14 +103,15 @@ int portraitNamedBy(const std::string& value) {
     return 0;
 }
 
-void showPicture(Form& form, const char* pictureBox, int which, const std::string& value) {
+void showPicture(Form& form, const char* pictureBox, int which, const std::string& value,
+                 const std::string& picturesFolder) {
     const int number = portraitNamedBy(value);
-    form.at(pictureBox).picture =
-        number > 0 ? portraitFile(g().edition.picturesFolder, number) : std::string();
+    form.at(pictureBox).picture = number > 0 ? portraitFile(picturesFolder, number) : std::string();
     if (auto* pictures = dynamic_cast<ChosenPictures*>(&form)) pictures->chosenPicture(which) = number;
 }
 
-void setField(Form& form, const std::string& field0, const store::RecordField& field) {
+void setField(Form& form, const std::string& field0, const store::RecordField& field,
+              const std::string& picturesFolder) {
     const std::optional<int> index = store::recordKeyIndex(field.key);
     if (!index) return;
     if (auto* rules = dynamic_cast<CatalogueForm*>(&form);
@@ -124,10 +126,10 @@ void setField(Form& form, const std::string& field0, const store::RecordField& f
             form.at("Check", *index).caption = field.value;
             break;
         case store::RecordTarget::Picture1:
-            showPicture(form, "Picture2", 1, field.value);
+            showPicture(form, "Picture2", 1, field.value, picturesFolder);
             break;
         case store::RecordTarget::Picture2:
-            showPicture(form, "Picture4", 2, field.value);
+            showPicture(form, "Picture4", 2, field.value, picturesFolder);
             break;
         case store::RecordTarget::Other:
             break;
@@ -136,13 +138,14 @@ void setField(Form& form, const std::string& field0, const store::RecordField& f
 
 // One key field of the line. A field without "=" is a fault for the caller; any fault of the field's
 // own value is ignored and loses that field only.
-void readField(Form& form, const std::string& field0, const std::string& text) {
+void readField(Form& form, const std::string& field0, const std::string& text,
+               const std::string& picturesFolder) {
     std::optional<store::RecordField> field = store::parseRecordField(text);
     if (!field)
         throw AppError(err::kSubscriptOutOfRange, "Subscript out of range: the field \"" +
                                                       text.substr(0, 40) + "\" of the file has no \"=\"");
     try {
-        setField(form, field0, *field);
+        setField(form, field0, *field, picturesFolder);
     } catch (const ProgramEnded&) {
         throw;
     } catch (...) {
@@ -154,12 +157,12 @@ void readField(Form& form, const std::string& field0, const std::string& text) {
 // An opened file's dates go through the same walk as after a change of year.
 void recheckDates() { recheckYearDates(); }
 
-Form* readDataFile() {
+Form* readDataFile(std::string path, const ProgramParts& parts) {
     Form* form = nullptr;
     std::vector<std::string> fields;
+    const std::string& picturesFolder = parts.edition.picturesFolder;
     // Up to the first key field, a fault is this procedure's own: it is reported here and the read ends.
     runGuarded(kReadLabel, [&] {
-        const std::string path = g().document.currentFileName;
         if (path.empty()) return;
         std::string line = store::withCheckKeys(readRecordLine(path));
         for (int pass = 0; pass < 2; ++pass) {
@@ -170,27 +173,27 @@ Form* readDataFile() {
             line = store::withCheckKeys(readRecordLine(path));
         }
         fields = store::splitRecordLine(line);
-        Form& opened = openFormOf(fields[0], path);
+        Form& opened = openFormOf(fields[0], path, parts);
         // The placed form's first field takes the focus and its tip now, so that the path written
         // next is what the operator reads.
-        program().desktop.settleFocus();
+        parts.desktop.settleFocus();
         if (Control* status = opened.find("labelMisc")) {
             status->foreColor = kRed;
             status->caption = path;
         }
         if (auto* rules = dynamic_cast<CatalogueForm*>(&opened)) rules->beforeFileRead();
-        if (fields.size() > 2) readField(opened, fields[0], fields[2]);
+        if (fields.size() > 2) readField(opened, fields[0], fields[2], picturesFolder);
         form = &opened;
     });
     if (!form) return nullptr;
     // From the second key field on, a fault reaches the caller's handler.
-    for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i]);
+    for (std::size_t i = 3; i < fields.size(); ++i) readField(*form, fields[0], fields[i], picturesFolder);
     recheckDates();
     // The recheck's date edits clear the status line as they pass: unless one of them refused its date
     // and said so there, the operator reads the path of the file just opened.
     if (Control* status = form->find("labelMisc"); status && status->caption.empty()) {
         status->foreColor = kRed;
-        status->caption = g().document.currentFileName;
+        status->caption = parts.document.currentFileName;
     }
     if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->afterFileRead();
     return form;

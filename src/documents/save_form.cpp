@@ -8,7 +8,9 @@
 #include "diagnostics/message_box.h"
 #include "documents/file_dialogs.h"
 #include "documents/record.h"
-#include "model/program.h"
+#include "model/desktop.h"
+#include "model/open_document.h"
+#include "model/ports.h"
 #include "shell/paths.h"
 #include "store/atomic_file.h"
 #include "store/disk.h"
@@ -30,8 +32,6 @@ constexpr int kExtensionWidth = 2280;
 const char* const kLineEnd = "\r\n";
 const char* const kSaveLabel = "F7_Save:cmdSave_Click";
 const char* const kSequenceLabel = "F7_Save:cmdNewSequence_Click";
-
-Globals& g() { return program().g; }
 
 // A name with no extension takes no point, so that the path rebuilt from the parts is the path given.
 std::string fileNameOf(const std::string& baseName, const std::string& extension) {
@@ -57,26 +57,30 @@ int lineCount(const std::string& text) {
     return lines;
 }
 
-void tell(const std::string& source, const std::string& message) { showMessageBox({source, message}); }
+void tell(Desktop& desktop, const std::string& source, const std::string& message) {
+    showMessageBox(desktop, {source, message});
+}
 
 }  // namespace
 
-bool writeRecord(const std::string& filePath, const std::string& recordLine, const std::string& sourceLabel) {
+bool writeRecord(const std::string& filePath, const std::string& recordLine, const std::string& sourceLabel,
+                 const UserInfSection& userInf, Desktop& desktop) {
     std::string error;
     if (store::writeFileAtomically(filePath, recordLine + kLineEnd, error)) return true;
     const std::string folder = folderOf(filePath);
     // Each line starts with a short word, so that the box can break a long path after it.
     if (!folderExists(folder) || !canWriteInto(folder)) {
         // The remembered folder may be the one that is gone: the next dialog must not start there.
-        verifyRememberedFolder(FileDialogMode::Save);
-        tell(sourceLabel,
+        verifyRememberedFolder(FileDialogMode::Save, userInf);
+        tell(desktop, sourceLabel,
              std::string("The file was NOT saved.") + kLineEnd + "Folder: " + folder + kLineEnd +
                  "This folder does not exist or cannot be written. Choose another folder and save "
                  "again.");
         return false;
     }
-    tell(sourceLabel, std::string("The file was NOT saved; a file of that name is unchanged.") + kLineEnd +
-                          "File: " + filePath + kLineEnd + "Reason: " + error);
+    tell(desktop, sourceLabel,
+         std::string("The file was NOT saved; a file of that name is unchanged.") + kLineEnd +
+             "File: " + filePath + kLineEnd + "Reason: " + error);
     return false;
 }
 
@@ -92,7 +96,7 @@ std::string saveFormCurrentText(const std::string& folder, const std::string& ba
                             folder);
 }
 
-SaveForm::SaveForm()
+SaveForm::SaveForm(const ProgramParts& parts)
     : Form("F7_Save"),
       Label1(add(ControlKind::Label, "Label1")),
       Label3_0(add(ControlKind::Label, "Label3", 0)),
@@ -103,7 +107,8 @@ SaveForm::SaveForm()
       Label2(add(ControlKind::Label, "Label2")),
       cmdSave(add(ControlKind::CommandButton, "cmdSave")),
       cmdNewSequence(add(ControlKind::CommandButton, "cmdNewSequence")),
-      cmdExit(add(ControlKind::CommandButton, "cmdExit")) {
+      cmdExit(add(ControlKind::CommandButton, "cmdExit")),
+      parts_(parts) {
     isChild = false;
     caption = "File Already Exists";
     width = kFormWidth;
@@ -175,7 +180,7 @@ void SaveForm::onLoad() {
             kLineEnd + kLineEnd + "The Ledgerwick can assign a NEW sequence number to the if desired.";
         onText1Change();
 
-        const bool f99 = text::containsNoCase(program().platform.commandLine(), "F99");
+        const bool f99 = text::containsNoCase(parts_.platform.commandLine(), "F99");
         Label2.caption = saveFormCurrentText(saveFolder, saveBaseName, saveExtension, f99);
         Label2.height = lineCount(Label2.caption) * kTextLineHeight;
 
@@ -209,7 +214,7 @@ void SaveForm::onText1Change() {
 void SaveForm::onSave() {
     runGuarded(kSaveLabel, [this] {
         if (Text1.text.empty()) {
-            tell(kSaveLabel, "File Name BLANK - Restoring Original File Name.");
+            tell(parts_.desktop, kSaveLabel, "File Name BLANK - Restoring Original File Name.");
             Text1.text = saveBaseName;
             onText1Change();
             setFocus(Text1);
@@ -220,18 +225,21 @@ void SaveForm::onSave() {
             return;
         }
         // A rename: the record goes under the new name first, so a failed write leaves the old file whole.
-        const std::optional<std::string> record = buildRecord();
+        OpenDocument& document = parts_.document;
+        const std::optional<std::string> record = buildRecord(document.currentForm, document);
         if (!record) return;
-        g().document.formRecord = *record;
-        if (!writeRecord(pathOf(saveFolder, Text1.text, Text2.text), g().document.formRecord, kSaveLabel))
+        document.formRecord = *record;
+        if (!writeRecord(pathOf(saveFolder, Text1.text, Text2.text), document.formRecord, kSaveLabel,
+                         userInf(), parts_.desktop))
             return;
         const std::string old = pathOf(saveFolder, saveBaseName, Text2.text);
         std::error_code ec;
         std::filesystem::remove(old, ec);
         if (ec)
-            tell(kSaveLabel, std::string("The file was saved under its new name, but the old file is still "
-                                         "there.") +
-                                 kLineEnd + "File: " + old + kLineEnd + "Reason: " + ec.message());
+            tell(parts_.desktop, kSaveLabel,
+                 std::string("The file was saved under its new name, but the old file is still "
+                             "there.") +
+                     kLineEnd + "File: " + old + kLineEnd + "Reason: " + ec.message());
         end(SaveOutcome::Done);
     });
 }
@@ -263,14 +271,15 @@ void SaveForm::onNewSequence() {
     runGuarded(kSequenceLabel, [this] {
         const std::string target = nextSequencePath(pathOf(saveFolder, Text1.text, Text2.text));
         if (target.empty()) {
-            tell(kSequenceLabel,
+            tell(parts_.desktop, kSequenceLabel,
                  std::string("No sequence number can be assigned: the File Name must end in _ "
                              "and three digits, as _000.") +
                      kLineEnd + "Nothing was saved.");
             setFocus(Text1);
             return;
         }
-        if (!writeRecord(target, g().document.formRecord, kSequenceLabel)) return;
+        if (!writeRecord(target, parts_.document.formRecord, kSequenceLabel, userInf(), parts_.desktop))
+            return;
         end(SaveOutcome::Done);
     });
 }
@@ -282,9 +291,11 @@ void SaveForm::end(SaveOutcome outcome) {
     unload();
 }
 
-SaveOutcome SaveForm::run(const std::string& path) {
-    Desktop& desktop = program().desktop;
-    auto owned = std::make_unique<SaveForm>();
+UserInfSection SaveForm::userInf() const { return userInfSectionOf(parts_.edition, parts_.process); }
+
+SaveOutcome SaveForm::run(const ProgramParts& parts, const std::string& path) {
+    Desktop& desktop = parts.desktop;
+    auto owned = std::make_unique<SaveForm>(parts);
     owned->savePath = path;
     // A form closed by any other way than its buttons has written nothing.
     const std::shared_ptr<const SaveOutcome> outcome = owned->outcome();

@@ -6,24 +6,30 @@
 #include <string>
 
 #include "model/form.h"
+#include "model/program_parts.h"
 #include "model/save_outcome.h"
 
 namespace lw {
 
+struct UserInfSection;
+
 // Writes the record and its line end to the path, whole or not at all. On failure the file on disk is
 // unchanged, the operator is told why in a box titled with source, and the result is false; a folder that
-// is gone or cannot be written also has its remembered save folder checked.
-bool writeRecord(const std::string& filePath, const std::string& record, const std::string& source);
+// is gone or cannot be written also has its remembered save folder checked in the user's INF section. The
+// box shows on the desktop.
+bool writeRecord(const std::string& filePath, const std::string& record, const std::string& source,
+                 const UserInfSection& userInf, Desktop& desktop);
 
 class SaveForm : public Form {
 public:
     static constexpr int kFormWidth = 9600;
     static constexpr int kMargin = 240;
 
-    SaveForm();
+    // The form works on the document of the program: it builds and writes its record.
+    explicit SaveForm(const ProgramParts& parts);
 
     // Shows the form modally for a path that holds a file, and tells how it ended.
-    static SaveOutcome run(const std::string& path);
+    static SaveOutcome run(const ProgramParts& parts, const std::string& path);
 
     // How the form has ended: Done until a button says otherwise. The caller keeps it, as the form is
     // gone once it is closed.
@@ -63,7 +69,9 @@ public:
 
 private:
     void end(SaveOutcome outcome);
+    UserInfSection userInf() const;
 
+    const ProgramParts& parts_;
     std::shared_ptr<SaveOutcome> outcome_ = std::make_shared<SaveOutcome>(SaveOutcome::Done);
 };
 

@@ -2,15 +2,13 @@
 
 #include "model/app_error.h"
 #include "model/form.h"
-#include "model/program.h"
+#include "model/open_document.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 struct AlignmentRow {
     std::vector<const char*> tags;
@@ -64,24 +62,21 @@ const FieldRules& rulesOfTheFormOf(const Control& ctl) {
 
 }  // namespace
 
-Color legendColor(int index) { return g().edition.legendColors.at(static_cast<std::size_t>(index)); }
-
-void setUpControl(Control& ctl, bool setUp) {
+void setUpControl(Control& ctl, bool setUp, OpenDocument& document, const LegendColors& legend) {
     const std::string name = text::toUpper(ctl.name);
     if (name == "TEXT1" || name == "TEXT2" || name == "TEXT3" || name == "TEXT4" || name == "TEXT5") {
-        g().document.lastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
-        if (g().document.currentForm) {
-            if (Control* status = g().document.currentForm->find("labelMisc"))
-                status->caption = ctl.toolTipText;
+        document.lastFieldKey = ctl.name + ":" + std::to_string(ctl.index);
+        if (document.currentForm) {
+            if (Control* status = document.currentForm->find("labelMisc")) status->caption = ctl.toolTipText;
         }
     }
     if (setUp)
-        setUpAlignment(ctl);
+        setUpAlignment(ctl, legend);
     else
-        setUpBackColor(ctl);
+        setUpBackColor(ctl, legend);
 }
 
-void setUpAlignment(Control& ctl) {
+void setUpAlignment(Control& ctl, const LegendColors& legend) {
     const std::string tag = text::toUpper(ctl.tag);
     const AlignmentRow* match = nullptr;
     for (const AlignmentRow& row : alignmentRows()) {
@@ -98,7 +93,7 @@ void setUpAlignment(Control& ctl) {
             rulesOfTheFormOf(ctl).giveMoneyTip(ctl);
         else if (match->tip)
             ctl.toolTipText = match->tip;
-        if (tag == "COMPUTED") ctl.backColor = legendColor(7);
+        if (tag == "COMPUTED") ctl.backColor = legend.at(7);
         if (tag == "CHECKBOX") ctl.fontBold = true;
         if (tag == "OUT OF SCOPE") {
             ctl.backColor = kOutOfScopeColor;
@@ -109,46 +104,45 @@ void setUpAlignment(Control& ctl) {
     if (text::startsWithNoCase(ctl.tag, "K1")) ctl.alignment = 2;
 }
 
-void setUpBackColor(Control& ctl) {
+void setUpBackColor(Control& ctl, const LegendColors& legend) {
     if (ctl.tag.empty()) {
-        ctl.backColor = legendColor(9);
+        ctl.backColor = legend.at(9);
         return;
     }
     const std::string type = ctl.tag.substr(0, ctl.tag.find(text::kFieldSeparator));
     if (type == "MONEY" || type == "SMONEY" || type == "AMONEY") {
-        ctl.backColor = legendColor(3);
+        ctl.backColor = legend.at(3);
     } else if (type == "-MONEY") {
-        ctl.backColor = legendColor(4);
+        ctl.backColor = legend.at(4);
     } else if (type == "#" || type == "%" || type == "#.#") {
-        ctl.backColor = legendColor(5);
+        ctl.backColor = legend.at(5);
     } else if (type == "TIN") {
-        ctl.backColor = legendColor(1);
+        ctl.backColor = legend.at(1);
     } else if (type == "EIN") {
-        ctl.backColor = legendColor(2);
+        ctl.backColor = legend.at(2);
     } else if (type == "DATE" || type == "DATEX") {
         ctl.maxLength = 10;
-        ctl.backColor = legendColor(6);
+        ctl.backColor = legend.at(6);
     } else if (type == "YEAR") {
         // A year box keeps its colour on focus, unlike every other type.
         ctl.maxLength = 4;
     } else if (type == "COMPUTED") {
-        ctl.backColor = legendColor(7);
+        ctl.backColor = legend.at(7);
     } else if (type == "K1HELP") {
-        ctl.backColor = legendColor(8);
+        ctl.backColor = legend.at(8);
     } else if (type == "OUT OF SCOPE") {
         throw AppError(err::kInvalidProcedureCall,
                        "A field outside the training's scope took the focus: " + ctl.key());
     } else {
-        ctl.backColor = legendColor(9);
+        ctl.backColor = legend.at(9);
     }
     ctl.select(0, 99);
 }
 
-void refocusAfterTaxpayerFill() {
-    Globals& globals = g();
-    Form* form = globals.document.currentForm;
+void refocusAfterTaxpayerFill(const OpenDocument& document) {
+    Form* form = document.currentForm;
     if (!form) return;
-    const std::string key = globals.document.lastFieldKey;
+    const std::string key = document.lastFieldKey;
     const std::size_t colon = key.find(':');
     const std::string name = colon == std::string::npos ? key : key.substr(0, colon);
     const int i = colon == std::string::npos ? 0 : std::stoi(key.substr(colon + 1));

@@ -3,20 +3,26 @@
 // focus colour and selection each time it takes the focus. The field's Tag decides, and its form's
 // FieldRules where the type leaves a choice.
 
+#include <array>
+
 #include "model/control.h"
 
 namespace lw {
 
-// setUp true: the one-time set-up of resetFormLook; false: the field has just taken the focus.
-void setUpControl(Control& ctl, bool setUp);
-void setUpAlignment(Control& ctl);
-void setUpBackColor(Control& ctl);
+struct OpenDocument;
 
-// Hands the focus back to the field named by LastFieldKey after the taxpayer fill.
-void refocusAfterTaxpayerFill();
+// The colours of the edition's legend, by index: each type of field takes one on focus.
+using LegendColors = std::array<Color, 10>;
 
-// The colour of a failed field of each type: the legend's colour of that index.
-Color legendColor(int index);
+// setUp true: the one-time set-up of resetFormLook; false: the field has just taken the focus. A field of
+// the Text1 to Text5 arrays is noted as the document's last field, and its tip shown on the status line of
+// the document's current form.
+void setUpControl(Control& ctl, bool setUp, OpenDocument& document, const LegendColors& legend);
+void setUpAlignment(Control& ctl, const LegendColors& legend);
+void setUpBackColor(Control& ctl, const LegendColors& legend);
+
+// Hands the focus back to the document's last field, on its current form, after the taxpayer fill.
+void refocusAfterTaxpayerFill(const OpenDocument& document);
 
 constexpr Color kOutOfScopeColor = 0x00E0E0E0;
 constexpr const char* kMoneyTip = "Money: Dollar sign/commas optional";

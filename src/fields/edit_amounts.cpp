@@ -47,24 +47,24 @@ std::string amountText(const std::string& amount, const char* source) {
 
 }  // namespace
 
-bool editMoney(Control& ctl) {
+bool editMoney(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_Money";
-    return runEdit(ctl, kLabel, {kMoneyColour, false}, [&] {
+    return runEdit(ctl, context, kLabel, {kMoneyColour, false}, [&] {
         const std::string amount = amountText(withoutDollarsAndCommas(ctl.text), kLabel);
         ctl.text = text::formatNumber(amount, takesBoxDollarSign(ctl) ? "###,###.00" : "$###,###.00");
     });
 }
 
 // A failure shows the colour of Money, not that of Money (+ or -).
-bool editMoneyNegativeOk(Control& ctl) {
+bool editMoneyNegativeOk(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_Money_NegativeOK";
-    return runEdit(ctl, kLabel, {kMoneyColour, false}, [&] {
+    return runEdit(ctl, context, kLabel, {kMoneyColour, false}, [&] {
         std::string amount = withoutDollarsAndCommas(ctl.text);
         const bool negative = !amount.empty() && (amount[0] == '-' || amount[0] == '(');
         // A minus sign anywhere else is dropped without making the amount negative.
         for (const char* sign : {"-", "(", ")"}) amount = text::replaceAll(amount, sign, "");
         ctl.text = text::formatNumber(amountText(amount, kLabel), negative ? "($###,###.00)" : "$###,###.00");
-        if (ctl.form && ctl.form->desktop()) ctl.form->desktop()->ui().refresh();
+        context.desktop.ui().refresh();
     });
 }
 

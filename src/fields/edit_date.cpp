@@ -5,7 +5,8 @@
 #include "diagnostics/message_box.h"
 #include "fields/edit_failure.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/open_document.h"
+#include "model/tax_year_choice.h"
 #include "text/date_text.h"
 #include "text/pieces.h"
 
@@ -28,26 +29,27 @@ bool placeholderDateStands(const std::string& month, const std::string& day) {
 
 std::string lastFour(const std::string& s) { return s.size() >= 4 ? s.substr(s.size() - 4) : s; }
 
-std::string formTaxYear(const TaxYearChoice& inForce) {
-    const Globals& g = program().g;
-    if (!formKeyHasTaxYear(g.document.formKey) || !g.document.currentForm) return inForce.text();
-    return g.document.currentForm->at("TaxYear", 0).caption +
-           g.document.currentForm->at("TaxYear", 1).caption;
+std::string formTaxYear(const OpenDocument& document, const TaxYearChoice& inForce) {
+    const Form* form = document.currentForm;
+    if (!formKeyHasTaxYear(document.formKey) || !form) return inForce.text();
+    return form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption;
 }
 
-void correctYear(Control& ctl, const std::string& year, int number, const std::string& lead) {
+void correctYear(Control& ctl, Desktop& desktop, const std::string& year, int number,
+                 const std::string& lead) {
     const std::string old = ctl.text;
     ctl.text = old.substr(0, 6) + year;
     showMessageBox(
+        desktop,
         {kSource, lead + old + " Changed to " + ctl.text + "\r\n --- Make sure it is correct ---", number});
 }
 
 }  // namespace
 
-bool formatDateText(Control& ctl) {
+bool formatDateText(Control& ctl, const DateTime& now) {
     if (ctl.text.empty()) return true;
     std::vector<std::string> pieces = text::split(ctl.text, "/");
-    if (pieces.size() == 2) pieces.push_back(std::to_string(program().platform.now().year));
+    if (pieces.size() == 2) pieces.push_back(std::to_string(now.year));
     if (pieces.size() != 3) return false;
     std::string& month = pieces[0];
     std::string& day = pieces[1];
@@ -67,22 +69,24 @@ bool formatDateText(Control& ctl) {
     return result;
 }
 
-bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& requiredYear) {
+bool editDate(Control& ctl, const EditContext& context, const std::string& requiredYear) {
     bool result = true;
     try {
-        clearStatusLine();
-        const std::string taxYear = formTaxYear(inForce);
-        if (!formatDateText(ctl))
+        clearStatusLine(context.document);
+        const std::string taxYear = formTaxYear(context.document, context.taxYear);
+        if (!formatDateText(ctl, context.now))
             throw AppError(801, "Invalid Date - Formats allowed M/D/YYYY, M/DD/YYYY, MM/D/YYYY or MM/DD/YYYY",
                            kSource);
-        if (lastFour(ctl.text) == "20XX" && taxYear != "20XX") correctYear(ctl, taxYear, 802, "Date ");
+        if (lastFour(ctl.text) == "20XX" && taxYear != "20XX")
+            correctYear(ctl, context.desktop, taxYear, 802, "Date ");
         if (!requiredYear.empty() && !ctl.text.empty() && lastFour(ctl.text) != requiredYear)
-            correctYear(ctl, requiredYear, 803, "Date MUST match the Tax Year shown on the form\r\n");
+            correctYear(ctl, context.desktop, requiredYear, 803,
+                        "Date MUST match the Tax Year shown on the form\r\n");
     } catch (const ProgramEnded&) {
         throw;
     } catch (...) {
         Fault fault = faultOf(std::current_exception());
-        showInvalidField(ctl, 6, "");
+        showInvalidField(ctl, 6, "", context.document, context.desktop);
         if (!isDataError(fault.number)) stopForProgrammer(kSource, fault);
         result = false;
     }

@@ -3,16 +3,18 @@
 
 #include <string>
 
+#include "fields/edit_context.h"
 #include "model/control.h"
-#include "model/tax_year_choice.h"
+#include "model/date_time.h"
 
 namespace lw {
 
-// Brings the text to MM/DD/YYYY; false when it is no date. The placeholder year 20XX is a year too.
-bool formatDateText(Control& ctl);
+// Brings the text to MM/DD/YYYY; false when it is no date. A date without a year takes the year of `now`.
+// The placeholder year 20XX is a year too.
+bool formatDateText(Control& ctl, const DateTime& now);
 // requiredYear is empty for any date, or the tax year the date must lie in. A date in 20XX takes the year
-// the form shows, or `inForce` on a form that shows none. The value is corrected, not refused, when its
-// year is wrong; the operator is told.
-bool editDate(Control& ctl, const TaxYearChoice& inForce, const std::string& requiredYear);
+// the document's current form shows, or the tax year in force on a form that shows none. The value is
+// corrected, not refused, when its year is wrong; the operator is told.
+bool editDate(Control& ctl, const EditContext& context, const std::string& requiredYear);
 
 }  // namespace lw

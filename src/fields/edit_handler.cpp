@@ -9,7 +9,8 @@
 
 namespace lw {
 
-bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::function<void()>& body) {
+bool runEdit(Control& ctl, const EditContext& context, const char* label, EditFailure failure,
+             const std::function<void()>& body) {
     try {
         body();
         return true;
@@ -17,7 +18,8 @@ bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::fu
         throw;
     } catch (...) {
         const Fault fault = faultOf(std::current_exception());
-        showInvalidField(ctl, failure.colour, failure.showRaisedText ? fault.description : "");
+        showInvalidField(ctl, failure.colour, failure.showRaisedText ? fault.description : "",
+                         context.document, context.desktop);
         if (!isDataError(fault.number)) stopForProgrammer(label, fault);
         if (ctl.form) ctl.form->setFocus(ctl);
         return false;

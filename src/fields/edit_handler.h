@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "fields/edit_context.h"
 #include "model/control.h"
 
 namespace lw {
@@ -15,6 +16,7 @@ struct EditFailure {
 };
 
 // Runs the edit's body and returns true, or false after the handler has shown the failure.
-bool runEdit(Control& ctl, const char* label, EditFailure failure, const std::function<void()>& body);
+bool runEdit(Control& ctl, const EditContext& context, const char* label, EditFailure failure,
+             const std::function<void()>& body);
 
 }  // namespace lw

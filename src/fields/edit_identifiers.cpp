@@ -6,7 +6,7 @@
 #include "fields/edit_ctl.h"
 #include "fields/edit_handler.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/open_document.h"
 #include "text/case.h"
 #include "text/masks.h"
 #include "text/number.h"
@@ -29,9 +29,9 @@ void requireNumericStart(const std::string& value, const char* source) {
 
 }  // namespace
 
-bool editEin(Control& ctl) {
+bool editEin(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_EIN";
-    return runEdit(ctl, kLabel, kIdentifierFailure, [&] {
+    return runEdit(ctl, context, kLabel, kIdentifierFailure, [&] {
         std::string ein = text::toUpper(without(ctl.text, "-"));
         requireNumericStart(ein, kLabel);
         if (ein.compare(0, 2, "00") == 0) throw AppError(802, "EIN can't start with 00", kLabel);
@@ -42,9 +42,9 @@ bool editEin(Control& ctl) {
     });
 }
 
-bool editSsnOrItin(Control& ctl) {
+bool editSsnOrItin(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_SS_ITIN";
-    return runEdit(ctl, kLabel, kIdentifierFailure, [&] {
+    return runEdit(ctl, context, kLabel, kIdentifierFailure, [&] {
         std::string tin = without(text::toUpper(without(ctl.text, "-")), "X");
         requireNumericStart(tin, kLabel);
         const std::string prefix = tin.substr(0, 3);
@@ -58,11 +58,12 @@ bool editSsnOrItin(Control& ctl) {
     });
 }
 
-std::int32_t checkDuplicateNumbers(const std::string& indexList, int fieldIndex) {
+std::int32_t checkDuplicateNumbers(const std::string& indexList, int fieldIndex, const OpenDocument& document,
+                                   Desktop& desktop) {
     std::int32_t result = 99;
     runGuarded("M7_Edits:DuplicateTinCheck", [&] {
-        if (!program().g.document.currentForm) throw AppError(err::kObjectRequired, "Object required");
-        Form& form = *program().g.document.currentForm;
+        if (!document.currentForm) throw AppError(err::kObjectRequired, "Object required");
+        Form& form = *document.currentForm;
         Control& field = form.at("Text1", fieldIndex);
         if (field.text.empty()) return;
         // The loop counter, not the list's items, picks the fields compared.
@@ -75,7 +76,7 @@ std::int32_t checkDuplicateNumbers(const std::string& indexList, int fieldIndex)
                 status->caption = "Duplicate SSN/ITIN number";
                 status->foreColor = kRed;
             }
-            showMessageBox({"DuplicateTinCheck", "Duplicate SS/ITIN Number on this screen"});
+            showMessageBox(desktop, {"DuplicateTinCheck", "Duplicate SS/ITIN Number on this screen"});
             return;
         }
     });

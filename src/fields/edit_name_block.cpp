@@ -17,8 +17,9 @@ bool editNameBlock(Control& ctl) {
     if (block.empty()) return false;
 
     const std::vector<std::string> lines = text::split(block, kLineBreak);
-    const std::string formatted = formatTaxpayerName(lines.front());
-    std::string result = formatted.substr(0, formatted.find(text::kFieldSeparator));
+    // The normalized name line, up to a separator typed into it.
+    const std::string nameLine = taxpayerNameParts(lines.front()).line;
+    std::string result = nameLine.substr(0, nameLine.find(text::kFieldSeparator));
     for (std::size_t i = 1; i < lines.size(); ++i) result += kLineBreak + lines[i];
     ctl.text = text::toUpper(result);
     return true;

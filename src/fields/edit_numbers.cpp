@@ -4,7 +4,6 @@
 #include "fields/edit_ctl.h"
 #include "fields/edit_handler.h"
 #include "model/app_error.h"
-#include "model/program.h"
 #include "text/masks.h"
 #include "text/number.h"
 #include "text/pieces.h"
@@ -18,8 +17,8 @@ constexpr const char* kWholeMask = "###,###,###";
 constexpr const char* kNegativeWholeMask = "(###,###,###)";
 }  // namespace
 
-bool editNumeric(Control& ctl) {
-    return runEdit(ctl, "M7_Edits:EditCtl_Numeric", {kNumericColour, false}, [&] {
+bool editNumeric(Control& ctl, const EditContext& context) {
+    return runEdit(ctl, context, "M7_Edits:EditCtl_Numeric", {kNumericColour, false}, [&] {
         std::string number = ctl.text;
         if (!number.empty() && number.front() == '(') number.front() = '-';
         if (!number.empty() && number.back() == ')') number.pop_back();
@@ -31,9 +30,9 @@ bool editNumeric(Control& ctl) {
     });
 }
 
-bool editNumericDecimalOk(Control& ctl) {
+bool editNumericDecimalOk(Control& ctl, const EditContext& context) {
     if (ctl.text.empty()) return true;
-    return runEdit(ctl, "M7_Edits:EditCtl_NumericDecimalOK", {kNumericColour, false}, [&] {
+    return runEdit(ctl, context, "M7_Edits:EditCtl_NumericDecimalOK", {kNumericColour, false}, [&] {
         std::string number = ctl.text;
         bool negative = number.front() == '-';
         if (number.front() == '(') {
@@ -54,13 +53,13 @@ bool editNumericDecimalOk(Control& ctl) {
     });
 }
 
-bool editYear(Control& ctl) {
+bool editYear(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EdtiCtl_Year";
-    return runEdit(ctl, kLabel, {kOtherColour, false}, [&] {
+    return runEdit(ctl, context, kLabel, {kOtherColour, false}, [&] {
         const char* const kInvalid = "Invalid Year - Use yy or yyyy";
         std::string year = ctl.text;
         if (!text::isNumeric(year)) throw AppError(800, kInvalid, kLabel);
-        const std::string century = std::to_string(program().platform.now().year).substr(0, 2);
+        const std::string century = std::to_string(context.now.year).substr(0, 2);
         if (year.size() == 2)
             year = century + year;
         else if (year.size() == 4 && year.substr(0, 2) != century)

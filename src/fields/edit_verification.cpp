@@ -9,9 +9,9 @@
 
 namespace lw {
 
-bool editVerificationCode(Control& ctl) {
+bool editVerificationCode(Control& ctl, const EditContext& context) {
     constexpr const char* kLabel = "M7_Edits:EditCtl_VerificationCode";
-    return runEdit(ctl, kLabel, {9, false}, [&] {
+    return runEdit(ctl, context, kLabel, {9, false}, [&] {
         const std::string& code = ctl.text;
         const int hyphens = countCharacters(code, "-", false);
         const bool rightLength = (code.size() == 16 && hyphens == 0) || (code.size() == 19 && hyphens == 3);

@@ -1,6 +1,5 @@
 #include "forms/benefit_amounts.h"
 
-#include "model/program.h"
 #include "store/inf_store.h"
 #include "text/currency_text.h"
 #include "text/masks.h"
@@ -84,9 +83,8 @@ std::string rrbShortfallReason(RrbShortfall shortfall) {
     return "";
 }
 
-std::string partBPremiumOfYearInForce() {
-    const Globals& g = program().g;
-    return store::readInfValue(g.taxYear.text(), "MCPartBPremium", "", g.edition.ssmcInfFile);
+std::string partBPremiumOfYear(const TaxYearChoice& taxYear, const std::string& ssmcInfFile) {
+    return store::readInfValue(taxYear.text(), "MCPartBPremium", "", ssmcInfFile);
 }
 
 }  // namespace lw

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "model/tax_year_choice.h"
 #include "text/currency.h"
 
 namespace lw {
@@ -49,8 +50,8 @@ std::string benefitErrorMessage(const std::string& reason);
 std::string ssaShortfallReason(SsaShortfall shortfall, const std::string& box3Caption);
 std::string rrbShortfallReason(RrbShortfall shortfall);
 
-// The yearly Medicare Part B premium of the tax year in force, from the rates file; empty when the
+// The yearly Medicare Part B premium of the tax year, from the rates file (SSMC.inf); empty when the
 // year has none.
-std::string partBPremiumOfYearInForce();
+std::string partBPremiumOfYear(const TaxYearChoice& taxYear, const std::string& ssmcInfFile);
 
 }  // namespace lw

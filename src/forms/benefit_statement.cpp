@@ -9,6 +9,7 @@
 #include "forms/benefit_amounts.h"
 #include "model/app_error.h"
 #include "model/desktop.h"
+#include "model/edition_settings.h"
 #include "text/case.h"
 
 namespace lw {
@@ -37,7 +38,7 @@ void BenefitStatementForm::onLoad() {
 void BenefitStatementForm::onValidate(Control& ctl, bool& cancel) {
     if (!isText1(ctl)) return;
     runGuarded(validateLabel(), [&] {
-        if (!editField(ctl)) {
+        if (!editField(ctl, editContextOf(parts()))) {
             cancel = true;
             return;
         }
@@ -56,6 +57,10 @@ bool BenefitStatementForm::isText1(const Control& ctl) {
 
 bool BenefitStatementForm::hasComputedTag(const Control& ctl) {
     return text::equalsNoCase(ctl.tag, "COMPUTED");
+}
+
+std::string BenefitStatementForm::partBPremiumOfYearInForce() const {
+    return partBPremiumOfYear(parts().taxYear, parts().edition.ssmcInfFile);
 }
 
 void BenefitStatementForm::passComputedField(Control& ctl) {
@@ -89,7 +94,7 @@ void BenefitStatementForm::countWithoutOverflow(const std::function<void()>& ari
 
 void BenefitStatementForm::reportShortfall(int redField, int number, const std::string& reason) {
     field(redField).foreColor = kRed;
-    showMessageBox({computeLabel_, benefitErrorMessage(reason), number});
+    showMessageBox(parts().desktop, {computeLabel_, benefitErrorMessage(reason), number});
     computationFailed = true;
 }
 

@@ -33,6 +33,8 @@ protected:
     Control& field(int index) const { return at("Text1", index); }
     static bool isText1(const Control& ctl);
     static bool hasComputedTag(const Control& ctl);
+    // The yearly Medicare Part B premium of the tax year in force, empty when the rates file has none.
+    std::string partBPremiumOfYearInForce() const;
 
     // A computed field takes no typing: the focus goes on to the next field, past the last one in the
     // tab order.

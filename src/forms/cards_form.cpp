@@ -3,8 +3,10 @@
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
 #include "model/app_error.h"
+#include "model/edition_settings.h"
 #include "model/keys.h"
-#include "model/program.h"
+#include "model/ports.h"
+#include "model/process_state.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/paths.h"
@@ -43,7 +45,7 @@ void CardsForm::refuse(int& keyAscii, const std::string& message) {
 }
 
 void CardsForm::showCard(int fieldIndex, const char* pictureName) {
-    at("Image1", fieldIndex / 2).picture = fileNamedNoCase(program().g.edition.picturesFolder, pictureName);
+    at("Image1", fieldIndex / 2).picture = fileNamedNoCase(parts().edition.picturesFolder, pictureName);
 }
 
 void CardsForm::clearCard(int fieldIndex) { at("Image1", fieldIndex / 2).picture.clear(); }
@@ -94,7 +96,9 @@ void CardsForm::onValidate(Control& ctl, bool& cancel) {
             ctl.text = text::formatText(digits, "@@@-@@-@@@@");
         }
     }
-    if (fieldIndex % 2 == 0 && checkDuplicateNumbers(kNumberFields, fieldIndex) != 99) cancel = true;
+    if (fieldIndex % 2 == 0 &&
+        checkDuplicateNumbers(kNumberFields, fieldIndex, parts().document, parts().desktop) != 99)
+        cancel = true;
 }
 
 void CardsForm::giveOwnLook() {
@@ -143,7 +147,7 @@ void CardsForm::afterFileRead() {
         const Control& c = *owned;
         if (!c.isTextBox() || c.index < 0 || !text::equalsNoCase(c.tag, "TIN") || c.text.empty()) continue;
         at("Image1", c.index / 2).picture =
-            joinPath(program().g.edition.picturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
+            joinPath(parts().edition.picturesFolder, c.text[0] == '9' ? "ITIN.jpg" : "SSN.jpg");
     }
 }
 
@@ -164,7 +168,7 @@ bool CardsForm::cutToDocument() {
     };
     height = anyShown(6, 7, 8) ? t6 + h : anyShown(3, 4, 5) ? t3 + h : t0 + h;
     width = anyShown(2, 5, 8) ? l2 + w : anyShown(1, 4, 7) ? l1 + w : l0 + w;
-    program().ui.refresh();
+    parts().ui.refresh();
     return true;
 }
 
@@ -174,7 +178,7 @@ bool CardsForm::putBackAfterClip() {
 }
 
 bool CardsForm::fillTaxpayers(const std::string& who, const TPInfoRec&, const TPInfoRec&) {
-    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1);
+    fillTaxpayersCard(*this, who == "TP 2" ? 2 : 1, parts().process.userNameUpper, parts().edition);
     return true;
 }
 

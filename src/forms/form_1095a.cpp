@@ -102,7 +102,7 @@ void Form1095A::copyDown(int fieldIndex) {
 
 void Form1095A::onText1Validate(int fieldIndex, bool& cancel) {
     runGuarded("TF_1095A:Text1_Validate", [&] {
-        if (!editField(at("Text1", fieldIndex))) {
+        if (!editField(at("Text1", fieldIndex), editContextOf(parts()))) {
             cancel = true;
             return;
         }
@@ -142,7 +142,7 @@ void Form1095A::addUpColumn(int firstRow, int lastRow, int target) {
 void Form1095A::showTotalOutOfReach(int fieldIndex, int target) {
     Control& field = at("Text1", fieldIndex);
     if (target != fieldIndex) at("Text1", target).text.clear();
-    showInvalidField(field, kMoneyColour, "");
+    showInvalidField(field, kMoneyColour, "", parts().document, parts().desktop);
     field.foreColor = kRed;
 }
 

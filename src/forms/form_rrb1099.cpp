@@ -7,7 +7,9 @@
 #include "diagnostics/error_tail.h"
 #include "fields/control_setup.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/open_document.h"
+#include "model/ports.h"
 #include "shell/form_registry.h"
 #include "text/pieces.h"
 
@@ -54,7 +56,7 @@ void FormRrb1099::afterTaxpayerFill() {
 
 void FormRrb1099::onGotFocus(Control& ctl) {
     if (!isText1(ctl)) return;
-    setUpControl(ctl, false);
+    setUpControl(ctl, false, parts().document, parts().edition.legendColors);
     passComputedField(ctl);
     myIndex = ctl.index;
 }
@@ -69,7 +71,7 @@ void FormRrb1099::afterFieldStands(int index) {
         if (myIndex < 13) {
             // The computed values go on the screen now, and the operator's own move of the focus goes
             // on when this event ends; the copies below wait for a field of the identity.
-            program().ui.refresh();
+            parts().ui.refresh();
             return;
         }
     } else if (index >= 18 && index <= 20) {
@@ -94,10 +96,9 @@ void FormRrb1099::totalGrossPaid() {
 }
 
 void FormRrb1099::copyIdentity() {
-    const Globals& g = program().g;
-    for (const std::string* list :
-         {&g.document.catalogue.ssnIndex, &g.document.catalogue.nameAddrIndex,
-          &g.document.catalogue.medicareClaimNoIndex, &g.document.catalogue.einIndex}) {
+    const CatalogueValues& catalogue = parts().document.catalogue;
+    for (const std::string* list : {&catalogue.ssnIndex, &catalogue.nameAddrIndex,
+                                    &catalogue.medicareClaimNoIndex, &catalogue.einIndex}) {
         // A form whose catalogue names no such pair has nothing to copy.
         if (list->empty()) continue;
         const std::vector<std::string> items = text::split(*list, ",");

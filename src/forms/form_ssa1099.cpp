@@ -4,6 +4,7 @@
 
 #include "diagnostics/error_tail.h"
 #include "fields/control_setup.h"
+#include "model/edition_settings.h"
 #include "shell/form_registry.h"
 #include "taxpayer/load_tp.h"
 
@@ -79,7 +80,7 @@ void FormSsa1099::onGotFocus(Control& ctl) {
 void FormSsa1099::onText1GotFocus(int fieldIndex) {
     ResetBackColor();
     Control& ctl = field(fieldIndex);
-    setUpControl(ctl, false);
+    setUpControl(ctl, false, parts().document, parts().edition.legendColors);
     // The address box starts with the name, ready for the address lines.
     if (fieldIndex == kAddress && ctl.text.empty()) {
         ctl.text = field(kName).text + "\r\n";

@@ -11,8 +11,10 @@
 #include "fields/edit_ctl.h"
 #include "forms/k1_help.h"
 #include "model/containers.h"
+#include "model/edition_settings.h"
 #include "model/keys.h"
-#include "model/program.h"
+#include "model/open_document.h"
+#include "model/ports.h"
 #include "shell/form_registry.h"
 #include "text/case.h"
 #include "text/cp1252.h"
@@ -85,7 +87,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
         setTab(tabs, 1);
     else if (tabOf(tabs) == 1 && field.index <= limit)
         setTab(tabs, 0);
-    setUpControl(field, false);
+    setUpControl(field, false, parts().document, parts().edition.legendColors);
     if ((isArray(field, '2') || isArray(field, '4')) && text::equalsNoCase(field.tag.substr(0, 6), "K1Help"))
         status.caption = kCodedHint;
 }
@@ -93,7 +95,7 @@ void K1Form::focusRoutine(Control& field, int limit) {
 void K1Form::leavingRoutine(Control& field, int count) {
     field.backColor = kWhite;
     field.foreColor = kBlack;
-    if (!editField(field)) {
+    if (!editField(field, editContextOf(parts()))) {
         setFocus(field);
         return;
     }
@@ -117,7 +119,7 @@ void K1Form::onKeyDown(Control& ctl, int& keyCode, int) {
     focusRoutine(ctl, limitOf(ctl));
     const K1HelpKeys rule = left ? design_.text2Keys : design_.text4Keys;
     if (k1KeyOpensList(rule, keyCode) && text::equalsNoCase(ctl.tag.substr(0, 6), "K1HELP"))
-        openK1CodeList(*this, ctl, designValues_);
+        openK1CodeList(*this, ctl, designValues_, parts().edition.k1HelpInfFile, codeListAnswer_);
 }
 
 void K1Form::onKeyPress(Control& ctl, int& keyAscii) {
@@ -149,18 +151,18 @@ void K1Form::styleTextBox(Control& box) {
 void K1Form::refillAfterClear() { restoreK1DesignValues(*this, designValues_); }
 
 bool K1Form::requiredFieldsFilled(int& focusIndex) {
-    const Globals& g = program().g;
+    const CatalogueValues& catalogue = parts().document.catalogue;
     const std::pair<std::optional<int>, const K1RequiredField*> required[] = {
-        {firstFieldIndex(g.document.catalogue.ssnIndex), &design_.numberRequired},
-        {firstFieldIndex(g.document.catalogue.nameAddrIndex), &design_.nameRequired}};
+        {firstFieldIndex(catalogue.ssnIndex), &design_.numberRequired},
+        {firstFieldIndex(catalogue.nameAddrIndex), &design_.nameRequired}};
     for (const auto& [index, rule] : required) {
         if (!index || !at("Text1", *index).text.empty()) continue;
-        showMessageBox({"M4_FileCode:Build_FileName", rule->message, rule->number});
+        showMessageBox(parts().desktop, {"M4_FileCode:Build_FileName", rule->message, rule->number});
         at("SSTab1").listIndex = rule->tab;
         // The save's last step focuses focusIndex: it must land on the same field.
         focusIndex = *index;
         setFocus(at("Text1", *index));
-        program().ui.refresh();
+        parts().ui.refresh();
         return false;
     }
     return true;
@@ -190,14 +192,14 @@ void K1Form::afterTaxpayerFill() {
     bool shown = true;
     if (design_.fillShows == K1FillShows::FirstHalf) {
         if (noted == 1) setTab(tabs, 0);
-        program().ui.refresh();
+        parts().ui.refresh();
         shown = tabOf(tabs) != noted;
     } else {
         setTab(tabs, noted == 0 ? 1 : 0);
-        program().ui.refresh();
+        parts().ui.refresh();
     }
     if (shown) {
-        program().platform.sleep(1000);
+        parts().platform.sleep(1000);
         setTab(tabs, noted);
     }
     TaxForm::afterTaxpayerFill();

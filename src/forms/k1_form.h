@@ -55,6 +55,8 @@ private:
     // The code fields' texts and the amounts' tags as the form loaded: Clear and the code list go back to
     // them.
     K1DesignValues designValues_;
+    // The section asked of the code list and what it answered, the last time it was shown from here.
+    K1HelpMembers codeListAnswer_;
     K1Tabs clipTabs_;  // the tab strip as the clip found it
 };
 

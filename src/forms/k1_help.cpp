@@ -43,7 +43,8 @@ void restoreK1DesignValues(Form& form, const K1DesignValues& kept) {
     restore("Text5", kept.tag5, true);
 }
 
-void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept) {
+void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept, const std::string& infFile,
+                    K1HelpMembers& members) {
     runGuarded("M3_Ledgerwick:K1_Help_KeyDown", [&] {
         const std::string name = text::toUpper(field.name);
         const int index = field.index;
@@ -51,14 +52,13 @@ void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept) {
         const std::string key = field.tag.size() > kSectionStart ? field.tag.substr(kSectionStart) : "";
         if (key.empty()) return;
 
-        K1HelpMembers& members = k1HelpMembers();
         members.listSectionKey = key;
         members.chosenCode.clear();
         members.chosenOverride.clear();
         members.listCancelled = false;
         if (!form.desktop()) return;
         Desktop& desktop = *form.desktop();
-        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(members, infFile), false);
         if (list.isLoaded()) desktop.showModal(list);
 
         if (!members.chosenCode.empty()) {

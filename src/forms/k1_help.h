@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/k1_help_form.h"
 #include "model/form.h"
 
 namespace lw {
@@ -19,10 +20,12 @@ struct K1DesignValues {
 };
 
 // Called from a K-1 code field (Text2 or Text4) whose Tag reads "K1HELP·<section>": shows the section's
-// list and, on a choice, writes the code into the field and moves on to the row's amount (Text3 or Text5
-// of the same Index), whose money check comes back from the kept design first. Cancel leaves the field,
-// the amount and its Tag as they were.
-void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept);
+// list, read from the code list file infFile, and, on a choice, writes the code into the field and moves
+// on to the row's amount (Text3 or Text5 of the same Index), whose money check comes back from the kept
+// design first. Cancel leaves the field, the amount and its Tag as they were. members carries the section
+// to the list and its answer back; it outlives the list.
+void openK1CodeList(Form& form, Control& field, const K1DesignValues& kept, const std::string& infFile,
+                    K1HelpMembers& members);
 
 // The design values of a K-1 form as it stands, read as it loads.
 K1DesignValues keptDesignValues(const Form& form);

@@ -1,9 +1,9 @@
 #include "forms/k1_help_form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "diagnostics/error_tail.h"
-#include "model/program.h"
 #include "store/inf_store.h"
 #include "text/case.h"
 #include "text/pieces.h"
@@ -41,11 +41,6 @@ Control& placed(Control& c, int left, int top, int width, int height) {
 
 }  // namespace
 
-K1HelpMembers& k1HelpMembers() {
-    static K1HelpMembers members;
-    return members;
-}
-
 std::string k1HelpGridRow(const std::string& line) {
     const std::vector<std::string> parts = text::split(line, "|");
     const std::string& purposePart = parts.at(1);
@@ -70,14 +65,16 @@ std::string k1HelpCaption(const std::string& key) {
     return "Valid Entries for " + text::replaceAll(replaceNoCase(key, "Box", "Box "), "-", " ");
 }
 
-K1HelpForm::K1HelpForm()
+K1HelpForm::K1HelpForm(K1HelpMembers& members, std::string infFile)
     : Form("F6_K1Help"),
       Label0(add(ControlKind::Label, "Label0")),
       Label1(add(ControlKind::Label, "Label1")),
       Label2(add(ControlKind::Label, "Label2")),
       Grid1(add(ControlKind::Grid, "Grid1")),
       Label3(add(ControlKind::Label, "Label3")),
-      cmdCancel(add(ControlKind::CommandButton, "cmdCancel")) {
+      cmdCancel(add(ControlKind::CommandButton, "cmdCancel")),
+      members_(members),
+      infFile_(std::move(infFile)) {
     isChild = false;
     Label2.fontBold = true;
     Label3.fontBold = true;
@@ -92,13 +89,12 @@ K1HelpForm::K1HelpForm()
 }
 
 void K1HelpForm::onLoad() {
-    K1HelpMembers& members = k1HelpMembers();
     Grid1.colWidths = {660, 9500, 5000, 600};
     Grid1.colAlignments = {kGridAlignRightCenter, kGridAlignLeftCenter, kGridAlignLeftCenter,
                            kGridAlignCenterCenter};
     Grid1.items = {"Box #\tPurpose\tAdditional Information\tO/R"};
-    caption = k1HelpCaption(members.listSectionKey);
-    Label0.caption = std::string(kIrsSentence) + "\r\n" + instructionsFor(members.listSectionKey) + "\r\n" +
+    caption = k1HelpCaption(members_.listSectionKey);
+    Label0.caption = std::string(kIrsSentence) + "\r\n" + instructionsFor(members_.listSectionKey) + "\r\n" +
                      kColumnSentence;
     Label1.caption =
         "Note: Most K1 codes require a MONETARY response.\r\n"
@@ -115,8 +111,8 @@ void K1HelpForm::onLoad() {
 }
 
 void K1HelpForm::readSection() {
-    const std::vector<std::string> lines = store::readInfSection(
-        k1HelpMembers().listSectionKey, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
+    const std::vector<std::string> lines =
+        store::readInfSection(members_.listSectionKey, infFile_, kK1HelpSectionBuffer);
     for (const std::string& line : lines) Grid1.items.push_back(k1HelpGridRow(line));
 }
 
@@ -144,14 +140,13 @@ void K1HelpForm::onGridClick() {
     if (row < 1 || row >= static_cast<int>(Grid1.items.size())) return;
     std::vector<std::string> cells = text::split(Grid1.items[static_cast<std::size_t>(row)], "\t");
     cells.resize(kColumns);
-    K1HelpMembers& members = k1HelpMembers();
-    members.chosenCode = text::trim(cells[0]);
-    members.chosenOverride = cells[3];
+    members_.chosenCode = text::trim(cells[0]);
+    members_.chosenOverride = cells[3];
     unload();
 }
 
 void K1HelpForm::onCancel() {
-    k1HelpMembers().listCancelled = true;
+    members_.listCancelled = true;
     unload();
 }
 

@@ -7,7 +7,8 @@
 
 namespace lw {
 
-// The form's public members. They outlive the window: the caller reads the choice after it has closed.
+// The form's public members, kept by whoever shows the list. They outlive the window: the caller reads
+// the choice after it has closed.
 struct K1HelpMembers {
     std::string listFormName;    // not looked at by the list
     std::string listSectionKey;  // in: the section name
@@ -15,8 +16,6 @@ struct K1HelpMembers {
     std::string chosenOverride;  // out: the O/R column of the row clicked, "X" to override
     bool listCancelled = false;  // out: true after Cancel
 };
-
-K1HelpMembers& k1HelpMembers();
 
 // The section is read through one buffer of this many characters, as the keepers of the file know.
 constexpr std::size_t kK1HelpSectionBuffer = 2048;
@@ -35,7 +34,9 @@ public:
     static constexpr int kMargin = 120;
     static constexpr int kRowHeight = 240;
 
-    K1HelpForm();
+    // The list of members.listSectionKey, read from the code list file infFile; the choice goes back into
+    // members, which must outlive the form.
+    K1HelpForm(K1HelpMembers& members, std::string infFile);
 
     Control& Label0;  // where to read more
     Control& Label1;  // what the O/R column does
@@ -50,9 +51,16 @@ public:
     void onCancel();
     void onGridClick();
 
+    // The section the list shows, and the file it reads it from.
+    const std::string& sectionKey() const { return members_.listSectionKey; }
+    const std::string& infFile() const { return infFile_; }
+
 private:
     void readSection();
     void layOut();
+
+    K1HelpMembers& members_;
+    const std::string infFile_;
 };
 
 }  // namespace lw

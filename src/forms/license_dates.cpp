@@ -3,14 +3,11 @@
 #include <cstdio>
 
 #include "model/app_error.h"
-#include "model/program.h"
 #include "text/pieces.h"
 
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 std::string twoDigits(int number) {
     char buffer[4];
@@ -24,11 +21,12 @@ std::string monthDayOf(const text::CalendarDay& day) {
 
 // The first of days 1 to 7 of the month that is the weekday, and `later` days on, appended as MM/DD. A
 // year that is no number ("20XX") forms no date, and nothing is added.
-void addMovingHoliday(const std::string& year, const char* month, const char* weekday, int later) {
+void addMovingHoliday(std::string& holidayList, const std::string& year, const char* month,
+                      const char* weekday, int later) {
     for (int day = 1; day <= 7; ++day) {
         const auto date = text::dayOf(std::string(month) + "/" + twoDigits(day) + "/" + year);
         if (!date || text::weekdayName(*date) != weekday) continue;
-        g().choices.holidayList += std::string(",") + month + "/" + twoDigits(day + later);
+        holidayList += std::string(",") + month + "/" + twoDigits(day + later);
         return;
     }
 }
@@ -42,16 +40,16 @@ text::CalendarDay dateOrFault(const std::string& mmddyyyy) {
 
 }  // namespace
 
-void buildLicenseHolidays(const TaxYearChoice& taxYear) {
+void buildLicenseHolidays(UserChoices& choices, const TaxYearChoice& taxYear) {
     const std::string year = taxYear.text();
-    addMovingHoliday(year, "01", "Mon", 14);
-    addMovingHoliday(year, "09", "Mon", 0);
-    addMovingHoliday(year, "11", "Thu", 21);
-    g().choices.holidays = text::split(g().choices.holidayList, ",");
+    addMovingHoliday(choices.holidayList, year, "01", "Mon", 14);
+    addMovingHoliday(choices.holidayList, year, "09", "Mon", 0);
+    addMovingHoliday(choices.holidayList, year, "11", "Thu", 21);
+    choices.holidays = text::split(choices.holidayList, ",");
 }
 
-bool isLicenseHoliday(const std::string& monthAndDay) {
-    for (const std::string& holiday : g().choices.holidays)
+bool isLicenseHoliday(const std::vector<std::string>& holidays, const std::string& monthAndDay) {
+    for (const std::string& holiday : holidays)
         if (holiday == monthAndDay) return true;
     return false;
 }
@@ -68,14 +66,13 @@ text::CalendarDay shiftOffMidweek(const text::CalendarDay& dDate) {
     return text::plusDays(dDate, 1);
 }
 
-void fillLicenseDates(const std::string& license, const std::string& birthDate, Control& ctlIssue,
-                      Control& ctlExpire) {
+void fillLicenseDates(const std::string& license, const std::string& birthDate, int thisYear,
+                      const std::vector<std::string>& holidays, Control& ctlIssue, Control& ctlExpire) {
     if (birthDate.empty()) {
         ctlIssue.text.clear();
         ctlExpire.text.clear();
         return;
     }
-    const int thisYear = program().platform.now().year;
     const std::string monthDay = birthDate.substr(0, 6);
     ctlExpire.text = text::dateText(dateOrFault(monthDay + std::to_string(thisYear + 5)));
 
@@ -83,7 +80,7 @@ void fillLicenseDates(const std::string& license, const std::string& birthDate, 
     text::CalendarDay d = text::plusDays(birthday, license == "1" ? -12 : -17);
     std::string monthAndDay = monthDayOf(d);
     for (;;) {
-        if (isLicenseHoliday(monthAndDay)) {
+        if (isLicenseHoliday(holidays, monthAndDay)) {
             d = shiftOffMidweek(d);
             monthAndDay = monthDayOf(d);
         }

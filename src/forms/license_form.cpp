@@ -3,7 +3,8 @@
 #include "diagnostics/error_tail.h"
 #include "fields/edit_ctl.h"
 #include "forms/license_dates.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/ports.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/paths.h"
@@ -17,9 +18,9 @@ LicenseForm::LicenseForm(const ProgramParts& parts) : TaxForm("F3_DL", parts) {}
 void LicenseForm::onLoad() {
     TaxForm::onLoad();
     for (Control* portrait : arrayOf("picDL"))
-        portrait->picture = portraitFile(program().g.edition.picturesFolder, portrait->index + 1);
-    program().g.choices.holidayList = kFixedHolidays;
-    buildLicenseHolidays(program().g.taxYear);
+        portrait->picture = portraitFile(parts().edition.picturesFolder, portrait->index + 1);
+    parts().choices.holidayList = kFixedHolidays;
+    buildLicenseHolidays(parts().choices, parts().taxYear);
 }
 
 void LicenseForm::onClick(Control& ctl, MouseButton button) {
@@ -31,7 +32,7 @@ void LicenseForm::onClick(Control& ctl, MouseButton button) {
 
 void LicenseForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
-    if (!editField(ctl)) {
+    if (!editField(ctl, editContextOf(parts()))) {
         ctl.select(0, 99);
         setFocus(ctl);
         cancel = true;
@@ -51,16 +52,18 @@ void LicenseForm::fillAfterLeaving(Control& ctl, bool& cancel) {
             if (ctl.text.empty())
                 cancel = true;
             else
-                field(2).text = program().platform.now().toStampText();
+                field(2).text = parts().platform.now().toStampText();
             break;
         case 1:
-            fillLicenseDates("1", ctl.text, field(8), field(3));
+            fillLicenseDates("1", ctl.text, parts().platform.now().year, parts().choices.holidays, field(8),
+                             field(3));
             break;
         case 4:
-            if (!ctl.text.empty()) field(6).text = program().platform.now().toStampText();
+            if (!ctl.text.empty()) field(6).text = parts().platform.now().toStampText();
             break;
         case 5:
-            fillLicenseDates("2", ctl.text, field(9), field(7));
+            fillLicenseDates("2", ctl.text, parts().platform.now().year, parts().choices.holidays, field(9),
+                             field(7));
             break;
         default:
             break;
@@ -89,12 +92,12 @@ bool LicenseForm::cutToDocument() {
 bool LicenseForm::fillTaxpayers(const std::string&, const TPInfoRec& a, const TPInfoRec& b) {
     fillTaxpayersLicense(*this, a, b);
     // A license runs out on the birthday five years on.
-    const DateTime now = program().platform.now();
+    const DateTime now = parts().platform.now();
     auto text = [&](int index) -> std::string& { return at("Text1", index).text; };
     const std::string inFiveYears = std::to_string(now.year + 5);
     text(2) = now.toStampText();
     text(3) = text(1).substr(0, 6) + inFiveYears;
-    if (!text(4).empty()) text(6) = program().platform.now().toStampText();
+    if (!text(4).empty()) text(6) = parts().platform.now().toStampText();
     if (!text(5).empty()) text(7) = text(5).substr(0, 6) + inFiveYears;
     return true;
 }

@@ -20,6 +20,8 @@
 #include "forms/tax_form.h"
 #include "forms/tpinfo_form.h"
 #include "forms/w2_form.h"
+#include "model/open_document.h"
+#include "model/process_state.h"
 #include "output/form_print.h"
 #include "output/screen_clip.h"
 #include "shell/form_registry.h"
@@ -32,9 +34,11 @@ namespace {
 
 void wireOutputCommands() {
     FrameCommandHooks& hooks = frameCommandHooks();
-    hooks.screenClip = [] { clipScreen(); };
-    hooks.printForm = [](Form& form) { askAndPrint(form); };
-    hooks.mdiClip = [] { clipCurrentForm(); };
+    hooks.screenClip = [](const ProgramParts& parts) {
+        clipScreen(parts.document.currentForm, parts.process.debug);
+    };
+    hooks.printForm = [](const ProgramParts& parts, Form& form) { askAndPrint(parts, form); };
+    hooks.mdiClip = [](const ProgramParts& parts) { clipCurrentForm(parts); };
 }
 
 }  // namespace
@@ -42,8 +46,8 @@ void wireOutputCommands() {
 void registerAllForms() {
     registerConfigureForm();
     wireOutputCommands();
-    frameCommandHooks().openFile = [] { openDataFile(); };
-    frameCommandHooks().saveFile = [] { saveDataFile(); };
+    frameCommandHooks().openFile = [](const ProgramParts& parts) { openDataFile(parts); };
+    frameCommandHooks().saveFile = [](const ProgramParts& parts) { saveDataFile(parts); };
     // Forms with handlers of their own.
     registerW2Form();
     register1099AForm();
@@ -59,7 +63,9 @@ void registerAllForms() {
     register1095BCForms();
     registerK1Forms();
     // The Load TP buttons read the people of the case from the store that the sheet fills.
-    frameCommandHooks().loadTaxpayer = [](const std::string& who) { readTaxpayers(who); };
+    frameCommandHooks().loadTaxpayer = [](const ProgramParts& parts, const std::string& who) {
+        readTaxpayers(parts, who);
+    };
 
     // Every form of the catalogue with a drawing and no handlers beyond the standard ones.
     for (const CatalogueEntry& entry : catalogue()) {

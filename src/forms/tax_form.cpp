@@ -6,6 +6,7 @@
 #include "fields/control_setup.h"
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
+#include "model/edition_settings.h"
 #include "model/keys.h"
 #include "shell/form_lifecycle.h"
 #include "text/case.h"
@@ -26,7 +27,7 @@ void TaxForm::onLoad() {
 }
 
 void TaxForm::onGotFocus(Control& ctl) {
-    if (isFieldArray(ctl)) setUpControl(ctl, false);
+    if (isFieldArray(ctl)) setUpControl(ctl, false, parts().document, parts().edition.legendColors);
 }
 
 void TaxForm::onKeyPress(Control& ctl, int& keyAscii) {
@@ -36,7 +37,7 @@ void TaxForm::onKeyPress(Control& ctl, int& keyAscii) {
 }
 
 void TaxForm::onValidate(Control& ctl, bool& cancel) {
-    if (isFieldArray(ctl)) cancel = !editField(ctl);
+    if (isFieldArray(ctl)) cancel = !editField(ctl, editContextOf(parts()));
 }
 
 void TaxForm::onLostFocus(Control& ctl) {

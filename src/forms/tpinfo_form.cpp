@@ -4,11 +4,14 @@
 #include "fields/edit_ctl.h"
 #include "fields/key_press.h"
 #include "model/keys.h"
-#include "model/program.h"
+#include "model/ports.h"
+#include "model/tax_year_choice.h"
+#include "model/taxpayer_memory.h"
 #include "shell/form_lifecycle.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
 #include "store/record_line.h"
+#include "store/user_inf.h"
 #include "taxpayer/tpinfo_sheet.h"
 #include "text/pieces.h"
 
@@ -60,7 +63,7 @@ void TaxpayerSheetForm::onLoad() {
 
 void TaxpayerSheetForm::showAgeYear() {
     Control& yearDigits = at("TaxYear", 1);
-    yearDigits.caption = program().g.taxYear.digits();
+    yearDigits.caption = parts().taxYear.digits();
     const std::string caption = "Age as of 12/31/20" + yearDigits.caption;
     at("LabelTPAge", 0).caption = caption;
     at("LabelTPAge", 1).caption = caption;
@@ -73,27 +76,27 @@ void TaxpayerSheetForm::giveOwnLook() {
     if (Control* printer = find("lblPrinter")) printer->opaque = true;
 }
 
-void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(); }
+void TaxpayerSheetForm::afterSaved() { saveTaxpayerSheet(parts()); }
 
 void TaxpayerSheetForm::beforeFileRead() {
     constexpr Color kYellow = 65535;
     if (Control* banner = find("Label1")) banner->backColor = kYellow;
-    program().ui.refresh();
+    parts().ui.refresh();
 }
 
 // The store of the Load TP buttons follows the sheet just opened; the dependants are left as they are.
 void TaxpayerSheetForm::afterFileRead() {
     auto text = [&](int index) { return at("Text1", index).text; };
-    writeUserInf("TP1NameAddr", store::recordValue(text(0)));
-    writeUserInf("TP1DOB", text(2));
-    writeUserInf("TP1SSN", text(1));
-    writeUserInf("TP2NameAddr", store::recordValue(text(3)));
-    writeUserInf("TP2DOB", text(5));
-    writeUserInf("TP2SSN", text(4));
+    writeUserInf(parts(), "TP1NameAddr", store::recordValue(text(0)));
+    writeUserInf(parts(), "TP1DOB", text(2));
+    writeUserInf(parts(), "TP1SSN", text(1));
+    writeUserInf(parts(), "TP2NameAddr", store::recordValue(text(3)));
+    writeUserInf(parts(), "TP2DOB", text(5));
+    writeUserInf(parts(), "TP2SSN", text(4));
 }
 
 // The ages follow the birth dates just read.
-void TaxpayerSheetForm::afterFileOpened() { updateAllAges(*this); }
+void TaxpayerSheetForm::afterFileOpened() { updateAllAges(*this, parts().taxpayers, parts().taxYear); }
 
 bool TaxpayerSheetForm::cutToDocument() {
     bool secondBlockUsed = false;
@@ -113,24 +116,25 @@ void TaxpayerSheetForm::onKeyPress(Control& ctl, int& keyAscii) {
 void TaxpayerSheetForm::onValidate(Control& ctl, bool& cancel) {
     if (!isFieldArray(ctl)) return;
     at("labelMisc").caption.clear();
-    if (!editField(ctl)) {
+    if (!editField(ctl, editContextOf(parts()))) {
         cancel = true;
         return;
     }
     if (!isTextOne(ctl)) return;
     const std::string index = std::to_string(ctl.index);
     // A repeated number is pointed out; the field may still be left.
-    if (listContains(kNumberFields, index)) checkDuplicateNumbers(kNumberFields, ctl.index);
+    if (listContains(kNumberFields, index))
+        checkDuplicateNumbers(kNumberFields, ctl.index, parts().document, parts().desktop);
     if (!listContains(kDateFields, index)) return;
     runGuarded("F5_TPInfo:Text1_Validate", [&] {
-        for (const auto& row : program().g.taxpayers.personTable)
-            if (row[1] == index) updateAge(*this, row[1], row[2]);
+        for (const auto& row : parts().taxpayers.personTable)
+            if (row[1] == index) updateAge(*this, row[1], row[2], parts().taxYear);
     });
 }
 
 void TaxpayerSheetForm::afterYearChange() {
     if (!isLoaded()) return;
-    updateAllAges(*this);
+    updateAllAges(*this, parts().taxpayers, parts().taxYear);
     showAgeYear();
 }
 

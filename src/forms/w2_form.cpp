@@ -8,7 +8,8 @@
 #include "fields/edit_failure.h"
 #include "forms/w2_withholding.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/tax_year_choice.h"
+#include "model/year_rates.h"
 #include "shell/form_registry.h"
 #include "text/case.h"
 #include "text/currency.h"
@@ -27,8 +28,6 @@ constexpr int kMedicareTax = 8;          // box 6
 constexpr int kVerificationCode = 45;    // box 9
 constexpr int kBox9Caption = 14;
 constexpr int kMoneyColour = 3;  // the legend's colour of a money field
-
-Globals& g() { return program().g; }
 
 // A number as the classic conversion reads it: thousands separators and a currency sign are part of a
 // number's text there. A text that is no number is a fault of the program, not of the operator: the
@@ -52,7 +51,7 @@ void FormW2::onLoad() {
     TaxForm::onLoad();
     // The form is activated as soon as it is loaded, before its placing writes the year into it; the
     // year's digits are given here already, so that box 9 is decided by the year in force.
-    at("TaxYear", 1).caption = g().taxYear.digits();
+    at("TaxYear", 1).caption = parts().taxYear.digits();
 }
 
 void FormW2::onValidate(Control& ctl, bool& cancel) {
@@ -61,7 +60,7 @@ void FormW2::onValidate(Control& ctl, bool& cancel) {
     if (cancel || ctl.text.empty()) return;
     if (ctl.index != kSocialSecurityWages && ctl.index != kMedicareWages) return;
     // A year without its figures computes nothing: the operator reads why, and the box stands.
-    const Rates& rates = g().rates;
+    const Rates& rates = parts().rates;
     if (!ratesInForce(rates)) return;
     try {
         if (ctl.index == kSocialSecurityWages)
@@ -72,7 +71,7 @@ void FormW2::onValidate(Control& ctl, bool& cancel) {
         // An amount beyond what the program can count is the box's own fault: it keeps the focus, and
         // the tax box no longer claims a value.
         at("Text1", ctl.index == kSocialSecurityWages ? kSocialSecurityTax : kMedicareTax).text.clear();
-        showInvalidField(ctl, kMoneyColour, "");
+        showInvalidField(ctl, kMoneyColour, "", parts().document, parts().desktop);
         cancel = true;
     }
 }

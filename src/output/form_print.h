@@ -6,9 +6,12 @@
 namespace lw {
 
 class Form;
+class PlatformPort;
+struct ProgramParts;
+struct UserChoices;
 
-void askAndPrint(Form& form);
+void askAndPrint(const ProgramParts& parts, Form& form);
 // The printer the next page goes to: the one a print chose, else the machine's default, else empty.
-std::string currentPrinter();
+std::string currentPrinter(const UserChoices& choices, PlatformPort& platform);
 
 }  // namespace lw

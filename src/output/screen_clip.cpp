@@ -8,7 +8,12 @@
 #include "diagnostics/picture_capture.h"
 #include "fields/control_setup.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/desktop.h"
+#include "model/edition_settings.h"
+#include "model/open_document.h"
+#include "model/ports.h"
+#include "model/process_state.h"
+#include "model/program_parts.h"
 #include "shell/catalogue_form.h"
 #include "shell/form_lifecycle.h"
 #include "text/case.h"
@@ -16,8 +21,6 @@
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 // Each statement on its own: a form that lacks the first control still takes the second.
 void cutToBorder(Form& form) {
@@ -40,7 +43,7 @@ bool isPictureOfItsOwn(const Control& c) {
 }
 
 // Field colours, selections and grey backgrounds must not reach the picture.
-void paintAsPaper(Form& form) {
+void paintAsPaper(Form& form, bool debug) {
     auto* rules = dynamic_cast<CatalogueForm*>(&form);
     for (const auto& owned : form.controls()) {
         Control& c = *owned;
@@ -51,7 +54,7 @@ void paintAsPaper(Form& form) {
                 break;
             case ControlKind::Label:
             case ControlKind::CheckLabel:
-                if (g().process.debug) c.backColor = kWhite;
+                if (debug) c.backColor = kWhite;
                 if (rules)
                     rules->paintLabelAsPaper(c);
                 else
@@ -70,10 +73,10 @@ void paintAsPaper(Form& form) {
     }
 }
 
-void putBack(Form& form) {
+void putBack(Form& form, const ProgramParts& parts) {
     if (auto* rules = dynamic_cast<CatalogueForm*>(&form); rules && rules->putBackAfterClip()) return;
     Control& first = form.at("Text1", 0);
-    setUpControl(first, false);
+    setUpControl(first, false, parts.document, parts.edition.legendColors);
     form.setFocus(first);
     form.at("labelMisc").visible = true;
 }
@@ -81,31 +84,30 @@ void putBack(Form& form) {
 }  // namespace
 
 // Every form's preparation succeeds or faults; a fault is reported and the clip goes on as it can.
-bool clipScreen() {
+bool clipScreen(Form* form, bool debug) {
     runGuarded("M5_ClipCode:Screen_Clip", [&] {
-        Form* form = g().document.currentForm;
         if (!form) return;
         cutToDocument(*form);
-        paintAsPaper(*form);
+        paintAsPaper(*form, debug);
     });
     return true;
 }
 
-void clipCurrentForm() {
-    Form* form = program().desktop.activeChild();
+void clipCurrentForm(const ProgramParts& parts) {
+    Form* form = parts.desktop.activeChild();
     if (!form) return;
     const int height = form->height;
     const int width = form->width;
     bool restyled = false;
     runGuarded("F0_MDI:MDI_Clip", [&] {
         // The way to try out the error report: the clip fails before it touches the form.
-        if (text::containsNoCase(program().platform.commandLine(), "error"))
+        if (text::containsNoCase(parts.platform.commandLine(), "error"))
             throw AppError(err::kDivisionByZero, "Division by zero");
         restyled = true;
         if (auto* rules = dynamic_cast<CatalogueForm*>(form)) rules->beforeClip();
         form->at("labelMisc").visible = false;
         // The picture is drawn off-screen from the form as it now stands, so no repaint is waited for.
-        if (clipScreen()) copyEntirePicture(*form);
+        if (clipScreen(parts.document.currentForm, parts.process.debug)) copyEntirePicture(*form);
     });
     if (!restyled) return;
     // The form comes back whatever the clip did.
@@ -113,7 +115,7 @@ void clipCurrentForm() {
         form->height = height;
         form->width = width;
         resetFormLook();
-        putBack(*form);
+        putBack(*form, parts);
     });
 }
 

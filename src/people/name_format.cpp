@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "diagnostics/error_tail.h"
-#include "model/program.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/pieces.h"
@@ -65,12 +64,11 @@ TPNameParts taxpayerNameParts(const std::string& Name) {
     return parts;
 }
 
-std::string formatTaxpayerName(const std::string& Name) {
+std::string formatTaxpayerName(const std::string& Name, const std::string& fileNameFormat) {
     return runGuardedOr<std::string>("M3_Ledgerwick:Format_TPName", std::string(), [&] {
         if (Name.empty()) return std::string();
         const TPNameParts parts = taxpayerNameParts(Name);
-        const bool firstBeforeLast =
-            program().g.choices.fileNameFormat.find("<FIRST>_<LAST>") != std::string::npos;
+        const bool firstBeforeLast = fileNameFormat.find("<FIRST>_<LAST>") != std::string::npos;
         return parts.line + text::kFieldSeparator + (firstBeforeLast ? parts.firstLast : parts.lastFirst);
     });
 }

@@ -18,8 +18,8 @@ struct TPNameParts {
 // capitals only; every other word between the first and the last is dropped.
 TPNameParts taxpayerNameParts(const std::string& Name);
 
-// The line, "·", then the name for the file: first-last when the file name template puts the first name
-// before the last, else last-first. An empty name gives an empty text.
-std::string formatTaxpayerName(const std::string& Name);
+// The line, "·", then the name for the file: first-last when the file name template fileNameFormat puts
+// the first name before the last, else last-first. An empty name gives an empty text.
+std::string formatTaxpayerName(const std::string& Name, const std::string& fileNameFormat);
 
 }  // namespace lw

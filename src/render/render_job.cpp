@@ -115,7 +115,8 @@ public:
         // The print look: cut to the document, white fields, no selection, and no status line, which
         // names the file just read.
         if (Control* status = form->find("labelMisc")) status->visible = false;
-        clipScreen();
+        const ProgramParts& parts = headless_->program().parts;
+        clipScreen(parts.document.currentForm, parts.process.debug);
         return form;
     }
 

@@ -290,7 +290,8 @@ Finding ScriptRunner::Checks::menu() {
 
 Finding ScriptRunner::Checks::printer() {
     need(words_, 3, "expect printer \"NAME\"");
-    return quotedValue(utf8(currentPrinter()), words_[2]);
+    const Program& running = *runner_.program_;
+    return quotedValue(utf8(currentPrinter(running.g.choices, running.platform)), words_[2]);
 }
 
 Finding ScriptRunner::Checks::form() {

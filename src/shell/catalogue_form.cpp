@@ -3,6 +3,7 @@
 #include "catalogue/catalogue_table.h"
 #include "catalogue/definitions.h"
 #include "fields/control_setup.h"
+#include "model/edition_settings.h"
 #include "shell/form_lifecycle.h"
 #include "shell/frame_command_hooks.h"
 
@@ -19,21 +20,23 @@ void CatalogueForm::showYearDigits(const std::string& digits) { at("TaxYear", 1)
 
 Control& CatalogueForm::focusOnOpening(int focusOnStartup) { return at("Text1", focusOnStartup); }
 
-void CatalogueForm::saveCommand() { saveAsDocument(); }
+void CatalogueForm::saveCommand() { saveAsDocument(parts()); }
 
-void CatalogueForm::afterPrinted() { focusFirstFieldAfterPrint(*this); }
+void CatalogueForm::afterPrinted() {
+    focusFirstFieldAfterPrint(*this, parts().document, parts().edition.legendColors);
+}
 
 void CatalogueForm::clearCommand(bool) { clearAndFocusFirstField(*this); }
 
-void CatalogueForm::afterTaxpayerFill() { refocusAfterTaxpayerFill(); }
+void CatalogueForm::afterTaxpayerFill() { refocusAfterTaxpayerFill(parts().document); }
 
-void saveAsDocument() {
-    if (frameCommandHooks().saveFile) frameCommandHooks().saveFile();
+void saveAsDocument(const ProgramParts& parts) {
+    if (frameCommandHooks().saveFile) frameCommandHooks().saveFile(parts);
 }
 
-void focusFirstFieldAfterPrint(Form& form) {
+void focusFirstFieldAfterPrint(Form& form, OpenDocument& document, const LegendColors& legend) {
     if (Control* first = form.find("Text1", 0)) {
-        setUpControl(*first, false);
+        setUpControl(*first, false, document, legend);
         form.setFocus(*first);
     }
 }

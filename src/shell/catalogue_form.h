@@ -113,8 +113,8 @@ private:
 // The font of a text box as a form chooses it.
 void setTextFont(Control& box, const char* name, double size, bool bold = false);
 // The common rules of the commands, for a form outside the catalogue as well.
-void saveAsDocument();
-void focusFirstFieldAfterPrint(Form& form);
+void saveAsDocument(const ProgramParts& parts);
+void focusFirstFieldAfterPrint(Form& form, OpenDocument& document, const LegendColors& legend);
 void clearAndFocusFirstField(Form& form);
 
 }  // namespace lw

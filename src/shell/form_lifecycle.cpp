@@ -10,6 +10,7 @@
 #include "shell/catalogue_form.h"
 #include "shell/form_registry.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 #include "text/pieces.h"
 
@@ -81,7 +82,7 @@ int frameInnerHeight() {
 
 void initCatalogueForm(Form& frm) {
     g().document.currentForm = &frm;
-    loadFormInfo();
+    loadFormInfo(g().document, g().edition.formsInfFile);
     if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->commonInitStep();
     resetFormLook();
     writeYearCaptions(g().taxYear);
@@ -115,7 +116,7 @@ void resetFormLook() {
                         catalogueForm->styleTextBox(c);
                     else
                         setTextFont(c, "Tahoma", 10);
-                    setUpControl(c, true);
+                    setUpControl(c, true, g().document, g().edition.legendColors);
                     break;
                 case ControlKind::Frame:
                 case ControlKind::OptionButton:
@@ -144,7 +145,7 @@ void writeYearCaptions(const TaxYearChoice& taxYear) {
                 c.caption = withLineBreaks(text::replaceAll(c.caption, "20??", year));
                 continue;
             }
-            c.caption = longText(readFormInfo(form.name(), c.name), year);
+            c.caption = longText(readFormInfo(form.name(), c.name, g().edition.formsInfFile), year);
         }
     });
 }
@@ -185,7 +186,7 @@ void placeInFrame(Form& frm) {
                     desktop.activate(*open);
                     g().document.currentForm = open;
                     g().document.formKey = formKeyOf(open->name());
-                    loadFormInfo();
+                    loadFormInfo(g().document, g().edition.formsInfFile);
                 }
                 return;
             }
@@ -220,7 +221,7 @@ void changeTaxYear(Form& frm) {
     runGuarded("M3_Ledgerwick:Year_Change", [&] {
         g().taxYear = g().taxYear.next();
         writeYearCaptions(g().taxYear);
-        writeUserInf("LastTaxYear", g().taxYear.text());
+        writeUserInf(program().parts, "LastTaxYear", g().taxYear.text());
         if (formHasTaxYear()) showYearDigits(frm);
         if (auto* form = dynamic_cast<CatalogueForm*>(&frm)) form->afterYearChange();
         recheckYearDates();
@@ -230,15 +231,15 @@ void changeTaxYear(Form& frm) {
 void recheckYearDates() {
     Form* form = g().document.currentForm;
     if (!form) return;
+    const EditContext context = editContextOf(program().parts);
     for (const auto& owned : form->controls()) {
         Control& c = *owned;
         if (!c.isTextBox()) continue;
         bool stands = true;
         if (c.tag == "DATE")
-            stands = editDate(c, g().taxYear, "");
+            stands = editDate(c, context, "");
         else if (c.tag == "DATEX")
-            stands =
-                editDate(c, g().taxYear, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
+            stands = editDate(c, context, form->at("TaxYear", 0).caption + form->at("TaxYear", 1).caption);
         if (!stands) return;
     }
 }

@@ -8,14 +8,16 @@
 namespace lw {
 
 class Form;
+struct ProgramParts;
 
+// Each command is handed the parts of the program it works on.
 struct FrameCommandHooks {
-    std::function<void()> openFile;
-    std::function<void()> saveFile;
-    std::function<void(const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
-    std::function<void()> screenClip;
-    std::function<void(Form&)> printForm;
-    std::function<void()> mdiClip;
+    std::function<void(const ProgramParts&)> openFile;
+    std::function<void(const ProgramParts&)> saveFile;
+    std::function<void(const ProgramParts&, const std::string& which)> loadTaxpayer;  // "TP 1" or "TP 2"
+    std::function<void(const ProgramParts&)> screenClip;
+    std::function<void(const ProgramParts&, Form&)> printForm;
+    std::function<void(const ProgramParts&)> mdiClip;
 };
 
 FrameCommandHooks& frameCommandHooks();

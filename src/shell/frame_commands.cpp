@@ -53,14 +53,15 @@ bool outputBlocked(Form& active) {
     if (!form) return false;
     const std::string text = form->outputRefusal();
     if (text.empty()) return false;
-    showMessageBox({"F0_MDI:cmdBtn_Click", text, 801});
+    showMessageBox(program().desktop, {"F0_MDI:cmdBtn_Click", text, 801});
     return true;
 }
 
 // Every text box in the order of the form's controls; the first that does not stand keeps the focus.
 bool allFieldsStand(Form& form) {
+    const EditContext context = editContextOf(program().parts);
     for (const auto& owned : form.controls()) {
-        if (owned->isTextBox() && !editField(*owned)) return false;
+        if (owned->isTextBox() && !editField(*owned, context)) return false;
     }
     return true;
 }
@@ -72,18 +73,18 @@ void runOutputCommand(const std::string& pressed, Form& active) {
         if (form)
             form->saveCommand();
         else
-            saveAsDocument();
+            saveAsDocument(program().parts);
     } else if (pressed == "PRINT") {
         if (!hooks().printForm) return;
-        if (hooks().screenClip) hooks().screenClip();
-        hooks().printForm(active);
+        if (hooks().screenClip) hooks().screenClip(program().parts);
+        hooks().printForm(program().parts, active);
         resetFormLook();
         if (form)
             form->afterPrinted();
         else
-            focusFirstFieldAfterPrint(active);
+            focusFirstFieldAfterPrint(active, g().document, g().edition.legendColors);
     } else if (pressed == "CLIP") {
-        if (hooks().mdiClip) hooks().mdiClip();
+        if (hooks().mdiClip) hooks().mdiClip(program().parts);
     }
 }
 
@@ -96,7 +97,7 @@ void onFrameButton(FrameForm& frame, Control& button) {
             return;
         }
         if (pressed == "OPEN") {
-            if (hooks().openFile) hooks().openFile();
+            if (hooks().openFile) hooks().openFile(program().parts);
             return;
         }
         if (pressed == "CONFIGURE") {
@@ -108,7 +109,8 @@ void onFrameButton(FrameForm& frame, Control& button) {
         auto* form = dynamic_cast<CatalogueForm*>(active);
         if (pressed == "LOAD TP 1" || pressed == "LOAD TP 2") {
             if (form && !form->takesTaxpayers()) return;
-            if (hooks().loadTaxpayer) hooks().loadTaxpayer(button.caption.substr(button.caption.size() - 4));
+            if (hooks().loadTaxpayer)
+                hooks().loadTaxpayer(program().parts, button.caption.substr(button.caption.size() - 4));
         } else if (pressed == "CLEAR") {
             if (form)
                 form->clearCommand(false);
@@ -158,7 +160,7 @@ void onMenuClear() {
 void onMenuPrint() {
     Form* active = program().desktop.activeChild();
     if (!active || !hooks().printForm) return;
-    hooks().printForm(*active);
+    hooks().printForm(program().parts, *active);
     resetFormLook();
     if (Control* first = active->find("Text1", 0)) {
         first->backColor = 0x00C0FFFF;
@@ -188,9 +190,9 @@ void FrameForm::onMenu(const std::string& itemName) {
         if (is("mnuControlQuit")) {
             quitProgram();
         } else if (is("mnuControlOpen")) {
-            if (hooks().openFile) hooks().openFile();
+            if (hooks().openFile) hooks().openFile(program().parts);
         } else if (is("mnuControlSave")) {
-            if (hooks().saveFile) hooks().saveFile();
+            if (hooks().saveFile) hooks().saveFile(program().parts);
         } else if (is("mnuControlClose")) {
             if (Form* active = program().desktop.activeChild()) active->unload();
         } else if (is("mnuControlClear")) {
@@ -198,7 +200,7 @@ void FrameForm::onMenu(const std::string& itemName) {
         } else if (is("mnuControlPrint")) {
             onMenuPrint();
         } else if (is("mnuControlClip")) {
-            if (hooks().mdiClip) hooks().mdiClip();
+            if (hooks().mdiClip) hooks().mdiClip(program().parts);
         } else if (is("mnuControlGuide")) {
             if (!program().ui.openDocument(g().edition.userGuideFile))
                 throw AppError(900, "(2) Error encountered opening " + g().edition.userGuideFile,

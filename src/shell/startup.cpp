@@ -13,6 +13,7 @@
 #include "shell/frame_form.h"
 #include "shell/paths.h"
 #include "store/inf_store.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 
 namespace lw {
@@ -48,18 +49,10 @@ std::string removeWordNoCase(std::string text, const std::string& word) {
 
 }  // namespace
 
-std::string readUserInf(const std::string& key) {
-    return store::readInfValue(g().process.userNameUpper, key, "", g().edition.userInfFile);
-}
-
-void writeUserInf(const std::string& key, const std::string& value) {
-    store::writeInfValue(g().process.userNameUpper, key, value, g().edition.userInfFile);
-}
-
 void saveRememberedFolders(const std::string& infFile, const std::string& defaultFolder) {
     for (const char* key : {"TaxFormsFolder", "LastOpenFolder", "LastSaveFolder"}) {
-        if (store::readInfValue(g().process.userNameUpper, key, "", infFile).empty())
-            store::writeInfValue(g().process.userNameUpper, key, defaultFolder, infFile);
+        const UserInfSection userInf{infFile, g().process.userNameUpper};
+        if (userInf.read(key).empty()) userInf.write(key, defaultFolder);
     }
 }
 
@@ -68,10 +61,10 @@ void setUpTaxFormsFolder(FrameForm& frame) {
     std::string byDefault = text::endsWithNoCase(g().edition.userInfFile, "UserVenturo.inf")
                                 ? joinPath(root, "VenturoForms")
                                 : joinPath(root, "TaxFormsLW");
-    frame.taxFormsFolder = readUserInf("TaxFormsFolder");
+    frame.taxFormsFolder = readUserInf(program().parts, "TaxFormsFolder");
     if (frame.taxFormsFolder.empty()) {
         frame.taxFormsFolder = byDefault;
-        writeUserInf("TaxFormsFolder", byDefault);
+        writeUserInf(program().parts, "TaxFormsFolder", byDefault);
     }
 }
 
@@ -114,7 +107,7 @@ void setUpTestPath(FrameForm& frame) {
                                 kNoMessageNumber,
                                 {"Venturo", "Other"},
                                 MessageBoxButton::None};
-    bool venturo = showMessageBox(ask).button == MessageBoxButton::First;
+    bool venturo = showMessageBox(program().desktop, ask).button == MessageBoxButton::First;
     Edition edition = venturo ? venturoEdition(root, platform().executableFolder(), frame.versionMajor)
                               : othAgcyEdition(root, platform().executableFolder(), frame.versionMajor);
     frame.caption = venturo ? "Ledgerwick - Test - Venturo" : "Ledgerwick - Test - Other Agency";
@@ -178,7 +171,7 @@ namespace {
 // A remembered folder that is gone is forgotten, in memory and in the file.
 void forgetVanishedFolder(const char* key, std::string& folder) {
     if (folderExists(folder)) return;
-    writeUserInf(key, "");
+    writeUserInf(program().parts, key, "");
     pause(250);
     folder.clear();
 }
@@ -199,6 +192,7 @@ void onFrameLoad(FrameForm& frame) {
         g().document.currentForm = &frame;
         if (platform().earlierInstanceRunning()) {
             showMessageBox(
+                program().desktop,
                 {"F0_MDI:FormLoad",
                  "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
                  "Ledgerwick ICON on the Taskbar to restore."});
@@ -219,9 +213,9 @@ void onFrameLoad(FrameForm& frame) {
         installShippedInfFiles(platform().executableFolder(), infFilesFolder(platform().rootFolder()));
         setUpFrame(frame);
 
-        g().choices.lastOpenFolder = readUserInf("LastOpenFolder");
+        g().choices.lastOpenFolder = readUserInf(program().parts, "LastOpenFolder");
         pause(250);
-        g().choices.lastSaveFolder = readUserInf("LastSaveFolder");
+        g().choices.lastSaveFolder = readUserInf(program().parts, "LastSaveFolder");
         pause(250);
         forgetVanishedFolder("LastOpenFolder", g().choices.lastOpenFolder);
         forgetVanishedFolder("LastSaveFolder", g().choices.lastSaveFolder);

@@ -6,6 +6,7 @@
 namespace lw {
 
 class FrameForm;
+struct ProgramParts;
 
 void onFrameLoad(FrameForm& frame);
 void setUpFrame(FrameForm& frame);
@@ -15,8 +16,5 @@ void saveRememberedFolders(const std::string& infFile, const std::string& defaul
 // Opens the configuration form as the first child, where the program has it.
 void openFirstChild(FrameForm& frame);
 
-// The user INF file, in the section of the user.
-std::string readUserInf(const std::string& key);
-void writeUserInf(const std::string& key, const std::string& value);
 
 }  // namespace lw

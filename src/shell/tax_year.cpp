@@ -1,7 +1,10 @@
 #include "shell/tax_year.h"
 
-#include "model/program.h"
-#include "shell/startup.h"
+#include "model/edition_settings.h"
+#include "model/ports.h"
+#include "model/process_state.h"
+#include "model/program_parts.h"
+#include "store/user_inf.h"
 
 namespace lw {
 
@@ -13,12 +16,11 @@ TaxYearChoice rememberedTaxYear(const DateTime& today, const std::string& rememb
     return taxYear;
 }
 
-std::string setUpTaxYears() {
-    Globals& g = program().g;
-    const std::string remembered = readUserInf("LastTaxYear");
-    g.taxYear = rememberedTaxYear(program().platform.now(), remembered);
-    writeUserInf("LastTaxYear", g.taxYear.text());
-    return remembered.empty() ? g.taxYear.text() : remembered;
+std::string setUpTaxYears(const ProgramParts& parts) {
+    const std::string remembered = readUserInf(parts, "LastTaxYear");
+    parts.taxYear = rememberedTaxYear(parts.platform.now(), remembered);
+    writeUserInf(parts, "LastTaxYear", parts.taxYear.text());
+    return remembered.empty() ? parts.taxYear.text() : remembered;
 }
 
 }  // namespace lw

@@ -6,25 +6,27 @@
 
 #include "diagnostics/error_tail.h"
 #include "fields/control_setup.h"
-#include "model/program.h"
+#include "model/open_document.h"
+#include "model/ports.h"
+#include "model/program_parts.h"
+#include "model/taxpayer_memory.h"
 #include "shell/catalogue_form.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/pieces.h"
 
 namespace lw {
 
 namespace {
 
-Globals& g() { return program().g; }
-
 // The three keys of a person go into the record, an absent key as empty; the parts cut from the block
 // are renewed only when there is a block, so a person the store no longer has keeps the name, street
 // and city lines that the last Load TP found.
-void readPerson(const char* slot, TPInfoRec& rec) {
+void readPerson(const ProgramParts& parts, const char* slot, TPInfoRec& rec) {
     const std::string prefix(slot);
-    rec.nameAddr = readUserInf(prefix + "NameAddr");
-    rec.dob = readUserInf(prefix + "DOB");
-    rec.ssn = readUserInf(prefix + "SSN");
+    rec.nameAddr = readUserInf(parts, prefix + "NameAddr");
+    rec.dob = readUserInf(parts, prefix + "DOB");
+    rec.ssn = readUserInf(parts, prefix + "SSN");
     parseNameAddress(rec);
 }
 
@@ -35,32 +37,33 @@ int firstIndexOf(const std::string& list) {
 }
 
 // The general fill: the block to the first name field, the number to the first number field.
-void fillGeneral(Form& form, const TPInfoRec& A) {
-    const int nameIndex = firstIndexOf(g().document.catalogue.nameAddrIndex);
-    const int numberIndex = firstIndexOf(g().document.catalogue.ssnIndex);
+void fillGeneral(Form& form, const CatalogueValues& catalogue, const TPInfoRec& A) {
+    const int nameIndex = firstIndexOf(catalogue.nameAddrIndex);
+    const int numberIndex = firstIndexOf(catalogue.ssnIndex);
     if (nameIndex >= 0) form.at("Text1", nameIndex).text = A.nameAddr;
     if (numberIndex >= 0) form.at("Text1", numberIndex).text = A.ssn;
 }
 
 }  // namespace
 
-void readTaxpayers(const std::string& who) {
+void readTaxpayers(const ProgramParts& parts, const std::string& who) {
     runGuarded("M6_TPInfo:TPInfo_Read", [&] {
-        Form* form = g().document.currentForm;
+        Form* form = parts.document.currentForm;
         if (!form) return;
-        readPerson("TP1", g().taxpayers.taxpayer1);
-        readPerson("TP2", g().taxpayers.taxpayer2);
+        TaxpayerMemory& taxpayers = parts.taxpayers;
+        readPerson(parts, "TP1", taxpayers.taxpayer1);
+        readPerson(parts, "TP2", taxpayers.taxpayer2);
         const bool second = who == "TP 2";
-        const TPInfoRec& A = second ? g().taxpayers.taxpayer2 : g().taxpayers.taxpayer1;
-        const TPInfoRec& B = second ? g().taxpayers.taxpayer1 : g().taxpayers.taxpayer2;
+        const TPInfoRec& A = second ? taxpayers.taxpayer2 : taxpayers.taxpayer1;
+        const TPInfoRec& B = second ? taxpayers.taxpayer1 : taxpayers.taxpayer2;
         // A form that fills itself or goes on in its own way says so; any other has the common rules.
         auto* rules = dynamic_cast<CatalogueForm*>(form);
-        if (!rules || !rules->fillTaxpayers(who, A, B)) fillGeneral(*form, A);
+        if (!rules || !rules->fillTaxpayers(who, A, B)) fillGeneral(*form, parts.document.catalogue, A);
         if (rules)
             rules->afterTaxpayerFill();
         else
-            refocusAfterTaxpayerFill();
-        program().ui.refresh();
+            refocusAfterTaxpayerFill(parts.document);
+        parts.ui.refresh();
     });
 }
 

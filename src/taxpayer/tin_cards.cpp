@@ -4,7 +4,8 @@
 #include <string>
 
 #include "diagnostics/error_tail.h"
-#include "model/program.h"
+#include "model/edition_settings.h"
+#include "model/form.h"
 #include "shell/paths.h"
 #include "store/inf_store.h"
 #include "text/case.h"
@@ -14,8 +15,6 @@
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 struct StoredPerson {
     std::string name;
@@ -33,10 +32,9 @@ std::string firstLine(const std::string& block) {
     return mark == std::string::npos ? block : block.substr(0, mark);
 }
 
-StoredCase readStoredCase() {
+StoredCase readStoredCase(const std::string& userSection, const std::string& userInfFile) {
     StoredCase found;
-    for (const std::string& entry :
-         store::readInfSection(g().process.userNameUpper, g().edition.userInfFile, store::kInfValueBuffer)) {
+    for (const std::string& entry : store::readInfSection(userSection, userInfFile, store::kInfValueBuffer)) {
         const std::size_t eq = entry.find('=');
         if (entry.empty() || eq == std::string::npos) continue;
         const std::string key = text::toLower(entry.substr(0, eq));
@@ -90,9 +88,9 @@ void fillDependentCards(Form& form, const StoredCase& found) {
 
 }  // namespace
 
-void fillTaxpayersCard(Form& form, int who) {
+void fillTaxpayersCard(Form& form, int who, const std::string& userSection, const EditionSettings& edition) {
     runGuarded("M6_TPInfo:TPInfo_Process_TIN_Cards", [&] {
-        const StoredCase found = readStoredCase();
+        const StoredCase found = readStoredCase(userSection, edition.userInfFile);
         for (Control* field : form.arrayOf("Text1")) field->text.clear();
         for (Control* image : form.arrayOf("Image1")) image->picture.clear();
         fillTaxpayerCards(form, found, who);
@@ -101,9 +99,9 @@ void fillTaxpayersCard(Form& form, int who) {
             const std::string& number = form.at("Text1", n).text;
             if (number.empty()) continue;
             if (number[0] == '9')
-                form.at("Image1", n / 2).picture = joinPath(g().edition.picturesFolder, "ITIN.jpg");
+                form.at("Image1", n / 2).picture = joinPath(edition.picturesFolder, "ITIN.jpg");
             else if (number[0] >= '1' && number[0] <= '8')
-                form.at("Image1", n / 2).picture = joinPath(g().edition.picturesFolder, "SSN.jpg");
+                form.at("Image1", n / 2).picture = joinPath(edition.picturesFolder, "SSN.jpg");
         }
     });
 }

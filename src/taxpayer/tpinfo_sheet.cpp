@@ -5,8 +5,12 @@
 
 #include "diagnostics/error_tail.h"
 #include "model/app_error.h"
-#include "model/program.h"
+#include "model/form.h"
+#include "model/open_document.h"
+#include "model/program_parts.h"
+#include "model/taxpayer_memory.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "text/case.h"
 #include "text/cp1252.h"
 #include "text/date_text.h"
@@ -15,8 +19,6 @@
 namespace lw {
 
 namespace {
-
-Globals& g() { return program().g; }
 
 bool isYearDigits(const std::string& s) {
     return !s.empty() && s.size() <= 4 && s.find_first_not_of("0123456789") == std::string::npos;
@@ -48,42 +50,44 @@ std::string ageAtYearEnd(Form& form, const std::string& birthDate, const TaxYear
     return std::to_string(age);
 }
 
-void updateAge(Form& sheet, const std::string& dobIndex, const std::string& ageIndex) {
+void updateAge(Form& sheet, const std::string& dobIndex, const std::string& ageIndex,
+               const TaxYearChoice& taxYear) {
     const Control& dob = sheet.at("Text1", std::stoi(dobIndex));
     Control& age = sheet.at("Text2", std::stoi(ageIndex));
     if (dob.text.empty()) return;
-    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text, g().taxYear);
+    age.text = endsIn20XX(dob.text) ? "N/A" : ageAtYearEnd(sheet, dob.text, taxYear);
 }
 
-void updateAllAges(Form& sheet) {
+void updateAllAges(Form& sheet, const TaxpayerMemory& taxpayers, const TaxYearChoice& taxYear) {
     // A row that cannot be aged leaves the others to be aged all the same.
-    for (const auto& row : g().taxpayers.personTable)
-        runGuarded("F5_TPInfo:UpdateAge", [&] { updateAge(sheet, row[1], row[2]); });
+    for (const auto& row : taxpayers.personTable)
+        runGuarded("F5_TPInfo:UpdateAge", [&] { updateAge(sheet, row[1], row[2], taxYear); });
 }
 
-void saveTaxpayerSheet() {
-    runGuarded("M6_TPInfo:TPInfo_Save", [] {
+void saveTaxpayerSheet(const ProgramParts& parts) {
+    runGuarded("M6_TPInfo:TPInfo_Save", [&parts] {
         std::string fields[6];
         const std::vector<std::string> pieces =
-            text::split(g().document.formRecord, std::string(1, text::kFieldSeparator));
+            text::split(parts.document.formRecord, std::string(1, text::kFieldSeparator));
         for (std::size_t i = 2; i < pieces.size(); ++i) {
             const std::string head = text::toUpper(pieces[i].substr(0, 5));
             for (int k = 0; k < 6; ++k)
                 if (head == "TXT" + std::to_string(k) + "=") fields[k] = pieces[i].substr(5);
         }
-        writeUserInf("TP1NameAddr", fields[0]);
-        writeUserInf("TP1SSN", fields[1]);
-        writeUserInf("TP1DOB", fields[2]);
-        writeUserInf("TP2NameAddr", fields[3]);
-        writeUserInf("TP2SSN", fields[4]);
-        writeUserInf("TP2DOB", fields[5]);
-        Form* sheet = g().document.currentForm;
+        writeUserInf(parts, "TP1NameAddr", fields[0]);
+        writeUserInf(parts, "TP1SSN", fields[1]);
+        writeUserInf(parts, "TP1DOB", fields[2]);
+        writeUserInf(parts, "TP2NameAddr", fields[3]);
+        writeUserInf(parts, "TP2SSN", fields[4]);
+        writeUserInf(parts, "TP2DOB", fields[5]);
+        Form* sheet = parts.document.currentForm;
         if (!sheet) return;
         for (int i = 6, k = 1; i <= 30; i += 4, ++k) {
             const std::string& name = sheet->at("Text1", i).text;
             const std::string& number = sheet->at("Text1", i + 1).text;
             const bool blank = text::trim(name).empty() && text::trim(number).empty();
-            writeUserInf("Dependent" + std::to_string(k), blank ? "" : name + text::kFieldSeparator + number);
+            writeUserInf(parts, "Dependent" + std::to_string(k),
+                         blank ? "" : name + text::kFieldSeparator + number);
         }
     });
 }

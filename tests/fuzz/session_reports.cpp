@@ -57,6 +57,14 @@ std::string latestBoxMessage() {
     return lastMessageBox() ? lastMessageBox()->message : std::string();
 }
 
+// The list of K-1 codes on the screen, the last one opened; none when no list is open.
+const K1HelpForm* openK1List() {
+    const auto forms = program().desktop.forms();
+    for (auto it = forms.rbegin(); it != forms.rend(); ++it)
+        if (const auto* list = dynamic_cast<const K1HelpForm*>(*it)) return list;
+    return nullptr;
+}
+
 std::string userStoreValue(const std::string& key) {
     return store::readInfValue(program().g.process.userNameUpper, key, "", program().g.edition.userInfFile);
 }
@@ -101,8 +109,10 @@ const std::map<std::string, Rule>& rules() {
     static const std::map<std::string, Rule> all = {
         {"k1-line-with-fewer-than-three-parts",
          [](const ShownReport&, const SessionFacts&) {
-             const auto lines = store::readInfSection(
-                 k1HelpMembers().listSectionKey, program().g.edition.k1HelpInfFile, kK1HelpSectionBuffer);
+             const K1HelpForm* list = openK1List();
+             if (!list) return false;
+             const auto lines =
+                 store::readInfSection(list->sectionKey(), list->infFile(), kK1HelpSectionBuffer);
              return std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
                  return std::count(line.begin(), line.end(), '|') < 2;
              });

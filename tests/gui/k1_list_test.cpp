@@ -51,7 +51,8 @@ protected:
     void callList() {
         Control& code = form_->at("Text2", 0);
         desktop().setFocus(code);
-        desktop().dispatch([&] { openK1CodeList(*form_, code, kept); });
+        desktop().dispatch(
+            [&] { openK1CodeList(*form_, code, kept, program_->g.edition.k1HelpInfFile, members_); });
     }
     // The middle of a row of the grid, the header being row 0.
     static QPoint rowPoint(const Form& list, int row) {
@@ -64,6 +65,7 @@ protected:
     QTemporaryDir folder_;
     Form* form_ = nullptr;
     K1DesignValues kept;
+    K1HelpMembers members_;
 };
 
 TEST_F(K1ListTest, TheDialogShowsTheRowsAndAClickPicksACode) {
@@ -118,7 +120,7 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
     EXPECT_EQ(form_->at("Text2", 0).text, "H");
     EXPECT_EQ(form_->at("Text3", 0).tag, "MONEY");
     EXPECT_EQ(desktop().focus(), &form_->at("Text2", 0));
-    EXPECT_FALSE(k1HelpMembers().listCancelled) << "only the Cancel button sets it";
+    EXPECT_FALSE(members_.listCancelled) << "only the Cancel button sets it";
 }
 
 // The shipped lists of one box of each form and the longest list, drawn as the dialog shows them. With
@@ -126,8 +128,9 @@ TEST_F(K1ListTest, EscapeClosesTheListAsCancelDoes) {
 TEST_F(K1ListTest, TheShippedListsDrawEveryRowInsideTheDialog) {
     program_->g.edition.k1HelpInfFile = std::string(LW_BIN_DIR) + "/K1Help.inf";
     for (const char* key : {"K1-1041-Box13", "K1-1065-Box15", "K1-1065-Box20", "K1-1120S-Box17"}) {
-        k1HelpMembers().listSectionKey = key;
-        Form& list = desktop().load(std::make_unique<K1HelpForm>(), false);
+        members_.listSectionKey = key;
+        Form& list =
+            desktop().load(std::make_unique<K1HelpForm>(members_, program_->g.edition.k1HelpInfFile), false);
         const QImage picture = renderForm(list);
         const Control& grid = list.at("Grid1");
         EXPECT_GT(grid.items.size(), 8u) << key;

@@ -77,7 +77,7 @@ TEST_F(ConfigureFormTest, TheMarkersAreReplacedInAnyCase) {
     owned->TaxYear1.caption = "25";
     g().document.currentForm = owned.get();
     g().rates.filingStatus = FilingStatus::MarriedSeparately;
-    configureFormCommonInit(*owned);
+    configureFormCommonInit(*owned, g().edition.ssmcInfFile, g().rates);
     EXPECT_EQ(owned->lblMC[0]->caption, "up to 125,000.00 and 125,000.00");
     EXPECT_EQ(owned->lblMC[2]->caption, "over 125,000.00:");
 }

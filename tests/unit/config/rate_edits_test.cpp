@@ -159,7 +159,7 @@ protected:
 
 TEST_F(ValidateAllTest, SixGoodFiguresPassAndTakeTheirNormalForm) {
     fill("6.2%", "176100", "1.45", "200000", "2.35%", "2220");
-    EXPECT_TRUE(validateAllRates());
+    EXPECT_TRUE(validateAllRates(*form));
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(field("txtSSRate").text, "6.2");
     EXPECT_EQ(field("txtSSMax").text, "176,100.00");
@@ -170,7 +170,7 @@ TEST_F(ValidateAllTest, SixGoodFiguresPassAndTakeTheirNormalForm) {
 
 TEST_F(ValidateAllTest, TheFirstBadFigureInFormOrderEndsIt) {
     fill("6.2", "176100", "100", "2000000", "2.35", "2220");
-    EXPECT_FALSE(validateAllRates());
+    EXPECT_FALSE(validateAllRates(*form));
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].message, dataErrorText(kRateProc, 802, kMCRateFormat));
     EXPECT_EQ(desktop().focus(), &field("txtMCInitRate"));

@@ -26,7 +26,7 @@ protected:
     void loadYear(const char* digits, FilingStatus status) {
         showYear(digits);
         g().rates.filingStatus = status;
-        loadRates();
+        loadRates(*form, g().edition.ssmcInfFile, g().rates);
     }
     const Rates& rates() { return g().rates; }
     static std::optional<text::Currency> cents(std::int64_t count) {
@@ -127,7 +127,7 @@ TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
     form->txtSSMax.text = "180,000.40";
     form->txtMCChgRateAfter.text = "168600.5";
     form->txtMCPartBPremiums.text = "2300";
-    storeRates();
+    storeRates(*form, g().edition.ssmcInfFile, g().rates);
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ssmc("2025", "SSRate"), "6.5");
     EXPECT_EQ(ssmc("2025", "SSMax"), "180000");
@@ -152,7 +152,7 @@ TEST_F(RatesStoreTest, SaveWritesTheSixFiguresOfTheFormsYear) {
 TEST_F(RatesStoreTest, SaveGoesToTheSectionShownOnTheForm) {
     loadYear("XX", FilingStatus::Single);
     form->txtSSRate.text = "8";
-    storeRates();
+    storeRates(*form, g().edition.ssmcInfFile, g().rates);
     EXPECT_EQ(ssmc("20XX", "SSRate"), "8");
     EXPECT_EQ(ssmc("20XX", "SSMax"), "190000");
     EXPECT_EQ(ssmc("2025", "SSRate"), "6.2");
@@ -163,7 +163,7 @@ TEST_F(RatesStoreTest, SaveWithABadFigureWritesNothing) {
     const std::string before = readFile(g().edition.ssmcInfFile);
     form->txtSSRate.text = "6.5";
     form->txtMCRateAfter.text = "12.5";
-    storeRates();
+    storeRates(*form, g().edition.ssmcInfFile, g().rates);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].message,
               dataErrorText("M3_Ledgerwick:SS_MC_Edit_Rate", 802,
@@ -196,7 +196,7 @@ protected:
 
 TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
     loadYear("25", FilingStatus::Single);
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 0);
 }
@@ -204,7 +204,7 @@ TEST_F(CheckChangesTest, UnchangedFiguresAskNothing) {
 TEST_F(CheckChangesTest, UnchangedFiguresEndTheProgramWhenTheFrameIsQuitting) {
     loadYear("25", FilingStatus::Single);
     g().process.quitting = true;
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(ui.quitCalls, 1);
 }
@@ -213,7 +213,7 @@ TEST_F(CheckChangesTest, AChangedFigureShowsTheTableAndYesSavesIt) {
     loadYear("25", FilingStatus::Single);
     form->txtSSRate.text = "6.5";
     ui.queueAnswer("Yes");
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].title, "M3_Ledgerwick:SS_MC_Check_Changes");
     EXPECT_EQ(boxes[0].number, 800);
@@ -236,7 +236,7 @@ TEST_F(CheckChangesTest, NoLeavesTheFileAsItWas) {
     form->txtMCPartBPremiums.text = "2,300.00";
     ui.queueAnswer("No");
     g().process.quitting = true;
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2220.00 2,300.00\r\n"), std::string::npos);
     EXPECT_EQ(readFile(g().edition.ssmcInfFile), before);
@@ -247,7 +247,7 @@ TEST_F(CheckChangesTest, TheChangePointIsComparedWithTheOneSavedValue) {
     // Married filing jointly shows 250,000.00, while the saved change point is 200000.
     loadYear("25", FilingStatus::MarriedJointly);
     ui.queueAnswer("No");
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("MC Change Rate After     200000   250000\r\n"), std::string::npos);
 }
@@ -257,7 +257,7 @@ TEST_F(CheckChangesTest, TheStoredYearIsTheOneInForce) {
     loadYear("25", FilingStatus::Single);
     g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::NextYear);
     ui.queueAnswer("No");
-    offerToSaveChangedRates();
+    offerToSaveChangedRates(*form, program().parts);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_NE(boxes[0].message.find("SS Max                   184500   176100\r\n"), std::string::npos);
     EXPECT_NE(boxes[0].message.find("MC Max Medicare         2434.80  2220.00\r\n"), std::string::npos);

@@ -13,8 +13,8 @@ namespace {
 constexpr Color kGreen = 0x0000C000;
 constexpr Color kPaleGreen = 0x00C0FFC0;
 
-MessageBoxButton oneButton(const std::string& message, int number = kNoMessageNumber) {
-    return showMessageBox({"M9_Test:Box", message, number}).button;
+MessageBoxButton oneButton(Desktop& desktop, const std::string& message, int number = kNoMessageNumber) {
+    return showMessageBox(desktop, {"M9_Test:Box", message, number}).button;
 }
 
 // Words of nine letters and a blank: blanks stand at positions 10, 20, 30 ...
@@ -28,7 +28,7 @@ std::string wordsLine(int words) {
 }
 
 TEST_F(DiagnosticsTest, OneShortLineLeavesTheFormAtDesignHeightPlus100) {
-    oneButton("Saved.");
+    oneButton(prog().desktop, "Saved.");
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.height, 2300);
     EXPECT_EQ(box.labelHeight, 355);
@@ -37,9 +37,9 @@ TEST_F(DiagnosticsTest, OneShortLineLeavesTheFormAtDesignHeightPlus100) {
 }
 
 TEST_F(DiagnosticsTest, EveryLineGrowsTheFormByTheLabelsHeight) {
-    oneButton(
-        "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
-        "Ledgerwick ICON on the Taskbar to restore.");
+    oneButton(prog().desktop,
+              "The Ledgerwick is already running.\r\nIf the Ledgerwick is minimized, Click the\r\n"
+              "Ledgerwick ICON on the Taskbar to restore.");
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.labelHeight, 3 * 255 + 100);
     EXPECT_EQ(box.height, 2200 + 3 * 255 + 100 - 255);
@@ -48,13 +48,13 @@ TEST_F(DiagnosticsTest, EveryLineGrowsTheFormByTheLabelsHeight) {
 }
 
 TEST_F(DiagnosticsTest, LinesAreTrimmed) {
-    oneButton("   first   \r\n  second\rthird  ");
+    oneButton(prog().desktop, "   first   \r\n  second\rthird  ");
     EXPECT_EQ(ui.boxes.at(0).record.shownText, "first\rsecond\rthird");
 }
 
 // As the classic Split, an empty text has no line at all: the label keeps only its 100 twips.
 TEST_F(DiagnosticsTest, EmptyMessageCountsNoLine) {
-    oneButton("   ");
+    oneButton(prog().desktop, "   ");
     EXPECT_EQ(ui.boxes.at(0).record.shownText, "");
     EXPECT_EQ(ui.boxes.at(0).labelHeight, 100);
     EXPECT_EQ(ui.boxes.at(0).height, 2200 + 100 - 255);
@@ -91,7 +91,7 @@ TEST(BreakLongMessageLine, NoBlankInTheFirst50IsError5) {
 TEST_F(DiagnosticsTest, LineOver100CharactersIsBrokenOnceOnly) {
     const std::string line = wordsLine(12);  // 119 characters
     ASSERT_EQ(line.size(), 119u);
-    oneButton(line);
+    oneButton(prog().desktop, line);
     const std::string shown = ui.boxes.at(0).record.shownText;
     const std::string first = line.substr(0, 49);
     const std::string second = line.substr(50);
@@ -105,7 +105,7 @@ TEST_F(DiagnosticsTest, LongLineWithoutBlankDoesNotEndTheProgram) {
     const std::string line(60, 'X');
     ui.queueReport("", "exit");
     ui.queueAnswer("OK");
-    EXPECT_EQ(oneButton("Short line\r\n" + line), MessageBoxButton::First);
+    EXPECT_EQ(oneButton(prog().desktop, "Short line\r\n" + line), MessageBoxButton::First);
     // The fault is reported through the tail, then the box shows the line as it is.
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F8_ErrLog", "F9_MBX"}));
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -120,12 +120,12 @@ TEST_F(DiagnosticsTest, LongLineWithoutBlankDoesNotEndTheProgram) {
 }
 
 TEST_F(DiagnosticsTest, EachUnbreakableLineIsReported) {
-    oneButton(std::string(55, 'A') + "\r" + std::string(70, 'B'));
+    oneButton(prog().desktop, std::string(55, 'A') + "\r" + std::string(70, 'B'));
     EXPECT_EQ(ui.modalForms, (std::vector<std::string>{"F8_ErrLog", "F8_ErrLog", "F9_MBX"}));
 }
 
 TEST_F(DiagnosticsTest, SingleButtonShowsAloneInTheDefaultColour) {
-    oneButton("One");
+    oneButton(prog().desktop, "One");
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonVisible, (std::array<bool, 4>{true, false, false, false}));
     EXPECT_EQ(box.buttonColors[0], kGreen);
@@ -136,11 +136,11 @@ TEST_F(DiagnosticsTest, SingleButtonShowsAloneInTheDefaultColour) {
 
 TEST_F(DiagnosticsTest, DefaultButtonNumberNoButtonBearsColoursNoneGreen) {
     ui.queueAnswer("Venturo");
-    showMessageBox({"Ledgerwick - Testing",
-                    "Choose System to Test",
-                    kNoMessageNumber,
-                    {"Venturo", "Other"},
-                    MessageBoxButton::None});
+    showMessageBox(prog().desktop, {"Ledgerwick - Testing",
+                                    "Choose System to Test",
+                                    kNoMessageNumber,
+                                    {"Venturo", "Other"},
+                                    MessageBoxButton::None});
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonVisible, (std::array<bool, 4>{true, true, false, false}));
     EXPECT_EQ(box.buttonColors[0], kPaleGreen);
@@ -151,7 +151,8 @@ TEST_F(DiagnosticsTest, DefaultButtonNumberNoButtonBearsColoursNoneGreen) {
 
 TEST_F(DiagnosticsTest, DefaultFallsOnItsNumberAmongFour) {
     ui.queueAnswer("C");
-    showMessageBox({"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "B", "C", "D"}, MessageBoxButton::Third});
+    showMessageBox(prog().desktop,
+                   {"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "B", "C", "D"}, MessageBoxButton::Third});
     const SeenBox& box = ui.boxes.at(0);
     EXPECT_EQ(box.buttonColors, (std::array<Color, 4>{kPaleGreen, kPaleGreen, kGreen, kPaleGreen}));
     EXPECT_EQ(box.record.buttons, (std::array<std::string, 4>{"A", "B", "C", "D"}));
@@ -160,6 +161,7 @@ TEST_F(DiagnosticsTest, DefaultFallsOnItsNumberAmongFour) {
 TEST_F(DiagnosticsTest, HiddenMiddleButtonKeepsTheOthersNumbers) {
     ui.queueAnswer("D");
     EXPECT_EQ(showMessageBox(
+                  prog().desktop,
                   {"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "", "", "D"}, MessageBoxButton::Fourth})
                   .button,
               MessageBoxButton::Fourth);

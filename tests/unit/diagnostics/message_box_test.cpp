@@ -11,8 +11,8 @@
 namespace lw::test {
 namespace {
 
-MessageBoxButton oneButton(const std::string& message, int number = kNoMessageNumber) {
-    return showMessageBox({"M9_Test:Box", message, number}).button;
+MessageBoxButton oneButton(Desktop& desktop, const std::string& message, int number = kNoMessageNumber) {
+    return showMessageBox(desktop, {"M9_Test:Box", message, number}).button;
 }
 
 const MessageBoxRequest kChooseSystem{"Ledgerwick - Testing",
@@ -50,17 +50,17 @@ TEST_F(DiagnosticsTest, LoadNotesTheLabelsDesignHeight) {
         EXPECT_EQ(box.lblMessageDesignHeight, MessageBoxForm::kLabelDesignHeight);
         box.unload();
     });
-    oneButton("Hello");
+    oneButton(prog().desktop, "Hello");
 }
 
 TEST_F(DiagnosticsTest, AnswerIsThePlaceOfThePressedButton) {
     ui.queueAnswer("Other");
-    EXPECT_EQ(showMessageBox(kChooseSystem).button, MessageBoxButton::Second);
+    EXPECT_EQ(showMessageBox(prog().desktop, kChooseSystem).button, MessageBoxButton::Second);
     ASSERT_TRUE(lastMessageBox().has_value());
     EXPECT_EQ(lastMessageBox()->answer, MessageBoxButton::Second);
     EXPECT_EQ(lastMessageBox()->answerCaption(), "Other");
     ui.queueAnswer("Venturo");
-    EXPECT_EQ(showMessageBox(kChooseSystem).button, MessageBoxButton::First);
+    EXPECT_EQ(showMessageBox(prog().desktop, kChooseSystem).button, MessageBoxButton::First);
     EXPECT_EQ(lastMessageBox()->answerCaption(), "Venturo");
 }
 
@@ -70,22 +70,23 @@ TEST_F(DiagnosticsTest, EachOfFourButtonsAnswersWithItsPlace) {
     const MessageBoxRequest pick{"M9_Test:Box", "Pick", kNoMessageNumber, {"A", "B", "C", "D"}};
     for (int i = 0; i < 4; ++i) {
         ui.queueAnswer(pick.buttons[static_cast<std::size_t>(i)]);
-        EXPECT_EQ(showMessageBox(pick).button, places[i]) << pick.buttons[static_cast<std::size_t>(i)];
+        EXPECT_EQ(showMessageBox(prog().desktop, pick).button, places[i])
+            << pick.buttons[static_cast<std::size_t>(i)];
     }
 }
 
 TEST_F(DiagnosticsTest, BoxLeftWithoutAButtonAnswersNothing) {
     const MessageBoxRequest ask{"M9_Test:Box", "First", kNoMessageNumber, {"Yes", "No"}};
     ui.queueAnswer("Yes");
-    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::First);
+    EXPECT_EQ(showMessageBox(prog().desktop, ask).button, MessageBoxButton::First);
     ui.queue([](Form&) {});
-    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::None);
+    EXPECT_EQ(showMessageBox(prog().desktop, ask).button, MessageBoxButton::None);
     EXPECT_EQ(lastMessageBox()->answerCaption(), "");
     EXPECT_TRUE(prog().desktop.forms().empty());
 }
 
 TEST_F(DiagnosticsTest, NumberOtherThan800StandsOnTheFirstLine) {
-    oneButton("Duplicate SS/ITIN Number on this screen", 801);
+    oneButton(prog().desktop, "Duplicate SS/ITIN Number on this screen", 801);
     ASSERT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(ui.boxes[0].record.message, "Message Number: 801\r\nDuplicate SS/ITIN Number on this screen");
     EXPECT_EQ(ui.boxes[0].record.shownText, "Message Number: 801\rDuplicate SS/ITIN Number on this screen");
@@ -93,20 +94,20 @@ TEST_F(DiagnosticsTest, NumberOtherThan800StandsOnTheFirstLine) {
 }
 
 TEST_F(DiagnosticsTest, Number800AddsNoLine) {
-    oneButton("Just this");
+    oneButton(prog().desktop, "Just this");
     EXPECT_EQ(ui.boxes.at(0).record.message, "Just this");
     EXPECT_EQ(ui.boxes.at(0).record.shownText, "Just this");
 }
 
 TEST_F(DiagnosticsTest, TitleIsTheCaption) {
-    showMessageBox({"F0_MDI:cmdBtn_Click", "x", 801});
+    showMessageBox(prog().desktop, {"F0_MDI:cmdBtn_Click", "x", 801});
     EXPECT_EQ(ui.boxes.at(0).record.title, "F0_MDI:cmdBtn_Click");
 }
 
 TEST_F(DiagnosticsTest, UnansweredBoxTakesItsDefaultButton) {
     MessageBoxRequest ask{"M9_Test:Box", "Save?", kNoMessageNumber, {"Yes", "No"}};
     ask.defaultButton = MessageBoxButton::Second;
-    EXPECT_EQ(showMessageBox(ask).button, MessageBoxButton::Second);
+    EXPECT_EQ(showMessageBox(prog().desktop, ask).button, MessageBoxButton::Second);
     EXPECT_EQ(lastMessageBox()->answerCaption(), "No");
 }
 
@@ -121,7 +122,7 @@ TEST_F(DiagnosticsTest, InputLineShowsTheAnswerTextAndTheFirstTwoButtonsReadItBa
             box.Text1.text = "NEW NAME";
             ui.press(*box.buttonWithCaption(caption));
         });
-        const MessageBoxAnswer answer = showMessageBox(askName("OLD NAME"));
+        const MessageBoxAnswer answer = showMessageBox(prog().desktop, askName("OLD NAME"));
         EXPECT_EQ(answer.button, place) << caption;
         EXPECT_EQ(answer.text, "NEW NAME") << caption;
         EXPECT_EQ(lastMessageBox()->answerText, "NEW NAME") << caption;
@@ -137,7 +138,7 @@ TEST_F(DiagnosticsTest, ThirdAndFourthButtonsDoNotReadTheInput) {
             box.Text1.text = "TYPED";
             ui.press(*box.buttonWithCaption(caption));
         });
-        const MessageBoxAnswer answer = showMessageBox(askName("OLD NAME"));
+        const MessageBoxAnswer answer = showMessageBox(prog().desktop, askName("OLD NAME"));
         EXPECT_EQ(answer.button, place) << caption;
         EXPECT_EQ(answer.text, "OLD NAME") << caption;
     }
@@ -152,7 +153,7 @@ TEST_F(DiagnosticsTest, WithoutTheInputFlagTheInputIsHiddenAndNotRead) {
         box.Text1.text = "TYPED";
         ui.press(box.cmd1);
     });
-    const MessageBoxAnswer answer = showMessageBox(ask);
+    const MessageBoxAnswer answer = showMessageBox(prog().desktop, ask);
     EXPECT_EQ(answer.button, MessageBoxButton::First);
     EXPECT_EQ(answer.text, "KEEP");
 }
@@ -160,7 +161,7 @@ TEST_F(DiagnosticsTest, WithoutTheInputFlagTheInputIsHiddenAndNotRead) {
 TEST_F(DiagnosticsTest, InputSitsBelowTheGrownLabel) {
     MessageBoxRequest ask{"M9_Test:Ask", "Two\r\nlines", 802};
     ask.showText = true;
-    showMessageBox(ask);
+    showMessageBox(prog().desktop, ask);
     const SeenBox& box = ui.boxes.at(0);
     // Three lines with the number line.
     EXPECT_EQ(box.text1Top, 240 + 3 * 255 + 100 + 100);
@@ -177,16 +178,16 @@ TEST_F(DiagnosticsTest, ActivationLaysTheBoxOutOnce) {
         EXPECT_EQ(box.cmd1.top, top);
         box.unload();
     });
-    oneButton("Once");
+    oneButton(prog().desktop, "Once");
 }
 
 TEST_F(DiagnosticsTest, ObserversSeeEachBoxWithItsAnswer) {
     std::vector<MessageBoxRecord> seen;
     const int id = addMessageBoxObserver([&](const MessageBoxRecord& r) { seen.push_back(r); });
     ui.queueAnswer("No");
-    showMessageBox({"F7_Save:Ask", "Replace?", 804, {"Yes", "No"}});
+    showMessageBox(prog().desktop, {"F7_Save:Ask", "Replace?", 804, {"Yes", "No"}});
     removeMessageBoxObserver(id);
-    oneButton("Not seen");
+    oneButton(prog().desktop, "Not seen");
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0].title, "F7_Save:Ask");
     EXPECT_EQ(seen[0].number, 804);
@@ -201,7 +202,7 @@ TEST_F(DiagnosticsTest, ObserversSeeEachBoxWithItsAnswer) {
 TEST_F(DiagnosticsTest, FaultShowingTheBoxGoesToTheTailAndAnswersNothing) {
     ui.failNextShowingOf = "F9_MBX";
     ui.failureText = "view failed";
-    EXPECT_EQ(oneButton("x"), MessageBoxButton::None);
+    EXPECT_EQ(oneButton(prog().desktop, "x"), MessageBoxButton::None);
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->module, "M2_VenturoCommon:MA_MBX");
     EXPECT_EQ(lastErrorReport()->description, "view failed");
@@ -215,7 +216,7 @@ TEST_F(DiagnosticsTest, BoxIsNotTheActiveChild) {
         EXPECT_EQ(prog().desktop.activeChild(), &w2);
         form.unload();
     });
-    oneButton("Over the form");
+    oneButton(prog().desktop, "Over the form");
     EXPECT_EQ(prog().desktop.activeChild(), &w2);
 }
 

@@ -123,8 +123,12 @@ struct Documents : ::testing::Test {
     // The Open command with the dialog answered by `path`.
     void openFile(const std::string& path) {
         test.ui.fileAnswers.push_back(path);
-        openDataFile();
+        openDataFile(test.program->parts);
     }
+    // The line of the document's form, as a save builds it.
+    std::optional<std::string> record() { return buildRecord(g.document.currentForm, g.document); }
+    // Reads the document's file, as the Open command does once a file is chosen.
+    Form* readCurrentFile() { return readDataFile(g.document.currentFileName, test.program->parts); }
 
     Form* active() { return test.program->desktop.activeChild(); }
     Control& field(const std::string& name, int index = kNoIndex) {

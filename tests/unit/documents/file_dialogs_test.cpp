@@ -13,14 +13,14 @@ constexpr const char* kSaveTitle =
     "Save Form File - MAKE SURE YOU SELECT THE PROPER FOLDER TO SAVE THE FILE IN";
 
 TEST_F(FileDialogs, CancelGivesNoPath) {
-    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), std::nullopt);
-    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Save, "A.venturo"), std::nullopt);
+    EXPECT_EQ(chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, ""), std::nullopt);
+    EXPECT_EQ(chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Save, "A.venturo"), std::nullopt);
     EXPECT_EQ(test.ui.fileDialogs.size(), 2u);
 }
 
 TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
     store::writeInfValue("TESTER", "LastOpenFolder", files.string(), g.edition.userInfFile);
-    chooseFileToOpenOrSave(FileDialogMode::Open, "ignored.venturo");
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, "ignored.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
     EXPECT_FALSE(asked.save);
@@ -33,7 +33,7 @@ TEST_F(FileDialogs, TheOpenDialogAsksWithItsTitleFilterAndRememberedFolder) {
 
 TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
     store::writeInfValue("TESTER", "LastSaveFolder", "/somewhere/saved", g.edition.userInfFile);
-    chooseFileToOpenOrSave(FileDialogMode::Save, "DOE,JOHN_W2_000.venturo");
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Save, "DOE,JOHN_W2_000.venturo");
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& asked = test.ui.fileDialogs[0];
     EXPECT_TRUE(asked.save);
@@ -44,16 +44,16 @@ TEST_F(FileDialogs, TheSaveDialogProposesTheNameInItsOwnFolder) {
 
 TEST_F(FileDialogs, ANameLongerThanTheBufferIsNotOfferedWhole) {
     const std::string longName = std::string(300, 'N') + ".venturo";
-    chooseFileToOpenOrSave(FileDialogMode::Save, longName);
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Save, longName);
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, std::string(256, 'N'));
 }
 
 TEST_F(FileDialogs, AnEmptyFolderFallsBackToTheTaxFormsFolderThenToTheDialogsOwn) {
     store::writeInfValue("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
-    chooseFileToOpenOrSave(FileDialogMode::Open, "");
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, "");
     store::writeInfValue("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
-    chooseFileToOpenOrSave(FileDialogMode::Open, "");
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, "");
     ASSERT_EQ(test.ui.fileDialogs.size(), 2u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "") << "the dialog's own default";
     EXPECT_EQ(test.ui.fileDialogs[1].startFolder, "/training/forms");
@@ -63,14 +63,14 @@ TEST_F(FileDialogs, ASaveInANewFolderMovesOnlyTheSaveFolder) {
     store::writeInfValue("TESTER", "LastOpenFolder", "/open/here", g.edition.userInfFile);
     store::writeInfValue("TESTER", "LastSaveFolder", "/save/here", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/new/place/DOE_W2_000.venturo");
-    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Save, "DOE_W2_000.venturo"),
+    EXPECT_EQ(chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Save, "DOE_W2_000.venturo"),
               "/new/place/DOE_W2_000.venturo");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
     EXPECT_EQ(g.choices.lastSaveFolder, "/new/place");
     EXPECT_EQ(userInf("LastOpenFolder"), "/open/here");
 
     test.ui.fileAnswers.push_back("/elsewhere/x.venturo");
-    chooseFileToOpenOrSave(FileDialogMode::Open, "");
+    chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, "");
     EXPECT_EQ(userInf("LastOpenFolder"), "/elsewhere");
     EXPECT_EQ(g.choices.lastOpenFolder, "/elsewhere");
     EXPECT_EQ(userInf("LastSaveFolder"), "/new/place");
@@ -80,19 +80,20 @@ TEST_F(FileDialogs, TheSameFolderAsTheStartIsNotWritten) {
     store::writeInfValue("TESTER", "LastOpenFolder", "", g.edition.userInfFile);
     store::writeInfValue("TaxForms", "Folder", "/training/forms", g.edition.userInfFile);
     test.ui.fileAnswers.push_back("/training/forms/a.venturo");
-    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), "/training/forms/a.venturo");
+    EXPECT_EQ(chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, ""),
+              "/training/forms/a.venturo");
     EXPECT_EQ(userInf("LastOpenFolder"), "") << "the folder equals the start folder of the fall-back";
 }
 
 TEST_F(FileDialogs, TheAnswerIsCutAtItsFirstNul) {
     test.ui.fileAnswers.push_back(std::string("/cut/here.venturo\0rest", 22));
-    EXPECT_EQ(chooseFileToOpenOrSave(FileDialogMode::Open, ""), "/cut/here.venturo");
+    EXPECT_EQ(chooseFileToOpenOrSave(test.program->parts, FileDialogMode::Open, ""), "/cut/here.venturo");
 }
 
 TEST_F(FileDialogs, AFolderThatHasGoneIsForgottenBeforeTheOpenDialog) {
     store::writeInfValue("TESTER", "LastOpenFolder", (test.root / "vanished").string(),
                          g.edition.userInfFile);
-    openDataFile();
+    openDataFile(test.program->parts);
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].startFolder, "");
     EXPECT_EQ(userInf("LastOpenFolder"), "");

@@ -16,7 +16,7 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
     form.at("Text1", 0).text = "MARY A SAMPLE\r\n12 MAIN ST";
     form.at("Text1", 3).text = "1,234.00";
     form.at("Check", 2).caption = "X";
-    const std::string path = write("w2.venturo", buildRecord().value() + "\r\n");
+    const std::string path = write("w2.venturo", record().value() + "\r\n");
     open("F4_CHK");
     openFile(path);
     ASSERT_NE(active(), nullptr);
@@ -34,14 +34,14 @@ TEST_F(ReadFile, ASavedFormComesBackWhole) {
 
 TEST_F(ReadFile, ReturnsTheFormItFilled) {
     g.document.currentFileName = write("w2.venturo", "W-2" + D + "2025" + D + "TXT0=A\r\n");
-    Form* read = readDataFile();
+    Form* read = readCurrentFile();
     ASSERT_NE(read, nullptr);
     EXPECT_EQ(read, active());
     EXPECT_EQ(read->name(), "TF_W2");
     EXPECT_EQ(g.document.catalogue.formTitle, "TF_W2");
     EXPECT_EQ(read->at("Text1", 0).text, "A");
     g.document.currentFileName.clear();
-    EXPECT_EQ(readDataFile(), nullptr) << "no file, nothing read";
+    EXPECT_EQ(readCurrentFile(), nullptr) << "no file, nothing read";
 }
 
 TEST_F(ReadFile, TheFileNamesTheFormWhateverIsOnTheScreenAndTheYearInForceStays) {
@@ -158,7 +158,7 @@ TEST_F(ReadFile, FilesThatAreNoRecordAreRefusedUnchangedWithAMessage) {
         test.ui.boxes.clear();
         const std::string path = write(file.name, file.bytes);
         g.document.currentFileName = path;
-        EXPECT_EQ(readDataFile(), nullptr);
+        EXPECT_EQ(readCurrentFile(), nullptr);
         EXPECT_EQ(active(), before) << "nothing is unloaded for a file that is no record";
         EXPECT_EQ(contents(path), file.bytes);
         ASSERT_EQ(test.ui.boxes.size(), 1u);
@@ -177,7 +177,7 @@ TEST_F(ReadFile, AMissingFileIsReported) {
 
 TEST_F(ReadFile, CancelInOpenModeLeavesNoForm) {
     open("TF_W2");
-    openDataFile();
+    openDataFile(test.program->parts);
     EXPECT_EQ(active(), nullptr);
     EXPECT_EQ(g.document.currentFileName, D);
     EXPECT_TRUE(test.ui.boxes.empty());
@@ -220,7 +220,7 @@ TEST_F(ReadFile, TheLicenseGetsItsPicturesBack) {
     EXPECT_EQ(license.license2PictureIndex, 0);
     EXPECT_EQ(license.at("Picture2").picture, g.edition.picturesFolder + "/P7GS.jpg");
     EXPECT_EQ(license.at("Picture4").picture, "");
-    EXPECT_EQ(buildRecord(), "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0");
+    EXPECT_EQ(record(), "DL" + D + D + "TXT0=JOHN DOE" + D + "PIC1=7" + D + "PIC2=0");
 }
 
 TEST_F(ReadFile, TheCardsShowTheirKindByTheFirstDigit) {

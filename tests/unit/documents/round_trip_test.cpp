@@ -26,10 +26,11 @@ struct StartedProgram : ::testing::TestWithParam<std::string> {
     // Saves the open form to a file of that name, unloads it and opens the file: the form read back.
     Form* saveAndReadBack(Form& form, const std::string& fileName) {
         const std::string path = (test.root / fileName).string();
-        std::ofstream(path, std::ios::binary) << buildRecord().value_or("") << "\r\n";
+        std::ofstream(path, std::ios::binary)
+            << buildRecord(&form, test.program->g.document).value_or("") << "\r\n";
         form.unload();
         test.program->g.document.currentFileName = path;
-        const Form* read = readDataFile();
+        const Form* read = readDataFile(path, test.program->parts);
         EXPECT_NE(read, nullptr);
         if (read) {
             EXPECT_EQ(read->name(), GetParam());

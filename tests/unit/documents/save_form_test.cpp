@@ -42,7 +42,7 @@ struct SaveFormTest : ::testing::Test {
 
     // The form as saveDataFile loads it for a path that holds a file, without its modal loop.
     SaveForm& load(const fs::path& path) {
-        auto owned = std::make_unique<SaveForm>();
+        auto owned = std::make_unique<SaveForm>(test.program->parts);
         owned->savePath = path.string();
         return static_cast<SaveForm&>(desktop.load(std::move(owned)));
     }
@@ -298,10 +298,10 @@ TEST_F(SaveFormTest, RunTellsHowTheFormEnded) {
     writeFile(folder / "A_000.venturo", "OLD\r\n");
     const std::string path = (folder / "A_000.venturo").string();
     test.ui.saveFormPresses = {"cmdSave", "cmdExit"};
-    EXPECT_EQ(SaveForm::run(path), SaveOutcome::WriteSamePath);
-    EXPECT_EQ(SaveForm::run(path), SaveOutcome::Done);
+    EXPECT_EQ(SaveForm::run(test.program->parts, path), SaveOutcome::WriteSamePath);
+    EXPECT_EQ(SaveForm::run(test.program->parts, path), SaveOutcome::Done);
     // Left with no button pressed.
-    EXPECT_EQ(SaveForm::run(path), SaveOutcome::Done);
+    EXPECT_EQ(SaveForm::run(test.program->parts, path), SaveOutcome::Done);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(readFile(folder / "A_000.venturo"), "OLD\r\n");
 }

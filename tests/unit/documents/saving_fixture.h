@@ -114,10 +114,10 @@ struct Saving : ::testing::Test {
         set(form, 4, "ABC PLUMBING");
         return form;
     }
-    std::optional<std::string> name(int& focus) { return proposeFileName(focus); }
+    std::optional<std::string> name(int& focus) { return proposeFileName(test.program->parts, focus); }
     std::optional<std::string> name() {
         int focus = -1;
-        return proposeFileName(focus);
+        return proposeFileName(test.program->parts, focus);
     }
     std::string lastBox() const { return test.ui.boxes.empty() ? std::string() : test.ui.boxes.back(); }
     int filesIn(const fs::path& folder) const {

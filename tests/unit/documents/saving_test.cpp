@@ -9,7 +9,7 @@ TEST_F(Saving, SaveWritesTheRecordAndOneLineEndWhereTheDialogSays) {
     w2().at("Text1", 0).toolTipText = "The employee's number";
     const fs::path path = forms() / "doe.venturo";
     test.ui.fileAnswers.push_back(path.string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_TRUE(test.ui.fileDialogs[0].save);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_ABC PLUMBING_000.venturo");
@@ -30,14 +30,14 @@ TEST_F(Saving, TheExtensionStandsOnceAtTheEnd) {
     Form& form = w2();
     set(form, 4, "A.VENTURO PLUMBING");
     test.ui.fileAnswers.push_back((forms() / "x.venturo").string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     ASSERT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(test.ui.fileDialogs[0].proposedName, "DOE,JOHN_W2_A PLUMBING_000.venturo");
 }
 
 TEST_F(Saving, CancelWritesNothing) {
     w2();
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(test.ui.fileDialogs.size(), 1u);
     EXPECT_EQ(filesIn(forms()), 0);
 }
@@ -46,14 +46,14 @@ TEST_F(Saving, AnOpenedFileIsSavedWithoutADialog) {
     w2();
     const fs::path path = forms() / "opened.venturo";
     g.document.currentFileName = path.string();
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
 }
 
 TEST_F(Saving, ANamingErrorAsksForNoPath) {
     w2("");
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
     EXPECT_NE(lastBox().find("Name is MANDATORY"), std::string::npos);
@@ -64,7 +64,7 @@ TEST_F(Saving, ANamingErrorAsksForNoPath) {
 TEST_F(Saving, TheNumberErrorSendsTheOperatorToTheNumber) {
     Form& form = open("TF_1099R");
     set(form, 7, "MARY SAMPLE");
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(test.program->desktop.focus(), &form.at("Text1", 4));
 }
@@ -74,7 +74,7 @@ TEST_F(Saving, CardsThatDoNotPairUpAreNotSaved) {
     set(form, 0, "123-45-6789");
     test.ui.fileAnswers.push_back((forms() / "cards.venturo").string());
     g.document.formRecord = "stale";
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(g.document.formRecord, "Error SS_ITIN");
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_EQ(filesIn(forms()), 0);
@@ -85,7 +85,7 @@ TEST_F(Saving, AnExistingFileLeftWithoutAnAnswerIsKept) {
     const fs::path path = forms() / "kept.venturo";
     std::ofstream(path, std::ios::binary) << "OLD\r\n";
     test.ui.fileAnswers.push_back(path.string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(readFile(path), "OLD\r\n");
     EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::Done);
     EXPECT_NE(g.document.currentForm->at("labelMisc").foreColor, 255u);
@@ -97,7 +97,7 @@ TEST_F(Saving, AnExistingFileKeptUnderItsNameIsOverwritten) {
     std::ofstream(path, std::ios::binary) << "OLD\r\n";
     test.ui.fileAnswers.push_back(path.string());
     test.ui.saveFormPresses = {"cmdSave"};
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
     EXPECT_EQ(g.document.formRecord.rfind("W-2\xB7", 0), 0u);
     EXPECT_EQ(g.document.lastSaveOutcome, SaveOutcome::WriteSamePath);
@@ -108,7 +108,7 @@ TEST_F(Saving, AVanishedFolderIsToldAndForgotten) {
     w2();
     const fs::path gone = test.root / "GoneFolder";
     test.ui.fileAnswers.push_back((gone / "doe.venturo").string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_FALSE(fs::exists(gone));
     ASSERT_FALSE(test.ui.boxes.empty());
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
@@ -125,7 +125,7 @@ TEST_F(Saving, AFailedWriteIsToldAndLeavesNoPieceBehind) {
     const fs::path path = forms() / "taken.venturo";
     fs::create_directories(path);
     test.ui.fileAnswers.push_back(path.string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_TRUE(fs::is_directory(path));
     EXPECT_NE(lastBox().find("NOT saved"), std::string::npos) << lastBox();
     EXPECT_EQ(filesIn(forms()), 1);
@@ -143,12 +143,12 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
     const fs::path taken = forms() / "taken.venturo";
     fs::create_directories(taken);
     test.ui.fileAnswers.push_back(taken.string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(store("TP1SSN"), "?");
 
     const fs::path path = forms() / "sheet.venturo";
     test.ui.fileAnswers.push_back(path.string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(readFile(path), g.document.formRecord + "\r\n");
     EXPECT_EQ(store("TP1NameAddr"), "JOHN DOE");
     EXPECT_EQ(store("TP1SSN"), "123-45-6789");
@@ -157,14 +157,14 @@ TEST_F(Saving, TheSheetHandsItsPeopleToTheStoreAfterTheWrite) {
     Form& other = w2("MARY MAJOR");
     set(other, 0, "987-65-4321");
     test.ui.fileAnswers.push_back((forms() / "w2.venturo").string());
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_EQ(store("TP1NameAddr"), "JOHN DOE");
     EXPECT_EQ(store("TP1SSN"), "123-45-6789");
 }
 
 TEST_F(Saving, SavingWithNoFormIsADataErrorAndWritesNothing) {
     g.document.currentForm->unload();
-    saveDataFile();
+    saveDataFile(test.program->parts);
     EXPECT_TRUE(test.ui.fileDialogs.empty());
     EXPECT_NE(lastBox().find("You must open an existing form"), std::string::npos) << lastBox();
 }

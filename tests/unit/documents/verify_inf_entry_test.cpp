@@ -22,6 +22,7 @@ protected:
     void write(const std::string& key, const std::string& value) {
         store::writeInfValue("TESTER", key, value, g.edition.userInfFile);
     }
+    UserInfSection userInf() const { return {g.edition.userInfFile, "TESTER"}; }
     std::string read(const std::string& key) {
         return store::readInfValue("TESTER", key, "<none>", g.edition.userInfFile);
     }
@@ -33,7 +34,7 @@ protected:
 TEST_F(VerifyInfEntry, AnOpenFolderThatHasGoneIsForgotten) {
     write("LastOpenFolder", gone_);
     write("LastSaveFolder", gone_);
-    verifyRememberedFolder(FileDialogMode::Open);
+    verifyRememberedFolder(FileDialogMode::Open, userInf());
     EXPECT_EQ(read("LastOpenFolder"), "");
     EXPECT_EQ(read("LastSaveFolder"), gone_);
     EXPECT_TRUE(test.ui.boxes.empty());
@@ -42,25 +43,33 @@ TEST_F(VerifyInfEntry, AnOpenFolderThatHasGoneIsForgotten) {
 TEST_F(VerifyInfEntry, ASaveFolderThatHasGoneIsForgottenAlone) {
     write("LastOpenFolder", gone_);
     write("LastSaveFolder", gone_);
-    verifyRememberedFolder(FileDialogMode::Save);
+    verifyRememberedFolder(FileDialogMode::Save, userInf());
     EXPECT_EQ(read("LastSaveFolder"), "");
     EXPECT_EQ(read("LastOpenFolder"), gone_);
-    verifyRememberedFolder(FileDialogMode::Open);
+    verifyRememberedFolder(FileDialogMode::Open, userInf());
     EXPECT_EQ(read("LastOpenFolder"), "");
 }
 
 TEST_F(VerifyInfEntry, AnExistingFolderIsKept) {
     write("LastOpenFolder", existing_);
     write("LastSaveFolder", existing_);
-    verifyRememberedFolder(FileDialogMode::Open);
-    verifyRememberedFolder(FileDialogMode::Save);
+    verifyRememberedFolder(FileDialogMode::Open, userInf());
+    verifyRememberedFolder(FileDialogMode::Save, userInf());
     EXPECT_EQ(read("LastOpenFolder"), existing_);
     EXPECT_EQ(read("LastSaveFolder"), existing_);
 }
 
+TEST_F(VerifyInfEntry, OnlyTheSectionHandedInIsChecked) {
+    write("LastOpenFolder", gone_);
+    store::writeInfValue("OTHER", "LastOpenFolder", gone_, g.edition.userInfFile);
+    verifyRememberedFolder(FileDialogMode::Open, {g.edition.userInfFile, "OTHER"});
+    EXPECT_EQ(store::readInfValue("OTHER", "LastOpenFolder", "<none>", g.edition.userInfFile), "");
+    EXPECT_EQ(read("LastOpenFolder"), gone_);
+}
+
 TEST_F(VerifyInfEntry, AFileIsNoFolder) {
     write("LastSaveFolder", g.edition.userInfFile);
-    verifyRememberedFolder(FileDialogMode::Save);
+    verifyRememberedFolder(FileDialogMode::Save, userInf());
     EXPECT_EQ(read("LastSaveFolder"), "");
 }
 

@@ -111,7 +111,7 @@ TEST_F(FieldsTest, AFailedAmountKeepsTheFocusUntilItIsCleared) {
 TEST_F(FieldsTest, ANegativeAmountIsRepaintedAtOnce) {
     Control& amount = field("-MONEY", "(5)");
     const int before = ui.refreshes;
-    EXPECT_TRUE(editMoneyNegativeOk(amount));
+    EXPECT_TRUE(editMoneyNegativeOk(amount, editContext()));
     EXPECT_GT(ui.refreshes, before);
 }
 
@@ -142,7 +142,7 @@ TEST_F(FieldsTest, TenThousandPastedCharactersFailClearly) {
 
 TEST_F(FieldsTest, LongCentsAreCutTo99DigitsAndRounded) {
     Control& amount = field("MONEY", "7." + std::string(9998, '9'));
-    EXPECT_TRUE(editField(amount));
+    EXPECT_TRUE(editField(amount, editContext()));
     EXPECT_EQ(amount.text, "$8.00");
 }
 

@@ -12,7 +12,7 @@ TEST_P(EmptyField, PassesTurnsWhiteAndBlackAndNoEditRuns) {
     c.backColor = kLegend[3];
     c.foreColor = kRed;
     status().caption = "Value Entered: [x] is INVALID";
-    EXPECT_TRUE(editField(c));
+    EXPECT_TRUE(editField(c, editContext()));
     EXPECT_EQ(c.text, "");
     EXPECT_EQ(c.backColor, kWhite);
     EXPECT_EQ(c.foreColor, kBlack);
@@ -40,7 +40,7 @@ class UpperCasedOnly : public FieldsTest, public ::testing::WithParamInterface<U
 
 TEST_P(UpperCasedOnly, TheTextIsUpperCasedAndAlwaysStands) {
     Control& c = field(GetParam().tag, GetParam().typed);
-    EXPECT_TRUE(editField(c));
+    EXPECT_TRUE(editField(c, editContext()));
     EXPECT_EQ(c.text, GetParam().shown);
     EXPECT_EQ(c.backColor, kWhite);
 }
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(FieldsTest, TheStatusLineIsClearedBeforeTheEdit) {
     Control& c = field("MONEY", "5");
     status().caption = "Money: Dollar sign/commas optional";
-    EXPECT_TRUE(editField(c));
+    EXPECT_TRUE(editField(c, editContext()));
     EXPECT_EQ(status().caption, "");
 }
 
@@ -72,34 +72,34 @@ TEST_F(FieldsTest, AFormWithoutAStatusLineUsesTheEditsToo) {
     Control& amount = bare.add(ControlKind::TextBox, "Text1", 0);
     amount.tag = "MONEY";
     amount.text = "1,5";
-    EXPECT_TRUE(editField(amount));
+    EXPECT_TRUE(editField(amount, editContext()));
     EXPECT_EQ(amount.text, "$15.00");
     amount.text = "x";
-    EXPECT_FALSE(editField(amount));
+    EXPECT_FALSE(editField(amount, editContext()));
     EXPECT_EQ(amount.backColor, kLegend[3]);
     EXPECT_TRUE(ui.modalForms.empty());
 }
 
 TEST_F(FieldsTest, ADateFieldIsEditedAsADateInAnyCaseOfItsTag) {
     Control& date = field("Date", "1/2/2024");
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(date.text, "01/02/2024");
     Control& bad = field("DATE", "01/02/24");
-    EXPECT_FALSE(editField(bad));
+    EXPECT_FALSE(editField(bad, editContext()));
     EXPECT_EQ(bad.backColor, kLegend[6]);
     EXPECT_EQ(bad.foreColor, kRed);
 }
 
 TEST_F(FieldsTest, ADateOfAnyYearStandsInADateField) {
     Control& date = field("DATE", "06/30/1999");
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(date.text, "06/30/1999");
     EXPECT_TRUE(ui.boxes.empty());
 }
 
 TEST_F(FieldsTest, ADateInTaxYearIsMovedToTheYearTheFormShows) {
     Control& date = field("DATEX", "3/7");
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(date.text, "03/07/2023");
     ASSERT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(ui.boxes[0].number, 803);
@@ -112,10 +112,10 @@ TEST_F(FieldsTest, ADateInTaxYearIsMovedToTheYearTheFormShows) {
     // The year follows the form's labels, also after a change of year.
     form->at("TaxYear", 1).caption = "24";
     date.text = "06/30/1999";
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(date.text, "06/30/2024");
     date.text = "12/31/2024";
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(ui.boxes.size(), 2u);
 }
 
@@ -126,7 +126,7 @@ TEST_F(FieldsTest, AFaultOfTheDispatcherItselfIsLoggedAndTheResultStands) {
     date.tag = "DATEX";
     date.text = "3/7/2023";
     date.foreColor = kRed;
-    EXPECT_TRUE(editField(date));
+    EXPECT_TRUE(editField(date, editContext()));
     EXPECT_EQ(date.text, "3/7/2023");
     EXPECT_EQ(date.foreColor, kRed);  // the painting step was not reached
     ASSERT_TRUE(lastErrorReport().has_value());
@@ -137,7 +137,7 @@ TEST_F(FieldsTest, AFaultOfTheDispatcherItselfIsLoggedAndTheResultStands) {
 TEST_F(FieldsTest, AFailedFieldWithoutTheFocusTakesItAndItsFocusLook) {
     Control& amount = field("-MONEY", "1.2.3");
     prog().desktop.setFocus(elsewhere());
-    EXPECT_FALSE(editField(amount));
+    EXPECT_FALSE(editField(amount, editContext()));
     EXPECT_EQ(prog().desktop.focus(), &amount);
     EXPECT_EQ(amount.backColor, kLegend[4]);
     EXPECT_EQ(amount.foreColor, kRed);
@@ -146,7 +146,7 @@ TEST_F(FieldsTest, AFailedFieldWithoutTheFocusTakesItAndItsFocusLook) {
 TEST_F(FieldsTest, AFailedDateLeavesTheFocusWhereItIs) {
     Control& date = field("DATE", "13/45/2024");
     prog().desktop.setFocus(elsewhere());
-    EXPECT_FALSE(editField(date));
+    EXPECT_FALSE(editField(date, editContext()));
     EXPECT_EQ(prog().desktop.focus(), &elsewhere());
     EXPECT_EQ(date.text, "13/45/2024");
     EXPECT_EQ(date.backColor, kLegend[6]);
@@ -156,16 +156,16 @@ TEST_F(FieldsTest, AFailedDateLeavesTheFocusWhereItIs) {
 TEST_F(FieldsTest, TheEditsCanBeCalledAlone) {
     Control& c = field("");
     c.text = "1234.5";
-    EXPECT_TRUE(editMoney(c));
+    EXPECT_TRUE(editMoney(c, editContext()));
     EXPECT_EQ(c.text, "$1,234.50");
     c.text = "(1)";
-    EXPECT_TRUE(editMoneyNegativeOk(c));
+    EXPECT_TRUE(editMoneyNegativeOk(c, editContext()));
     EXPECT_EQ(c.text, "($1.00)");
     c.text = "1234";
-    EXPECT_TRUE(editNumeric(c));
+    EXPECT_TRUE(editNumeric(c, editContext()));
     EXPECT_EQ(c.text, "1,234");
     c.text = "914";
-    EXPECT_TRUE(editEin(c));
+    EXPECT_TRUE(editEin(c, editContext()));
     EXPECT_EQ(c.text, "91-4XXXXXX");
     c.text = "5551212";
     EXPECT_TRUE(editPhone(c));

@@ -84,7 +84,7 @@ TEST_F(FieldsTest, ADataErrorDoesNotStopForTheProgrammerInDebugMode) {
     g().process.debug = true;
     Control& tin = field("TIN", "666");
     ::testing::internal::CaptureStderr();
-    EXPECT_FALSE(editField(tin));
+    EXPECT_FALSE(editField(tin, editContext()));
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
@@ -101,7 +101,7 @@ TEST_F(FieldsTest, ARunTimeFaultStopsForTheProgrammerInDebugModeAndStillFails) {
 TEST_F(FieldsTest, OutsideDebugModeARunTimeFaultOfAnEditWritesNothing) {
     Control& amount = field("MONEY", "1.-5");
     ::testing::internal::CaptureStderr();
-    EXPECT_FALSE(editField(amount));
+    EXPECT_FALSE(editField(amount, editContext()));
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
     EXPECT_TRUE(ui.modalForms.empty());
 }
@@ -119,11 +119,11 @@ protected:
 TEST_F(DuplicateTins, TheFirstNineFieldsAreComparedWhateverTheListHolds) {
     text1(10).text = "123-45-6789";
     text1(12).text = "123-45-6789";
-    EXPECT_EQ(checkDuplicateNumbers(kCardList, 10), 99);
+    EXPECT_EQ(checkDuplicateNumbers(kCardList, 10, g().document, prog().desktop), 99);
     EXPECT_TRUE(ui.boxes.empty());
 
     text1(5).text = "123-45-6789";
-    EXPECT_EQ(checkDuplicateNumbers(kCardList, 10), 5);
+    EXPECT_EQ(checkDuplicateNumbers(kCardList, 10, g().document, prog().desktop), 5);
     EXPECT_EQ(text1(10).selStart(), 0);
     EXPECT_EQ(text1(10).selLength(), 11) << "the whole number: a selection never reaches past the text";
     EXPECT_EQ(text1(10).text, "123-45-6789");
@@ -142,27 +142,28 @@ TEST_F(DuplicateTins, TheFirstDuplicateIsTheOneReported) {
     text1(1).text = "900-70-1234";
     text1(3).text = "900-70-1234";
     text1(7).text = "900-70-1234";
-    EXPECT_EQ(checkDuplicateNumbers("1,4,7,11,15,19,23,27,31", 7), 1);
+    EXPECT_EQ(checkDuplicateNumbers("1,4,7,11,15,19,23,27,31", 7, g().document, prog().desktop), 1);
     EXPECT_EQ(ui.boxes.size(), 1u);
 }
 
 TEST_F(DuplicateTins, AnEmptyFieldAndExactTextAreTheRules) {
-    EXPECT_EQ(checkDuplicateNumbers(kCardList, 2), 99);  // Text1(2) is empty, like the others
+    // Text1(2) is empty, like the others.
+    EXPECT_EQ(checkDuplicateNumbers(kCardList, 2, g().document, prog().desktop), 99);
     text1(2).text = "123-XX-XXXX";
     text1(3).text = "123-xx-xxxx";
-    EXPECT_EQ(checkDuplicateNumbers(kCardList, 2), 99);
-    EXPECT_EQ(checkDuplicateNumbers("", 2), 99);
-    EXPECT_EQ(checkDuplicateNumbers("0,1", 2), 99);
-    EXPECT_EQ(checkDuplicateNumbers("0,1,2,3", 2), 99);
+    EXPECT_EQ(checkDuplicateNumbers(kCardList, 2, g().document, prog().desktop), 99);
+    EXPECT_EQ(checkDuplicateNumbers("", 2, g().document, prog().desktop), 99);
+    EXPECT_EQ(checkDuplicateNumbers("0,1", 2, g().document, prog().desktop), 99);
+    EXPECT_EQ(checkDuplicateNumbers("0,1,2,3", 2, g().document, prog().desktop), 99);
     text1(3).text = "123-XX-XXXX";
-    EXPECT_EQ(checkDuplicateNumbers("0,1,2,3", 2), 3);
-    EXPECT_EQ(checkDuplicateNumbers("a,b,c,d", 2), 3);
+    EXPECT_EQ(checkDuplicateNumbers("0,1,2,3", 2, g().document, prog().desktop), 3);
+    EXPECT_EQ(checkDuplicateNumbers("a,b,c,d", 2, g().document, prog().desktop), 3);
     EXPECT_EQ(ui.modalForms.size(), 2u);
 }
 
 TEST_F(DuplicateTins, AListLongerThanTheFormIsAProgramErrorThatReturns99) {
     text1(0).text = "123-45-6789";
-    EXPECT_EQ(checkDuplicateNumbers(std::string(40, ','), 0), 99);
+    EXPECT_EQ(checkDuplicateNumbers(std::string(40, ','), 0, g().document, prog().desktop), 99);
     ASSERT_TRUE(lastErrorReport().has_value());
     EXPECT_EQ(lastErrorReport()->module, "M7_Edits:DuplicateTinCheck");
     EXPECT_EQ(lastErrorReport()->number, "340");

@@ -73,17 +73,17 @@ INSTANTIATE_TEST_SUITE_P(Years, NumberEdit,
 TEST_F(FieldsTest, TheCenturyOfAYearIsThatOfTheMachinesClock) {
     platform.clock.year = 1999;
     Control& year = field("YEAR", "1999");
-    EXPECT_TRUE(editField(year));
+    EXPECT_TRUE(editField(year, editContext()));
     year.text = "24";
-    EXPECT_TRUE(editField(year));
+    EXPECT_TRUE(editField(year, editContext()));
     EXPECT_EQ(year.text, "1924");
     year.text = "2024";
-    EXPECT_FALSE(editField(year));
+    EXPECT_FALSE(editField(year, editContext()));
 }
 
 TEST_F(FieldsTest, TheDecimalEditPassesAnEmptyTextWhenCalledItself) {
     Control& empty = field("%");
-    EXPECT_TRUE(editNumericDecimalOk(empty));
+    EXPECT_TRUE(editNumericDecimalOk(empty, editContext()));
     EXPECT_EQ(empty.text, "");
 }
 

@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(FieldsTest, TheNineteenCharacterCodeWithThreeHyphensAnywherePasses) {
     // Three hyphens and nineteen characters are all the edit asks; the grouping follows.
     Control& code = field("VERIFICATION", "0123-4567-89abcdef-");
-    EXPECT_TRUE(editField(code));
+    EXPECT_TRUE(editField(code, editContext()));
     EXPECT_EQ(code.text, "0123-4567-89ab-cdef");
 }
 
@@ -94,7 +94,7 @@ TEST_F(FieldsTest, ANameBlockOfBlankLinesOnlyFailsWithNoMessage) {
 TEST_F(FieldsTest, TheFileNameTemplateDoesNotChangeTheNameLine) {
     g().choices.fileNameFormat = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
     Control& name = field("TPNAME", "JOHN Q DOE JR.\r\nSTREET");
-    EXPECT_TRUE(editField(name));
+    EXPECT_TRUE(editField(name, editContext()));
     EXPECT_EQ(name.text, "JOHN Q DOE JR\r\nSTREET");
 }
 

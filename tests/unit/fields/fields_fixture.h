@@ -25,16 +25,18 @@ constexpr std::array<Color, 10> kLegend = {0x00C0C0C0, 0x00FFC0C0, 0x00FFC0FF, 0
 class FieldForm : public Form {
 public:
     // everyKeyFiltered: the check form's KeyPress, which lets no Ctrl+C or Ctrl+V pass unfiltered.
-    FieldForm(const std::string& name, bool everyKeyFiltered)
-        : Form(name), everyKeyFiltered_(everyKeyFiltered) {}
+    FieldForm(const std::string& name, bool everyKeyFiltered, const ProgramParts& parts)
+        : Form(name), everyKeyFiltered_(everyKeyFiltered), parts_(parts) {}
 
-    void onGotFocus(Control& ctl) override { setUpControl(ctl, false); }
+    void onGotFocus(Control& ctl) override {
+        setUpControl(ctl, false, parts_.document, parts_.edition.legendColors);
+    }
     void onKeyPress(Control& ctl, int& keyAscii) override {
         if (!everyKeyFiltered_ && (keyAscii == keys::kCtrlC || keyAscii == keys::kCtrlV)) return;
         filterFieldKey(ctl, keyAscii);
     }
     void onValidate(Control& ctl, bool& cancel) override {
-        if (!everyKeyFiltered_) cancel = !editField(ctl);
+        if (!everyKeyFiltered_) cancel = !editField(ctl, editContextOf(parts_));
     }
     void onLostFocus(Control& ctl) override {
         ctl.backColor = kWhite;
@@ -43,6 +45,7 @@ public:
 
 private:
     bool everyKeyFiltered_;
+    const ProgramParts& parts_;
 };
 
 class FieldsTest : public ::testing::Test {
@@ -62,10 +65,12 @@ protected:
 
     Program& prog() { return *program_; }
     Globals& g() { return program_->g; }
+    // What an edit works with: the document, the desktop, the tax year in force and the fake clock.
+    EditContext editContext() { return {g().document, prog().desktop, g().taxYear, platform.now()}; }
 
     // A child form with the status line and the tax year labels 20 and 23, made the current form.
     FieldForm& openForm(const std::string& name, bool everyKeyFiltered) {
-        auto owned = std::make_unique<FieldForm>(name, everyKeyFiltered);
+        auto owned = std::make_unique<FieldForm>(name, everyKeyFiltered, prog().parts);
         FieldForm& f = *owned;
         f.add(ControlKind::Label, "labelMisc");
         f.add(ControlKind::Label, "TaxYear", 0).caption = "20";
@@ -94,7 +99,7 @@ protected:
     // Runs the edit as Validate does, on the field that has the focus.
     bool editFocused(Control& c) {
         prog().desktop.setFocus(c);
-        return editField(c);
+        return editField(c, editContext());
     }
     // Tries to leave the field for another; true when the focus left.
     bool leave(Control& c) {

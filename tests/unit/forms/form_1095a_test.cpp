@@ -24,7 +24,7 @@ TEST_F(Form1095ATotals, TheMonthlyAmountsAloneNameTheF12Copy) {
         Control& money = field(index);
         money.tag = "MONEY";
         money.toolTipText = "as designed";
-        setUpControl(money, true);
+        setUpControl(money, true, form->parts().document, form->parts().edition.legendColors);
         EXPECT_EQ(money.toolTipText, index >= 38 ? hint : "as designed") << index;
     }
 }

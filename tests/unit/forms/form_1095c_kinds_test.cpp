@@ -18,6 +18,7 @@ struct Form1095CKinds : testing::OpenedForm<EnterMovesOnForm> {
         filterFieldKey(field(i), key);
         return key;
     }
+    Color legend(int i) { return test.program->g.edition.legendColors.at(static_cast<std::size_t>(i)); }
 };
 
 TEST_F(Form1095CKinds, CodeRowsAreCentredInNarrowType) {
@@ -57,13 +58,13 @@ TEST_F(Form1095CKinds, CodesTakeEveryPrintableKeyInUpperCase) {
 
 TEST_F(Form1095CKinds, CodesAreOnlyUpperCasedOnLeaving) {
     field(10).text = "1e";
-    EXPECT_TRUE(editField(field(10)));
+    EXPECT_TRUE(editField(field(10), editContextOf(form->parts())));
     EXPECT_EQ(field(10).text, "1E");
     field(40).text = "2c ";
-    EXPECT_TRUE(editField(field(40)));
+    EXPECT_TRUE(editField(field(40), editContextOf(form->parts())));
     EXPECT_EQ(field(40).text, "2C ");
     field(85).text = "abc";
-    EXPECT_TRUE(editField(field(85)));
+    EXPECT_TRUE(editField(field(85), editContextOf(form->parts())));
     EXPECT_EQ(field(85).text, "ABC");
 }
 
@@ -76,17 +77,17 @@ TEST_F(Form1095CKinds, ContributionsAreAmountsWithoutADollarSign) {
     EXPECT_EQ(filtered(23, 'a'), 0);
     EXPECT_EQ(filtered(23, '$'), '$');
     field(24).text = "$1,234.5";
-    EXPECT_TRUE(editField(field(24)));
+    EXPECT_TRUE(editField(field(24), editContextOf(form->parts())));
     EXPECT_EQ(field(24).text, "1,234.50");
 }
 
 TEST_F(Form1095CKinds, EveryKindTakesTheColourOfItsTypeOnFocus) {
     desktop().setFocus(field(11));
-    EXPECT_EQ(field(11).backColor, legendColor(9));
+    EXPECT_EQ(field(11).backColor, legend(9));
     desktop().setFocus(field(25));
-    EXPECT_EQ(field(25).backColor, legendColor(3));
+    EXPECT_EQ(field(25).backColor, legend(3));
     desktop().setFocus(field(80));
-    EXPECT_EQ(field(80).backColor, legendColor(9));
+    EXPECT_EQ(field(80).backColor, legend(9));
 }
 
 }  // namespace

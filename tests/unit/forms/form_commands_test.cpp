@@ -90,17 +90,17 @@ TEST_F(FormCommands, LoadTPOnAK1ShowsTheHalfThePeopleWentToForASecond) {
     Control& estateTabs = estate.at("SSTab1");
     ASSERT_EQ(tabOf(estateTabs), 0);
     test.platform.sleeps.clear();
-    readTaxpayers("TP 1");
+    readTaxpayers(test.program->parts, "TP 1");
     EXPECT_EQ(test.platform.sleeps, std::vector<int>{1000}) << "the other half, for a second";
     EXPECT_EQ(tabOf(estateTabs), 0);
 
     CatalogueForm& partnership = open("mnuK11065");
     Control& tabs = partnership.at("SSTab1");
     test.platform.sleeps.clear();
-    readTaxpayers("TP 1");
+    readTaxpayers(test.program->parts, "TP 1");
     EXPECT_TRUE(test.platform.sleeps.empty()) << "the first half is on show already";
     setTab(tabs, 1);
-    readTaxpayers("TP 1");
+    readTaxpayers(test.program->parts, "TP 1");
     EXPECT_EQ(test.platform.sleeps, std::vector<int>{1000});
     EXPECT_EQ(tabOf(tabs), 1);
 }

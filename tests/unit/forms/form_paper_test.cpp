@@ -55,7 +55,7 @@ TEST_F(FormPaper, TheAbandonmentFormKeepsBoxSixShadedAndGetsItsGreyBackAfterACli
     CatalogueForm& form1099A = open("mnu1099A");
     Control& boxSix = form1099A.at("Label1", 6);
     Control& boxOne = form1099A.at("Label1", 0);
-    clipScreen();
+    clipScreen(&form1099A, false);
     EXPECT_TRUE(boxSix.opaque);
     EXPECT_EQ(boxSix.backColor, kWhite);
     EXPECT_FALSE(boxOne.opaque);

@@ -53,16 +53,14 @@ struct K1HelpList : ::testing::Test {
 
     void SetUp() override {
         test.start();
-        test.program->g.edition.k1HelpInfFile = (test.root / "K1Help.inf").string();
+        infFile = (test.root / "K1Help.inf").string();
     }
-    void write(const std::string& content) {
-        std::ofstream(test.program->g.edition.k1HelpInfFile, std::ios::binary) << content;
-    }
+    void write(const std::string& content) { std::ofstream(infFile, std::ios::binary) << content; }
     // Shows the section's list, cancelled; returns its caption and rows as shown.
     std::vector<std::string> show(const std::string& key) {
-        k1HelpMembers().listSectionKey = key;
+        members.listSectionKey = key;
         Desktop& desktop = test.program->desktop;
-        Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
+        Form& list = desktop.load(std::make_unique<K1HelpForm>(members, infFile), false);
         labels.clear();
         for (const char* name : {"Label0", "Label1", "Label2", "Label3"})
             labels.push_back(list.at(name).caption);
@@ -71,6 +69,8 @@ struct K1HelpList : ::testing::Test {
         desktop.showModal(list);
         return test.ui.k1Lists.back();
     }
+    std::string infFile;
+    K1HelpMembers members;
     std::vector<std::string> labels;
     int listWidth = 0;
     int listHeight = 0;
@@ -103,8 +103,8 @@ TEST_F(K1HelpList, TheLabelsTellWhereToReadMoreForTheKeysReturn) {
 TEST_F(K1HelpList, TheGridHasItsFourColumnsWithTheirWidthsAndAlignments) {
     write("[K1-1065-Box11]\r\nA|Other portfolio income|\r\n");
     Desktop& desktop = test.program->desktop;
-    k1HelpMembers().listSectionKey = "K1-1065-Box11";
-    Form& list = desktop.load(std::make_unique<K1HelpForm>(), false);
+    members.listSectionKey = "K1-1065-Box11";
+    Form& list = desktop.load(std::make_unique<K1HelpForm>(members, infFile), false);
     const Control& grid = list.at("Grid1");
     EXPECT_EQ(grid.items.front(), "Box #\tPurpose\tAdditional Information\tO/R");
     EXPECT_EQ(grid.colWidths, (std::vector<int>{660, 9500, 5000, 600}));
@@ -119,7 +119,7 @@ TEST_F(K1HelpList, TheGridHasItsFourColumnsWithTheirWidthsAndAlignments) {
 TEST_F(K1HelpList, AMissingSectionOrFileGivesAnEmptyListAndNoMessage) {
     write("[K1-1065-Box11]\r\nA|Other portfolio income|\r\n");
     EXPECT_EQ(show("K1-1065-Box13").size(), 2u) << "caption and header row only";
-    std::filesystem::remove(test.program->g.edition.k1HelpInfFile);
+    std::filesystem::remove(infFile);
     EXPECT_EQ(show("K1-1065-Box11").size(), 2u);
     EXPECT_TRUE(test.ui.reports.empty());
     EXPECT_TRUE(test.ui.boxes.empty());

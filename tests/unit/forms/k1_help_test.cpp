@@ -19,6 +19,8 @@ struct K1Help : ::testing::Test {
     testing::TestProgram test;
     Form* form = nullptr;
     K1DesignValues kept;
+    std::string infFile;
+    K1HelpMembers members;
 
     void SetUp() override {
         test.start();
@@ -54,14 +56,14 @@ struct K1Help : ::testing::Test {
     Globals& g() { return test.program->g; }
     Control& field(const char* name, int i) { return form->at(name, i); }
     void writeList(const std::string& content) {
-        g().edition.k1HelpInfFile = (test.root / "K1Help.inf").string();
-        std::ofstream(g().edition.k1HelpInfFile, std::ios::binary) << content;
+        infFile = (test.root / "K1Help.inf").string();
+        std::ofstream(infFile, std::ios::binary) << content;
     }
     // The list called from a code field that has the focus, answered with a code or "cancel".
     void pick(Control& code, const std::string& answer) {
         desktop().setFocus(code);
         test.ui.k1Answers.push_back(answer);
-        desktop().dispatch([&] { openK1CodeList(*form, code, kept); });
+        desktop().dispatch([&] { openK1CodeList(*form, code, kept, infFile, members); });
     }
     const std::vector<std::string>& lastList() { return test.ui.k1Lists.back(); }
 };
@@ -77,15 +79,15 @@ TEST_F(K1Help, APickedCodeGoesInTheFieldAndTheFocusToItsAmount) {
     EXPECT_EQ(field("Text3", 0).tag, "MONEY");
     EXPECT_EQ(desktop().focus(), &field("Text3", 0));
     EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr) << "the list lives for one choice";
-    EXPECT_EQ(k1HelpMembers().chosenCode, "C");
-    EXPECT_FALSE(k1HelpMembers().listCancelled);
+    EXPECT_EQ(members.chosenCode, "C");
+    EXPECT_FALSE(members.listCancelled);
 }
 
 TEST_F(K1Help, AnOverrideLiftsTheMoneyCheckAndALaterPlainCodeOfTheRowRestoresIt) {
     pick(field("Text2", 2), "ZZ");
     EXPECT_EQ(field("Text2", 2).text, "ZZ");
     EXPECT_EQ(field("Text3", 2).tag, "");
-    EXPECT_EQ(k1HelpMembers().chosenOverride, "X");
+    EXPECT_EQ(members.chosenOverride, "X");
     pick(field("Text2", 2), "A");
     EXPECT_EQ(field("Text2", 2).text, "A");
     EXPECT_EQ(field("Text3", 2).tag, "-MONEY") << "the design Tag of the row comes back";
@@ -105,8 +107,8 @@ TEST_F(K1Help, CancelLeavesTheEarlierCodeAndTheAmountsTag) {
     pick(field("Text2", 0), "cancel");
     EXPECT_EQ(field("Text2", 0).text, "ZZ");
     EXPECT_EQ(field("Text3", 0).tag, "");
-    EXPECT_TRUE(k1HelpMembers().listCancelled);
-    EXPECT_EQ(k1HelpMembers().chosenCode, "");
+    EXPECT_TRUE(members.listCancelled);
+    EXPECT_EQ(members.chosenCode, "");
     EXPECT_EQ(desktop().focus(), &field("Text2", 0));
     EXPECT_EQ(desktop().findForm("F6_K1Help"), nullptr);
 }

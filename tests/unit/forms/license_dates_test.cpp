@@ -5,7 +5,6 @@
 #include <string>
 
 #include "model/app_error.h"
-#include "test_program.h"
 
 namespace lw {
 namespace {
@@ -13,38 +12,40 @@ namespace {
 // Today in 2024 and the tax year 2023, as the worked examples have them: the moving holidays are then
 // 01/16, 09/04 and 11/23.
 struct LicenseDates : ::testing::Test {
-    testing::TestProgram test;
-    Globals& g = test.program->g;
+    UserChoices choices;
+    TaxYearChoice taxYear;
+    int thisYear = 0;
     Control issue;
     Control expire;
 
     void SetUp() override { setYears(2024, 2023); }
-    void setYears(int today, int taxYear) {
-        test.platform.clock = DateTime{today, 6, 10, 9, 0, 0};
-        g.taxYear = TaxYearChoice(taxYear + 1, TaxYearChoice::Slot::LastYear);
-        g.choices.holidayList = kFixedHolidays;
-        buildLicenseHolidays(g.taxYear);
+    void setYears(int today, int yearOfTax) {
+        thisYear = today;
+        taxYear = TaxYearChoice(yearOfTax + 1, TaxYearChoice::Slot::LastYear);
+        choices.holidayList = kFixedHolidays;
+        buildLicenseHolidays(choices, taxYear);
     }
     std::string issued(const std::string& license, const std::string& birth) {
-        fillLicenseDates(license, birth, issue, expire);
+        fillLicenseDates(license, birth, thisYear, choices.holidays, issue, expire);
         return issue.text;
     }
+    bool isHoliday(const std::string& monthDay) const { return isLicenseHoliday(choices.holidays, monthDay); }
 };
 
 TEST_F(LicenseDates, TheMovingHolidaysOfTheTaxYearJoinTheFixedOnes) {
-    EXPECT_EQ(g.choices.holidayList, "01/01,02/20,05/30,06/19,07/04,11/11,12/25,01/16,09/04,11/23");
-    EXPECT_EQ(g.choices.holidays.size(), 10u);
-    EXPECT_TRUE(isLicenseHoliday("11/23"));
-    EXPECT_TRUE(isLicenseHoliday("02/20")) << "a fixed date in every year, whatever its weekday";
-    EXPECT_FALSE(isLicenseHoliday("11/24"));
+    EXPECT_EQ(choices.holidayList, "01/01,02/20,05/30,06/19,07/04,11/11,12/25,01/16,09/04,11/23");
+    EXPECT_EQ(choices.holidays.size(), 10u);
+    EXPECT_TRUE(isHoliday("11/23"));
+    EXPECT_TRUE(isHoliday("02/20")) << "a fixed date in every year, whatever its weekday";
+    EXPECT_FALSE(isHoliday("11/24"));
 }
 
 TEST_F(LicenseDates, ThePlaceholderYearAddsNoMovingHoliday) {
-    g.taxYear = TaxYearChoice(2024, TaxYearChoice::Slot::Placeholder);
-    g.choices.holidayList = kFixedHolidays;
-    buildLicenseHolidays(g.taxYear);
-    EXPECT_EQ(g.choices.holidayList, kFixedHolidays);
-    EXPECT_EQ(g.choices.holidays.size(), 7u);
+    taxYear = TaxYearChoice(2024, TaxYearChoice::Slot::Placeholder);
+    choices.holidayList = kFixedHolidays;
+    buildLicenseHolidays(choices, taxYear);
+    EXPECT_EQ(choices.holidayList, kFixedHolidays);
+    EXPECT_EQ(choices.holidays.size(), 7u);
 }
 
 TEST_F(LicenseDates, WorkedExamples) {
@@ -109,7 +110,7 @@ TEST_F(LicenseDates, EveryIssueDateOf2024To2027KeepsTheRules) {
                 const std::string day = text::weekdayName(candidate);
                 char md[6];
                 std::snprintf(md, sizeof md, "%02d/%02d", candidate.month, candidate.day);
-                const bool holiday = isLicenseHoliday(md);
+                const bool holiday = isHoliday(md);
                 text::CalendarDay expected = candidate;
                 if (day == "Sat")
                     expected = text::plusDays(candidate, -1);

@@ -22,6 +22,7 @@ struct ScriptK1Answers : ::testing::Test {
     std::filesystem::path folder;
     Form* form = nullptr;
     K1DesignValues kept;
+    K1HelpMembers members;
 
     void SetUp() override {
         std::string pattern = (std::filesystem::temp_directory_path() / "lw-k1-XXXXXX").string();
@@ -48,7 +49,8 @@ struct ScriptK1Answers : ::testing::Test {
     void callList() {
         Control& code = form->at("Text2", 0);
         program->desktop.setFocus(code);
-        program->desktop.dispatch([&] { openK1CodeList(*form, code, kept); });
+        program->desktop.dispatch(
+            [&] { openK1CodeList(*form, code, kept, program->g.edition.k1HelpInfFile, members); });
     }
 };
 

@@ -93,7 +93,7 @@ protected:
         test.ui.fileAnswers.push_back(
             (folder + QLatin1Char('/') + QString::fromStdString(GetParam()) + QStringLiteral(".venturo"))
                 .toStdString());
-        saveDataFile();
+        saveDataFile(test.program->parts);
     }
 
     // Each field in tab order, as the operator types it; a code of a K-1 row as its list puts it in.
@@ -126,7 +126,7 @@ protected:
             const bool editedTwice = c->tag == "#" && form->find("SSTab1") != nullptr;
             if (c->locked || !c->canTakeFocus() || editedTwice) {
                 c->text = *value;
-                if (editedTwice) editField(*c);
+                if (editedTwice) editField(*c, editContextOf(test.program->parts));
                 continue;
             }
             ASSERT_NO_FATAL_FAILURE(left(*c));

@@ -77,7 +77,8 @@ std::vector<Document> writeDocuments(const fs::path& folder) {
             c->text = "Z" + std::to_string(++word) + "Z";
             document.texts.push_back(c->text);
         }
-        std::ofstream(document.path, std::ios::binary) << buildRecord().value_or("") << "\r\n";
+        std::ofstream(document.path, std::ios::binary)
+            << buildRecord(form, test.program->g.document).value_or("") << "\r\n";
         documents.push_back(document);
     }
     return documents;

@@ -4,6 +4,7 @@
 
 #include "shell/startup.h"
 #include "store/inf_store.h"
+#include "store/user_inf.h"
 #include "test_program.h"
 
 namespace lw {
@@ -41,7 +42,7 @@ struct YearSetup : ::testing::Test {
 };
 
 TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
-    EXPECT_EQ(setUpTaxYears(), "2025");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "2025");
     EXPECT_EQ(taxYear().textOf(Slot::LastYear), "2024");
     EXPECT_EQ(taxYear().textOf(Slot::ThisYear), "2025");
     EXPECT_EQ(taxYear().textOf(Slot::NextYear), "2026");
@@ -51,23 +52,23 @@ TEST_F(YearSetup, WithNothingRememberedThisYearIsInForceAndRemembered) {
 }
 
 TEST_F(YearSetup, ARememberedPlaceholderYearSelectsTheFourthEntry) {
-    writeUserInf("LastTaxYear", "20XX");
-    EXPECT_EQ(setUpTaxYears(), "20XX");
+    writeUserInf(program().parts, "LastTaxYear", "20XX");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "20XX");
     EXPECT_EQ(taxYear().index(), 3);
     EXPECT_EQ(taxYear().digits(), "XX");
     EXPECT_EQ(remembered(), "20XX");
 }
 
 TEST_F(YearSetup, AYearOutOfTheWindowFallsBackToThisYearAndIsOverwritten) {
-    writeUserInf("LastTaxYear", "2015");
-    EXPECT_EQ(setUpTaxYears(), "2015");
+    writeUserInf(program().parts, "LastTaxYear", "2015");
+    EXPECT_EQ(setUpTaxYears(test.program->parts), "2015");
     EXPECT_EQ(taxYear().index(), 1);
     EXPECT_EQ(remembered(), "2025");
 }
 
 TEST_F(YearSetup, LastYearIsKept) {
-    writeUserInf("LastTaxYear", "2024");
-    setUpTaxYears();
+    writeUserInf(program().parts, "LastTaxYear", "2024");
+    setUpTaxYears(test.program->parts);
     EXPECT_EQ(taxYear().index(), 0);
     EXPECT_EQ(taxYear().digits(), "24");
 }

@@ -2,57 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-
-#include "model/ports.h"
-#include "model/program.h"
 
 namespace lw::test {
 namespace {
 
-// Nothing of the outside world is asked for when a name is formatted.
-class NoUi : public UiPort {
-public:
-    void runModal(Form&) override {}
-    void copyPictureToClipboard(Form&) override {}
-    std::string clipboardText() override { return {}; }
-    void setClipboardText(const std::string&) override {}
-    bool openDocument(const std::string&) override { return false; }
-    void quit() override {}
-};
-
-class NoPlatform : public PlatformPort {
-public:
-    DateTime now() override { return {}; }
-    std::optional<std::string> environment(const std::string&) override { return std::nullopt; }
-    std::string executableName() override { return {}; }
-    std::string executableFolder() override { return {}; }
-    std::string commandLine() override { return {}; }
-    std::string rootFolder() override { return {}; }
-    bool earlierInstanceRunning() override { return false; }
-    void activateEarlierInstance(const std::string&) override {}
-    void sleep(int) override {}
-    std::vector<std::string> printers() override { return {}; }
-    int screenWidthTwips() override { return 0; }
-};
-
 const char* const kLastFirstTemplate = "<LAST>_<FIRST>_<FORM>_<OTHER>_<SEQ>";
 const char* const kFirstLastTemplate = "<FIRST>_<LAST>_<FORM>_<OTHER>_<SEQ>";
-
-class FormatTPName : public ::testing::Test {
-protected:
-    void SetUp() override {
-        program_ = std::make_unique<Program>(ui_, platform_);
-        program_->g.choices.fileNameFormat = kLastFirstTemplate;
-    }
-    void useTemplate(const char* t) { program_->g.choices.fileNameFormat = t; }
-
-private:
-    NoUi ui_;
-    NoPlatform platform_;
-    std::unique_ptr<Program> program_;
-};
 
 struct NameRow {
     std::string name;
@@ -101,32 +57,29 @@ INSTANTIATE_TEST_SUITE_P(
         NameRow{" ", " ", "", ""}, NameRow{"JR", "JR", "", "JR"}, NameRow{" JR", " JR", "", ""},
         NameRow{"", "", "", ""}));
 
-TEST_F(FormatTPName, GivesTheLineAndTheNameForTheFile) {
-    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR."),
+TEST(FormatTPName, GivesTheLineAndTheNameForTheFile) {
+    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR.", kLastFirstTemplate),
               "JOHN Q DOE JR\xB7"
               "DOE JR,JOHN");
-    EXPECT_EQ(formatTaxpayerName("MARY DOE-SMITH III"),
+    EXPECT_EQ(formatTaxpayerName("MARY DOE-SMITH III", kLastFirstTemplate),
               "MARY DOE-SMITH III\xB7"
               "DOE-SMITH III,MARY");
-    EXPECT_EQ(formatTaxpayerName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
-    EXPECT_EQ(formatTaxpayerName("ANN LEE V"), "ANN LEE V\xB7LEE V,ANN");
+    EXPECT_EQ(formatTaxpayerName("TIFIMRU", kLastFirstTemplate), "TIFIMRU\xB7TIFIMRU");
+    EXPECT_EQ(formatTaxpayerName("ANN LEE V", kLastFirstTemplate), "ANN LEE V\xB7LEE V,ANN");
 }
 
-TEST_F(FormatTPName, TheFirstNameGoesFirstWhenTheTemplatePutsItFirst) {
-    useTemplate(kFirstLastTemplate);
-    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR."), "JOHN Q DOE JR\xB7JOHN DOE JR");
-    EXPECT_EQ(formatTaxpayerName("TIFIMRU"), "TIFIMRU\xB7TIFIMRU");
-    useTemplate("<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>");
-    EXPECT_EQ(formatTaxpayerName("ANN LEE"),
+TEST(FormatTPName, TheFirstNameGoesFirstWhenTheTemplatePutsItFirst) {
+    EXPECT_EQ(formatTaxpayerName("JOHN Q DOE JR.", kFirstLastTemplate), "JOHN Q DOE JR\xB7JOHN DOE JR");
+    EXPECT_EQ(formatTaxpayerName("TIFIMRU", kFirstLastTemplate), "TIFIMRU\xB7TIFIMRU");
+    EXPECT_EQ(formatTaxpayerName("ANN LEE", "<FORM>_<FIRST>_<LAST>_<OTHER>_<SEQ>"),
               "ANN LEE\xB7"
               "ANN LEE");
-    useTemplate("<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>");
-    EXPECT_EQ(formatTaxpayerName("ANN LEE"), "ANN LEE\xB7LEE,ANN");
+    EXPECT_EQ(formatTaxpayerName("ANN LEE", "<FORM>_<LAST>_<FIRST>_<OTHER>_<SEQ>"), "ANN LEE\xB7LEE,ANN");
 }
 
-TEST_F(FormatTPName, AnEmptyNameGivesAnEmptyText) {
-    EXPECT_EQ(formatTaxpayerName(""), "");
-    EXPECT_EQ(formatTaxpayerName("."), "\xB7");
+TEST(FormatTPName, AnEmptyNameGivesAnEmptyText) {
+    EXPECT_EQ(formatTaxpayerName("", kLastFirstTemplate), "");
+    EXPECT_EQ(formatTaxpayerName(".", kLastFirstTemplate), "\xB7");
 }
 
 }  // namespace

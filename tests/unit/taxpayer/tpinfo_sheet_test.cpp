@@ -7,6 +7,7 @@
 #include "model/app_error.h"
 #include "opened_form.h"
 #include "shell/startup.h"
+#include "store/user_inf.h"
 #include "taxpayer/load_tp.h"
 
 namespace lw {
@@ -37,7 +38,7 @@ TEST_F(TaxpayerSheet, NoAgeIsCountedWhile20XXIsInForce) {
     g().taxYear = TaxYearChoice(2025, TaxYearChoice::Slot::Placeholder);
     form->at("Text2", 0).text = "41";
     form->at("Text1", 2).text = "03/15/1980";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "N/A") << "the sheet ages by the year in force";
 }
 
@@ -52,10 +53,10 @@ TEST_F(TaxpayerSheet, ABirthDateThatIsNoDateIsATypeMismatch) {
 
 TEST_F(TaxpayerSheet, AnEmptyDateLeavesTheAgeAndA20XXDateHasNone) {
     form->at("Text2", 0).text = "41";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "41");
     form->at("Text1", 2).text = "05/05/20XX";
-    updateAge(*form, "2", "0");
+    updateAge(*form, "2", "0", g().taxYear);
     EXPECT_EQ(form->at("Text2", 0).text, "N/A");
 }
 
@@ -66,18 +67,18 @@ TEST_F(TaxpayerSheet, SavingWritesTheTaxpayersFromTheLineAndTheOthersFromTheFiel
         "1 MAIN ST\xB7txt1=123-45-6789\xB7TXT10=X\xB7TXT5=07/04/1982";
     form->at("Text1", 6).text = "KIM LEE";
     form->at("Text1", 11).text = "222-33-4444";
-    saveTaxpayerSheet();
-    EXPECT_EQ(readUserInf("TP1NameAddr"),
+    saveTaxpayerSheet(test.program->parts);
+    EXPECT_EQ(readUserInf(program().parts, "TP1NameAddr"),
               "ANN LEE\xBB"
               "1 MAIN ST");
-    EXPECT_EQ(readUserInf("TP1SSN"), "123-45-6789");
-    EXPECT_EQ(readUserInf("TP1DOB"), "");
-    EXPECT_EQ(readUserInf("TP2DOB"), "07/04/1982");
-    EXPECT_EQ(readUserInf("Dependent1"), "KIM LEE\xB7");
-    EXPECT_EQ(readUserInf("Dependent2"),
+    EXPECT_EQ(readUserInf(program().parts, "TP1SSN"), "123-45-6789");
+    EXPECT_EQ(readUserInf(program().parts, "TP1DOB"), "");
+    EXPECT_EQ(readUserInf(program().parts, "TP2DOB"), "07/04/1982");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent1"), "KIM LEE\xB7");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent2"),
               "\xB7"
               "222-33-4444");
-    EXPECT_EQ(readUserInf("Dependent3"), "");
+    EXPECT_EQ(readUserInf(program().parts, "Dependent3"), "");
 }
 
 }  // namespace
