@@ -134,9 +134,11 @@ std::optional<std::pair<std::uint32_t, std::uint32_t>> findTable(const TrueTypeF
 
 // The face's height above and below the baseline and the room between lines, as the font system measures
 // them: a face that asks for its typographic measures has them, in whole pixels at each size; any other
-// has the measures it gives for Windows, with no room between lines.
+// has the heights it gives for Windows and the room between lines of its horizontal header.
 void readVerticalMeasures(TrueTypeFaces::Font& font) {
     const unsigned char* bytes = font.bytes.data();
+    int headerAscent = 0, headerDescent = 0, headerGap = 0;
+    stbtt_GetFontVMetrics(&font.info, &headerAscent, &headerDescent, &headerGap);
     constexpr int kUseTypoMetrics = 0x80;
     const auto table = findTable(font, "OS/2");
     const std::size_t os2 = table ? table->first : 0;
@@ -145,14 +147,12 @@ void readVerticalMeasures(TrueTypeFaces::Font& font) {
         font.wholePixels = typographic;
         font.ascent = typographic ? signedAt(bytes + os2 + 68) : unsignedAt(bytes + os2 + 74);
         font.descent = typographic ? -signedAt(bytes + os2 + 70) : unsignedAt(bytes + os2 + 76);
-        font.lineGap = typographic ? signedAt(bytes + os2 + 72) : 0;
+        font.lineGap = typographic ? signedAt(bytes + os2 + 72) : headerGap;
         if (font.ascent + font.descent > 0) return;
     }
-    int ascent = 0, descent = 0, lineGap = 0;
-    stbtt_GetFontVMetrics(&font.info, &ascent, &descent, &lineGap);
-    font.ascent = ascent;
-    font.descent = -descent;
-    font.lineGap = lineGap;
+    font.ascent = headerAscent;
+    font.descent = -headerDescent;
+    font.lineGap = headerGap;
 }
 
 bool load(TrueTypeFaces::Font& font, const std::string& path) {
