@@ -16,6 +16,6 @@ function(lw_web_runner target)
   lw_place_beside_data(${target})
 endfunction()
 
-foreach(layer text model store diagnostics people catalogue fields taxpayer shell config documents output forms face headless script)
+foreach(layer text model store diagnostics people catalogue fields taxpayer shell config documents output forms face headless script web)
   add_subdirectory(src/${layer})
 endforeach()

@@ -1,0 +1,146 @@
+// The fields of the shown form as real inputs over its face: made when the form shows, and after every
+// input given the engine's text, selection, colours and focus.
+#include "web/page_fields.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "catalogue/field_names.h"
+#include "face/face_description.h"
+#include "headless/face_raster.h"
+#include "model/containers.h"
+#include "text/case.h"
+#include "text/cp1252.h"
+#include "web/page_view.h"
+
+namespace lw::web {
+
+using emscripten::val;
+
+namespace {
+
+std::string px(int pixels) { return std::to_string(pixels) + "px"; }
+
+// The families index.html loads from the font files the engine measures with.
+std::string cssFamily(const std::string& faceName) {
+    const std::string name = text::toLower(faceName);
+    if (name == "tahoma") return "LwTahoma";
+    if (name == "arial narrow" || name == "arialnarrow") return "LwSansNarrow";
+    if (name == "arial") return "LwSans";
+    if (name == "times new roman") return "LwSerif";
+    if (name == "courier new") return "LwMono";
+    return "LwDejaVu";
+}
+
+}  // namespace
+
+std::string cssColor(Color color) {
+    char name[8];
+    std::snprintf(name, sizeof name, "#%02X%02X%02X", redOf(color), greenOf(color), blueOf(color));
+    return name;
+}
+
+std::string cssFont(const Control& control) {
+    char size[32];
+    std::snprintf(size, sizeof size, "%.3fpx ", control.fontSize * 96.0 / 72.0);
+    return std::string(control.fontItalic ? "italic " : "") + (control.fontBold ? "bold " : "") + size +
+           cssFamily(control.fontName);
+}
+
+void paintButtons(const Form& form, headless::RasterImage& image, headless::TrueTypeFaces& faces,
+                  headless::PictureFiles& pictures) {
+    for (const Control* control : face::paintOrder(form)) {
+        if (!isShown(*control) || control->kind == ControlKind::TextBox || !face::hasEditor(control->kind))
+            continue;
+        headless::paintItems(face::describeControl(*control, face::kScreenScale, faces), image,
+                             image.bounds(), faces, pictures);
+    }
+}
+
+void PageView::clearFields() {
+    for (Field& field : fields_) field.element.call<void>("remove");
+    fields_.clear();
+}
+
+void PageView::placeFields(Form& form) {
+    val layer = document_.call<val>("getElementById", std::string("fields"));
+    const std::map<const Control*, FieldName> names = fieldNamesOf(form);
+    for (const auto& owned : form.controls()) {
+        Control& control = *owned;
+        if (control.kind != ControlKind::TextBox || control.wordsOnly) continue;
+        val element =
+            document_.call<val>("createElement", std::string(control.multiLine ? "textarea" : "input"));
+        const int index = static_cast<int>(fields_.size());
+        element.set("id", "field-" + std::to_string(index));
+        element.call<void>("setAttribute", std::string("data-field"), index);
+        element.call<void>("setAttribute", std::string("autocomplete"), std::string("off"));
+        element.call<void>("setAttribute", std::string("spellcheck"), std::string("false"));
+        const auto named = names.find(&control);
+        const std::string label =
+            named != names.end() && !named->second.text.empty() ? named->second.text : control.key();
+        element.call<void>("setAttribute", std::string("aria-label"), text::cp1252ToUtf8(label));
+        element.call<void>("setAttribute", std::string("data-name"), control.key());
+        val style = element["style"];
+        const face::Rect rect = face::controlRect(control, face::kScreenScale);
+        style.set("left", px(rect.x));
+        style.set("top", px(rect.y));
+        style.set("width", px(rect.width));
+        style.set("height", px(rect.height));
+        style.set("font", cssFont(control));
+        style.set("textAlign", std::string(control.alignment == 1   ? "right"
+                                           : control.alignment == 2 ? "center"
+                                                                    : "left"));
+        style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
+        layer.call<void>("appendChild", element);
+        fields_.push_back({&control, element});
+    }
+}
+
+void PageView::showFields() {
+    const Control* focus = program_.desktop.focus();
+    for (Field& field : fields_) showField(field, focus);
+    if (!focus || indexOf(focus) < 0) {
+        val active = document_["activeElement"];
+        if (!active.isNull() && active.call<bool>("hasAttribute", std::string("data-field")))
+            active.call<void>("blur");
+    }
+}
+
+void PageView::showField(Field& field, const Control* focus) {
+    const Control& control = *field.control;
+    val element = field.element;
+    val style = element["style"];
+    style.set("display", std::string(isShown(control) ? "block" : "none"));
+    const std::string shown = text::cp1252ToUtf8(control.text);
+    if (element["value"].as<std::string>() != shown) element.set("value", shown);
+    element.set("disabled", !control.enabled);
+    element.set("readOnly", control.locked);
+    style.set("backgroundColor", cssColor(control.backColor));
+    style.set("color", cssColor(control.foreColor));
+    if (&control != focus) return;
+    if (!document_["activeElement"].strictlyEquals(element)) element.call<void>("focus");
+    element.call<void>("setSelectionRange", control.selStart(), control.selStart() + control.selLength());
+}
+
+int PageView::indexOf(const Control* control) const {
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        if (fields_[i].control == control) return static_cast<int>(i);
+    return -1;
+}
+
+bool PageView::fieldPressed(int field) {
+    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return false;
+    Control& control = *fields_[static_cast<std::size_t>(field)].control;
+    if (program_.desktop.focus() != &control) runInput([&] { program_.desktop.click(control); });
+    return program_.desktop.focus() == &control;
+}
+
+// A caret put or text selected with the mouse is the engine's selection.
+void PageView::fieldSelected(int field, int start, int end) {
+    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return;
+    Control& control = *fields_[static_cast<std::size_t>(field)].control;
+    if (program_.desktop.focus() != &control) return;
+    control.select(std::min(start, end), std::abs(end - start));
+}
+
+}  // namespace lw::web

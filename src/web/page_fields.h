@@ -1,0 +1,19 @@
+#pragma once
+// The face's controls that the page does not host as inputs (buttons, option buttons, lists) are
+// painted by the engine's description, as the runner paints them.
+
+#include "headless/picture_files.h"
+#include "headless/raster_image.h"
+#include "headless/truetype_faces.h"
+#include "model/form.h"
+
+namespace lw::web {
+
+void paintButtons(const Form& form, headless::RasterImage& image, headless::TrueTypeFaces& faces,
+                  headless::PictureFiles& pictures);
+
+// The CSS font of a field's face: the web font of the file the engine measures it with.
+std::string cssFont(const Control& control);
+std::string cssColor(Color color);
+
+}  // namespace lw::web

@@ -1,0 +1,96 @@
+// The program in a browser page: the edition named by the address, the shipped files in the page's
+// own file system, and the page's input handed to the engine through the functions below.
+#include <emscripten.h>
+#include <emscripten/val.h>
+
+#include <iostream>
+#include <memory>
+
+#include "forms/register_forms.h"
+#include "headless/headless_platform.h"
+#include "model/app_error.h"
+#include "shell/frame_window_model.h"
+#include "web/page_ui.h"
+#include "web/page_view.h"
+
+namespace {
+
+// The shipped files and fonts are preloaded there; the per-user folder lives in the page's memory.
+const char* const kShippedFiles = "/app";
+const char* const kRoot = "/ledgerwick";
+
+// "?edition=OthAgcy" names the edition; Venturo when the address names none or a name of other letters.
+std::string editionOfAddress() {
+    using emscripten::val;
+    const val query = val::global("URLSearchParams").new_(val::global("location")["search"]);
+    const val named = query.call<val>("get", std::string("edition"));
+    std::string edition = named.isNull() ? "" : named.as<std::string>();
+    const bool plain =
+        !edition.empty() && edition.size() < 32 &&
+        edition.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789") ==
+            std::string::npos;
+    return "Ledgerwick_" + (plain ? edition : std::string("Venturo"));
+}
+
+struct Page {
+    lw::headless::Session session;
+    lw::web::PageUi ui;
+    std::unique_ptr<lw::headless::HeadlessPlatform> platform;
+    std::unique_ptr<lw::Program> program;
+    std::unique_ptr<lw::web::PageView> view;
+};
+
+Page* page = nullptr;
+
+lw::web::PageView* view() { return page ? page->view.get() : nullptr; }
+
+}  // namespace
+
+extern "C" {
+
+EMSCRIPTEN_KEEPALIVE void lw_page_key(int keyCode, int shift, const char* name) {
+    if (view()) view()->key(keyCode, shift, name);
+}
+EMSCRIPTEN_KEEPALIVE int lw_page_field_pressed(int field) {
+    return view() && view()->fieldPressed(field) ? 1 : 0;
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_field_selected(int field, int start, int end) {
+    if (view()) view()->fieldSelected(field, start, end);
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_face_clicked(int x, int y) {
+    if (view()) view()->faceClicked(x, y);
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_menu(const char* name) {
+    if (view()) view()->menuChosen(name);
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_paste(const char* utf8) {
+    if (view()) view()->pasted(utf8);
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_dialog_button(int button) {
+    if (view()) view()->dialogButton(button);
+}
+}
+
+int main() {
+    page = new Page;  // lives as long as the page
+    page->session.out = &std::cout;
+    page->session.root = kRoot;
+    page->session.edition = editionOfAddress();
+    page->session.user = "Trainer";
+    page->session.computer = "Browser";
+    page->session.executableFolder = kShippedFiles;
+    page->platform = std::make_unique<lw::headless::HeadlessPlatform>(page->session);
+    page->program = std::make_unique<lw::Program>(page->ui, *page->platform);
+    page->view = std::make_unique<lw::web::PageView>(*page->program);
+    page->ui.attach(*page->view);
+    lw::registerAllForms();
+    try {
+        lw::loadFrame();
+    } catch (const lw::ProgramEnded&) {
+        page->view->showStatus("The program has ended. Reload the page to start it again.");
+    }
+    page->view->show();
+    emscripten::val::global("document")["body"].call<void>("setAttribute", std::string("data-ready"),
+                                                           std::string("true"));
+    return 0;
+}

@@ -1,0 +1,49 @@
+#include "web/page_ui.h"
+
+#include <emscripten.h>
+
+#include "model/app_error.h"
+#include "model/form.h"
+#include "text/cp1252.h"
+#include "web/page_view.h"
+
+namespace lw::web {
+
+namespace {
+// The modal forms shown, innermost last; each is struck off when the engine unloads it.
+std::vector<const Form*> waiting;
+}  // namespace
+
+void PageUi::runModal(Form& form) {
+    if (!view_) return;
+    waiting.push_back(&form);
+    view_->showModal(form);
+    // The page keeps running while the operator answers: the engine's stack waits here, unwound, and
+    // the dialog's buttons reach the engine as any input does.
+    while (std::find(waiting.begin(), waiting.end(), &form) != waiting.end()) emscripten_sleep(20);
+    view_->closeModal();
+}
+
+void PageUi::formUnloaded(Form& form) {
+    waiting.erase(std::remove(waiting.begin(), waiting.end(), &form), waiting.end());
+    if (view_) view_->forget(form);
+}
+
+void PageUi::refresh() {
+    // Shown after the input that changed it: the page is brought up to date when the engine returns.
+}
+
+void PageUi::copyPictureToClipboard(Form& form) { (void)form; }
+
+bool PageUi::openDocument(const std::string& path) {
+    (void)path;
+    return false;
+}
+
+void PageUi::quit() { throw ProgramEnded{}; }
+
+void PageUi::inputRefused(const std::string& why) {
+    if (view_) view_->showStatus(text::cp1252ToUtf8(why));
+}
+
+}  // namespace lw::web

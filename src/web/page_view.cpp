@@ -1,0 +1,136 @@
+#include "web/page_view.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "face/face_description.h"
+#include "headless/face_raster.h"
+#include "model/app_error.h"
+#include "model/containers.h"
+#include "text/cp1252.h"
+#include "web/page_fields.h"
+
+namespace lw::web {
+
+using emscripten::val;
+
+PageView::PageView(Program& program)
+    : program_(program), pictures_(faces_), document_(val::global("document")) {}
+
+Form* PageView::inputForm() const {
+    Form* form = program_.desktop.activeChild();
+    return form && form->isLoaded() ? form : nullptr;
+}
+
+void PageView::runInput(const std::function<void()>& input) {
+    try {
+        input();
+    } catch (const ProgramEnded&) {
+        showStatus("The program has ended. Reload the page to start it again.");
+    } catch (const std::exception& fault) {
+        showStatus(std::string("The page could not carry out that input: ") + fault.what());
+    }
+    show();
+}
+
+void PageView::show() {
+    buildMenus();
+    Form* form = inputForm();
+    if (form != shown_) {
+        clearFields();
+        shown_ = form;
+        if (form) placeFields(*form);
+        val title = document_.call<val>("getElementById", std::string("form-title"));
+        title.set("textContent", form ? text::cp1252ToUtf8(form->caption) : std::string());
+    }
+    val canvas = document_.call<val>("getElementById", std::string("face"));
+    if (!form) {
+        canvas.set("width", 0);
+        canvas.set("height", 0);
+        return;
+    }
+    paintFace(*form, "face");
+    showFields();
+}
+
+void PageView::forget(Form& form) {
+    if (&form == shown_) {
+        clearFields();
+        shown_ = nullptr;
+    }
+    if (&form == modal_) {
+        modal_ = nullptr;
+        dialogButtons_.clear();
+    }
+}
+
+bool PageView::isLoaded(const Form& form) const { return form.isLoaded(); }
+
+void PageView::showStatus(const std::string& utf8) {
+    document_.call<val>("getElementById", std::string("status")).set("textContent", utf8);
+}
+
+// The engine's own painter draws the face as the runner draws it, with the faces it measured the text
+// with; the canvas shows its pixels one for one.
+void PageView::paintFace(Form& form, const std::string& canvasId) {
+    const bool hostsEditors = &form == shown_;
+    const face::FaceDescription face =
+        face::describeFace(form, face::FaceRequest{face::kScreenScale, hostsEditors, {}}, faces_);
+    headless::RasterImage image(face.size.width, face.size.height, face.ground);
+    headless::paintFace(face, image, faces_, pictures_);
+    if (hostsEditors) paintButtons(form, image, faces_, pictures_);
+
+    const int width = image.width(), height = image.height();
+    std::vector<std::uint8_t> rgba(static_cast<std::size_t>(width) * height * 4);
+    const std::vector<std::uint8_t>& rgb = image.rgb();
+    for (std::size_t pixel = 0, count = rgba.size() / 4; pixel < count; ++pixel) {
+        rgba[pixel * 4] = rgb[pixel * 3];
+        rgba[pixel * 4 + 1] = rgb[pixel * 3 + 1];
+        rgba[pixel * 4 + 2] = rgb[pixel * 3 + 2];
+        rgba[pixel * 4 + 3] = 255;
+    }
+    val canvas = document_.call<val>("getElementById", canvasId);
+    if (canvas["width"].as<int>() != width) canvas.set("width", width);
+    if (canvas["height"].as<int>() != height) canvas.set("height", height);
+    val pixels = val::global("Uint8ClampedArray").new_(val(rgba.size()));
+    pixels.call<void>("set", val(emscripten::typed_memory_view(rgba.size(), rgba.data())));
+    val picture = val::global("ImageData").new_(pixels, width, height);
+    canvas.call<val>("getContext", std::string("2d")).call<void>("putImageData", picture, 0, 0);
+}
+
+Control* PageView::controlAt(Form& form, int x, int y) const {
+    const std::vector<const Control*> order = face::paintOrder(form);
+    for (auto it = order.rbegin(); it != order.rend(); ++it) {
+        const Control& control = **it;
+        if (!isShown(control) || control.kind == ControlKind::Line) continue;
+        const face::Rect rect = face::controlRect(control, face::kScreenScale);
+        if (x >= rect.x && y >= rect.y && x < rect.x + rect.width && y < rect.y + rect.height)
+            return const_cast<Control*>(&control);
+    }
+    return nullptr;
+}
+
+void PageView::faceClicked(int x, int y) {
+    Form* form = inputForm();
+    if (!form || modal_) return;
+    Control* control = controlAt(*form, x, y);
+    if (!control || !control->enabled) return;
+    runInput([&] { program_.desktop.click(*control); });
+}
+
+void PageView::menuChosen(const std::string& name) {
+    if (modal_) return;
+    runInput([&] { program_.desktop.chooseMenu(name); });
+}
+
+void PageView::pasted(const std::string& utf8) {
+    if (modal_ || !program_.desktop.focus()) return;
+    const std::optional<std::string> bytes = text::utf8ToCp1252(utf8);
+    if (!bytes) {
+        showStatus("The pasted text holds characters this program cannot keep.");
+        return;
+    }
+    runInput([&] { program_.desktop.paste(*bytes); });
+}
+
+}  // namespace lw::web

@@ -1,0 +1,64 @@
+// Serves the page's folder as any static host would, with Python's own server, on a free port of this
+// machine, and opens it in Debian's Chromium, headless, driven through its DevTools protocol.
+"use strict";
+const { spawn } = require("child_process");
+const net = require("net");
+const puppeteer = require("puppeteer-core");
+
+function freePort() {
+  return new Promise((resolve, reject) => {
+    const probe = net.createServer();
+    probe.once("error", reject);
+    probe.listen(0, "127.0.0.1", () => {
+      const { port } = probe.address();
+      probe.close(() => resolve(port));
+    });
+  });
+}
+
+async function waitForServer(port, server) {
+  for (let tries = 0; tries < 100; ++tries) {
+    if (server.exitCode !== null) throw new Error("the web server ended at once");
+    const answered = await new Promise((resolve) => {
+      const socket = net.connect(port, "127.0.0.1", () => { socket.end(); resolve(true); });
+      socket.once("error", () => resolve(false));
+    });
+    if (answered) return;
+    await new Promise((resolve) => setTimeout(resolve, 100));
+  }
+  throw new Error("the web server did not answer on port " + port);
+}
+
+async function openPage(folder, query = "") {
+  const port = await freePort();
+  const server = spawn("python3", ["-m", "http.server", String(port), "--bind", "127.0.0.1"],
+                       { cwd: folder, stdio: "ignore" });
+  try {
+    await waitForServer(port, server);
+    const browser = await puppeteer.launch({
+      executablePath: process.env.LW_CHROMIUM || "/usr/bin/chromium",
+      headless: true,
+      // The test machine runs as root in a container: Chromium's sandbox needs what it has not.
+      args: ["--no-sandbox", "--disable-gpu", "--window-size=1400,1000"],
+      defaultViewport: { width: 1400, height: 1000 },
+    });
+    const page = await browser.newPage();
+    const problems = [];
+    page.on("pageerror", (error) => problems.push(String(error)));
+    page.on("console", (message) => {
+      if (message.type() === "error") problems.push(message.text());
+    });
+    await page.goto(`http://127.0.0.1:${port}/index.html${query}`, { waitUntil: "load" });
+    await page.waitForSelector("body[data-ready=true]", { timeout: 60000 });
+    const close = async () => {
+      await browser.close();
+      server.kill();
+    };
+    return { page, problems, close };
+  } catch (error) {
+    server.kill();
+    throw error;
+  }
+}
+
+module.exports = { openPage };
