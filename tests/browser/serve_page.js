@@ -31,11 +31,12 @@ async function waitForServer(port, server) {
 
 async function openPage(folder, query = "") {
   const port = await freePort();
+  let browser = null;
   const server = spawn("python3", ["-m", "http.server", String(port), "--bind", "127.0.0.1"],
                        { cwd: folder, stdio: "ignore" });
   try {
     await waitForServer(port, server);
-    const browser = await puppeteer.launch({
+    browser = await puppeteer.launch({
       executablePath: process.env.LW_CHROMIUM || "/usr/bin/chromium",
       headless: true,
       // The test machine runs as root in a container: Chromium's sandbox needs what it has not.
@@ -56,6 +57,7 @@ async function openPage(folder, query = "") {
     };
     return { page, problems, close };
   } catch (error) {
+    if (browser) await browser.close();
     server.kill();
     throw error;
   }
