@@ -26,6 +26,7 @@ void PageView::showModal(Form& form) {
     for (const auto& owned : form.controls()) {
         Control& control = *owned;
         if (control.kind != ControlKind::CommandButton || !isShown(control)) continue;
+        if (control.caption.empty() && control.picture.empty()) continue;  // a button the box does not use
         val button = document_.call<val>("createElement", std::string("button"));
         button.set("type", std::string("button"));
         button.set("textContent", text::cp1252ToUtf8(control.caption));
