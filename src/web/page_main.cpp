@@ -69,6 +69,9 @@ EMSCRIPTEN_KEEPALIVE void lw_page_paste(const char* utf8) {
 EMSCRIPTEN_KEEPALIVE void lw_page_dialog_button(int button) {
     if (view()) view()->dialogButton(button);
 }
+EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
+    if (view()) view()->frameButton(button);
+}
 }
 
 int main() {

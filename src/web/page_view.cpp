@@ -35,6 +35,7 @@ void PageView::runInput(const std::function<void()>& input) {
 
 void PageView::show() {
     buildMenus();
+    buildPanel();
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));
     Form* form = inputForm();
     if (form != shown_) {

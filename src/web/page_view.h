@@ -39,6 +39,7 @@ public:
     void menuChosen(const std::string& name);
     void pasted(const std::string& utf8);
     void dialogButton(int button);
+    void frameButton(int button);
 
 private:
     struct Field {
@@ -49,6 +50,7 @@ private:
     Form* inputForm() const;
     void runInput(const std::function<void()>& input);
     void buildMenus();
+    void buildPanel();
     void placeFields(Form& form);
     void clearFields();
     void showFields();
@@ -66,6 +68,8 @@ private:
     std::vector<Field> fields_;
     std::vector<Control*> dialogButtons_;
     std::string menusShown_;
+    std::vector<Control*> panelButtons_;
+    std::string panelShown_;
 };
 
 }  // namespace lw::web

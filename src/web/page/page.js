@@ -101,6 +101,11 @@ var Module = {
       call("lw_page_menu", ["string"], [target.getAttribute("data-menu")]);
       return;
     }
+    if (target.hasAttribute("data-frame-button")) {
+      closeMenus();
+      call("lw_page_frame_button", ["number"], [Number(target.getAttribute("data-frame-button"))]);
+      return;
+    }
     if (target.hasAttribute("data-button")) {
       call("lw_page_dialog_button", ["number"], [Number(target.getAttribute("data-button"))]);
       return;
