@@ -19,7 +19,12 @@ struct FilledLine {
 class LineFiller {
 public:
     LineFiller(const std::string& text, const TextFace& face, double width, TextMeasure& measure)
-        : text_(text), face_(face), width_(width), measure_(measure), breaks_(breaksInsideWords(text)) {}
+        : text_(text),
+          face_(face),
+          width_(width),
+          measure_(measure),
+          breaks_(breaksInsideWords(text)),
+          overhangBound_(measure.metrics(face).overhangBound) {}
 
     // The line that starts at `start` in the paragraph that ends at `end`, the last of the text or one
     // ended by a line feed; broken between pieces: words, or characters when `anywhere`.
@@ -42,8 +47,10 @@ public:
             }
             const std::size_t k = pieceEnd(i, end, anywhere);
             const double piece = advanceInContext(i, k, end);
-            // A piece that does not fit goes to the next line, unless it would stand there alone.
-            if (any && committedWidth + blanks + piece + inkAfter(k) > width_)
+            // A piece that does not fit goes to the next line, unless it would stand there alone. The ink
+            // of its last glyph is looked at only where it might take the line past its width.
+            const double wanted = committedWidth + blanks + piece;
+            if (any && wanted + overhangBound_ > width_ && wanted + inkAfter(k) > width_)
                 return {start, committed, i, committedWidth + inkAfter(i)};
             committedWidth += blanks + piece;
             blanks = 0;
@@ -103,6 +110,7 @@ private:
     double width_;
     TextMeasure& measure_;
     std::vector<bool> breaks_;
+    double overhangBound_;
 };
 
 }  // namespace

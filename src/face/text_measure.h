@@ -33,6 +33,9 @@ struct FaceMetrics {
     double ascent = 0;
     double descent = 0;
     double lineSpacing = 0;  // from one baseline to the next
+    // The farthest the ink of any glyph of the face reaches past its advance: a line shorter than its
+    // room by more than this fits whatever its last glyph.
+    double overhangBound = 0;
     double height() const { return ascent + descent; }
 };
 

@@ -23,7 +23,7 @@ public:
 
     FaceMetrics metrics(const TextFace& face) override {
         const double unit = face.size / 100.0;
-        return FaceMetrics{80 * unit, 20 * unit, 120 * unit};
+        return FaceMetrics{80 * unit, 20 * unit, 120 * unit, lean * unit};
     }
     double advance(const TextFace& face, std::string_view text) override {
         measured.emplace_back(text);
