@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/control.h"
 
@@ -45,6 +46,11 @@ public:
     virtual FaceMetrics metrics(const TextFace& face) = 0;
     // The advance of a line of Windows-1252 text in the face: where the next character would start.
     virtual double advance(const TextFace& face, std::string_view text) = 0;
+    // Where each character of a line of text starts, and where the line ends: as many places as the line
+    // has characters, and one more. A character's advance is as it stands in the line, kerned against the
+    // one after it; the characters of one glyph (see joins()) share its advance. Measured here from the
+    // advances of the line's beginnings, which a front end that lays a line out whole does better.
+    virtual std::vector<double> caretPositions(const TextFace& face, std::string_view line);
     // How far the ink of a glyph reaches past its advance, or 0 where it stays within it: a character,
     // or the characters a face draws as one glyph (see joins()).
     virtual double overhang(const TextFace& face, std::string_view glyph) = 0;

@@ -16,8 +16,6 @@ namespace lw::ui {
 
 namespace {
 
-constexpr std::size_t kMostAdvancesKept = 20000;
-
 // Which pairs of characters a face draws as one glyph, found out a pair at a time.
 class Ligatures {
 public:
@@ -41,9 +39,9 @@ private:
     std::bitset<65536> joined_;
 };
 
-// Everything measured of one face, kept for as long as the program runs; the advances of longer texts
-// only up to a bound, past which they are measured afresh. A form asks for the same few faces, the same
-// characters and the same pairs of them again and again.
+// Everything measured of one face that is asked for again and again, kept for as long as the program
+// runs: its characters one by one and the pairs it draws as one glyph. Longer texts are measured afresh;
+// the engine keeps what it measures while it lays out a form.
 class MeasuredFace {
 public:
     explicit MeasuredFace(const QFont& made) : font(made), measures_(made) {
@@ -64,12 +62,7 @@ public:
             if (known < 0) known = measures_.horizontalAdvance(toQString(std::string(text)));
             return known;
         }
-        std::string key(text);
-        if (const auto found = advances_.find(key); found != advances_.end()) return found->second;
-        const double width = measures_.horizontalAdvance(toQString(key));
-        if (advances_.size() >= kMostAdvancesKept) advances_.clear();
-        advances_.emplace(std::move(key), width);
-        return width;
+        return measures_.horizontalAdvance(toQString(std::string(text)));
     }
 
     double overhang(std::string_view glyph) {
@@ -104,7 +97,6 @@ private:
     QFontMetricsF measures_;
     std::array<double, 256> letters_;
     std::array<double, 256> overhangs_;
-    std::unordered_map<std::string, double> advances_;
     std::unordered_map<std::string, double> glyphOverhangs_;
 };
 
@@ -159,6 +151,24 @@ face::FaceMetrics QtTextMeasure::metrics(const face::TextFace& face) { return me
 
 double QtTextMeasure::advance(const face::TextFace& face, std::string_view text) {
     return measured(face).advance(text);
+}
+
+std::vector<double> QtTextMeasure::caretPositions(const face::TextFace& face, std::string_view line) {
+    // The line laid out whole, as the text engine lays out a paragraph: each place where its characters
+    // stand after those before them.
+    const QString text = toQString(std::string(line));
+    QTextLayout layout(text, measured(face).font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine laid = layout.createLine();
+    laid.setLineWidth(1e9);
+    layout.endLayout();
+    std::vector<double> places(line.size() + 1, 0.0);
+    for (int i = 1; i <= text.size(); ++i) places[static_cast<std::size_t>(i)] = laid.cursorToX(i);
+    return places;
 }
 
 double QtTextMeasure::overhang(const face::TextFace& face, std::string_view glyph) {
