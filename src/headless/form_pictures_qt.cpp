@@ -29,8 +29,6 @@ private:
 
 }  // namespace
 
-bool picturesDrawn() { return true; }
-
 std::shared_ptr<const FormPicture> drawForm(const Form& form, double zoom) {
     return std::make_shared<QtFormPicture>(ui::renderForm(form, zoom));
 }

@@ -172,9 +172,6 @@ bool HeadlessUi::printForm(const Form& form, const std::string& printer) {
     session_.printedPicture = drawForm(form);
     *session_.out << "printed " << form.name() << " on \"" << forOutput(printer) << "\"\n";
     if (session_.printTo.empty()) return true;
-    if (!picturesDrawn() && !session_.scriptError)
-        session_.scriptError = {0,
-                                "this runner draws no pictures, so it cannot print to " + session_.printTo};
     return printFormToPdf(form, session_.printTo);
 }
 

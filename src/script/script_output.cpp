@@ -18,8 +18,6 @@ void ScriptRunner::showValue(const std::vector<std::string>& words) {
     if (command == "save-clipboard") {
         need(words, 2, "save-clipboard PATH");
         if (!session_.clipboardPicture) throw ScriptError("the clipboard holds no picture");
-        if (!headless::picturesDrawn())
-            throw ScriptError("this runner draws no pictures, so it cannot write " + words[1]);
         if (!session_.clipboardPicture->savePng(path(words[1])))
             throw ScriptError("cannot write " + words[1]);
         return;
@@ -29,8 +27,6 @@ void ScriptRunner::showValue(const std::vector<std::string>& words) {
         need(words, 2, "snapshot PATH [ZOOM]");
         double zoom = words.size() > 2 ? std::atof(words[2].c_str()) : 1.0;
         if (zoom <= 0 || zoom > 8) throw ScriptError("the zoom must lie between 0 and 8");
-        if (!headless::picturesDrawn())
-            throw ScriptError("this runner draws no pictures, so it cannot write " + words[1]);
         if (!headless::drawForm(inputForm(), zoom)->savePng(path(words[1])))
             throw ScriptError("cannot write " + words[1]);
         return;

@@ -1,6 +1,7 @@
 #include "made_sets.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 #include <sstream>
@@ -10,7 +11,9 @@ namespace lw::cases {
 const std::string kShipped = LW_BIN_DIR;
 
 std::filesystem::path freshFolder(const std::string& name) {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("lw-class-set-" + name);
+    // The process's own folder: two test runs on one machine must not make their sets in each other's.
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("lw-class-set-" + std::to_string(getpid()) + "-" + name);
     std::filesystem::remove_all(folder);
     return folder;
 }
