@@ -3,6 +3,7 @@
 // Each front end measures with the faces it draws with; the engine places every line from these
 // measures alone, so that the lines break and stand alike wherever the same faces are measured.
 
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,8 +36,9 @@ struct FaceMetrics {
     double descent = 0;
     double lineSpacing = 0;  // from one baseline to the next
     // The farthest the ink of any glyph of the face reaches past its advance: a line shorter than its
-    // room by more than this fits whatever its last glyph.
-    double overhangBound = 0;
+    // room by more than this fits whatever its last glyph. Not known, the ink of every line's last glyph
+    // is looked at.
+    double overhangBound = std::numeric_limits<double>::infinity();
     double height() const { return ascent + descent; }
 };
 
