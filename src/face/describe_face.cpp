@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "face/face_description.h"
+#include "face/measure_memo.h"
 #include "fields/box_dollar_sign.h"
 #include "model/containers.h"
 
@@ -37,7 +38,9 @@ TextItem describeBoxDollarSign(const Control& field, double scale, TextMeasure& 
     return sign;
 }
 
-FaceDescription describeFace(const Form& form, const FaceRequest& request, TextMeasure& measure) {
+FaceDescription describeFace(const Form& form, const FaceRequest& request, TextMeasure& frontEnd) {
+    // The controls of a form repeat their words: each is measured once.
+    MeasureMemo measure(frontEnd);
     FaceDescription face;
     face.size = formSize(form, request.scale);
     face.scale = request.scale;

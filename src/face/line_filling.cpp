@@ -19,12 +19,22 @@ struct FilledLine {
 class LineFiller {
 public:
     LineFiller(const std::string& text, const TextFace& face, double width, TextMeasure& measure)
-        : text_(text), face_(face), width_(width), measure_(measure), breaks_(breaksInsideWords(text)) {}
+        : text_(text),
+          face_(face),
+          width_(width),
+          measure_(measure),
+          breaks_(breaksInsideWords(text)),
+          overhangBound_(measure.metrics(face).overhangBound) {}
 
-    // The line that starts at `start` in the paragraph that ends at `end`, the last of the text or one
-    // ended by a line feed; broken between pieces: words, or characters when `anywhere`.
+    // The paragraph that runs from `start` to `end`: where its characters stand, measured once.
+    void startParagraph(std::size_t start, std::size_t end) {
+        paragraph_ = start;
+        places_ = measure_.caretPositions(face_, std::string_view(text_).substr(start, end - start));
+    }
+
+    // The line that starts at `start` in the current paragraph, which ends at `end`, the last of the
+    // text or one ended by a line feed; broken between pieces: words, or characters when `anywhere`.
     FilledLine fill(std::size_t start, std::size_t end, bool lastParagraph, bool anywhere) {
-        // Widths add up piece by piece, each piece's last character kerned against what follows it.
         std::size_t committed = start;
         double committedWidth = 0;
         double blanks = 0;  // the blanks after what is committed
@@ -34,16 +44,18 @@ public:
             if (isBlank(text_[i])) {
                 std::size_t j = i;
                 while (j < end && isBlank(text_[j])) ++j;
-                blanks = advanceInContext(i, j, end);
+                blanks = span(i, j);
                 // Blanks wider than the whole line end it.
                 if (blanks > width_) return {start, committed, j, committedWidth, true};
                 i = j;
                 continue;
             }
             const std::size_t k = pieceEnd(i, end, anywhere);
-            const double piece = advanceInContext(i, k, end);
-            // A piece that does not fit goes to the next line, unless it would stand there alone.
-            if (any && committedWidth + blanks + piece + inkAfter(k) > width_)
+            const double piece = span(i, k);
+            // A piece that does not fit goes to the next line, unless it would stand there alone. The ink
+            // of its last glyph is looked at only where it might take the line past its width.
+            const double wanted = committedWidth + blanks + piece;
+            if (any && wanted + overhangBound_ > width_ && wanted + inkAfter(k) > width_)
                 return {start, committed, i, committedWidth + inkAfter(i)};
             committedWidth += blanks + piece;
             blanks = 0;
@@ -61,15 +73,9 @@ public:
     }
 
 private:
-    // The advance of text_[from, to) as it stands in its paragraph, which ends at `end`: its last
-    // character kerned against the glyph after it, a ligature such as "fi" being one glyph.
-    double advanceInContext(std::size_t from, std::size_t to, std::size_t end) {
-        if (to <= from) return 0;
-        const std::string_view text(text_);
-        if (to >= end) return measure_.advance(face_, text.substr(from, to - from));
-        const std::size_t glyph = to + 1 < end && joins(text_[to], text_[to + 1]) ? 2 : 1;
-        return measure_.advance(face_, text.substr(from, to + glyph - from)) -
-               measure_.advance(face_, text.substr(to, glyph));
+    // The advance of text_[from, to) as it stands in its paragraph.
+    double span(std::size_t from, std::size_t to) const {
+        return places_[to - paragraph_] - places_[from - paragraph_];
     }
 
     // Where the piece that starts at `from` ends: at the next blank or break inside a word, or after
@@ -103,6 +109,9 @@ private:
     double width_;
     TextMeasure& measure_;
     std::vector<bool> breaks_;
+    double overhangBound_;
+    std::size_t paragraph_ = 0;
+    std::vector<double> places_;  // of the current paragraph's characters, from its start
 };
 
 }  // namespace
@@ -117,6 +126,7 @@ std::vector<TextLine> fillLines(const std::string& text, const TextFace& face, d
         const bool last = feed == std::string::npos;
         const std::size_t end = last ? text.size() : feed;
         std::size_t start = paragraph;
+        filler.startParagraph(paragraph, end);
         bool feedAlone = false;
         do {
             FilledLine line = filler.fill(start, end, last, false);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "face/line_filling.h"
+#include "face/measure_memo.h"
 
 namespace lw::face {
 
@@ -115,7 +116,9 @@ double evenTwoLineWidth(const std::string& text, const TextFace& face, double wi
 }  // namespace
 
 TextBlock layoutShrinking(const std::string& text, const Control& control, const RectF& area,
-                          Alignment alignment, Point origin, TextMeasure& measure) {
+                          Alignment alignment, Point origin, TextMeasure& frontEnd) {
+    // The text is laid out many times over, in several sizes and widths: its words are measured once.
+    MeasureMemo measure(frontEnd);
     const auto face = [&](double points) {
         return designFace(control.fontName, points, control.fontBold, control.fontItalic);
     };

@@ -4,6 +4,7 @@
 #include <QGlyphRun>
 #include <QTextLayout>
 #include <array>
+#include <bitset>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -15,25 +16,89 @@ namespace lw::ui {
 
 namespace {
 
-// Everything measured of one face, kept for as long as the program runs; the advances of texts only
-// up to a bound, past which they are measured afresh.
-struct MeasuredFace {
-    explicit MeasuredFace(const QFont& made) : font(made), measures(made) {
-        vertical.ascent = measures.ascent();
-        vertical.descent = measures.descent();
-        vertical.lineSpacing = measures.lineSpacing();
-        overhangs.fill(-1);
+// Which pairs of characters a face draws as one glyph, found out a pair at a time.
+class Ligatures {
+public:
+    bool joins(const QFont& font, char first, char second) {
+        const std::size_t pair = static_cast<unsigned char>(first) << 8 | static_cast<unsigned char>(second);
+        if (!known_[pair]) {
+            known_[pair] = true;
+            QTextLayout layout(toQString(std::string{first, second}), font);
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            qsizetype glyphs = 0;
+            for (const QGlyphRun& run : layout.glyphRuns()) glyphs += run.glyphIndexes().size();
+            joined_[pair] = glyphs == 1;
+        }
+        return joined_[pair];
     }
-    QFont font;
-    QFontMetricsF measures;
-    face::FaceMetrics vertical;
-    std::array<double, 256> overhangs;
-    std::unordered_map<std::string, double> advances;
-    std::unordered_map<std::uint16_t, bool> joined;  // by the two characters
-    std::unordered_map<std::string, double> glyphOverhangs;
+
+private:
+    std::bitset<65536> known_;
+    std::bitset<65536> joined_;
 };
 
-constexpr std::size_t kMostAdvancesKept = 20000;
+// Everything measured of one face that is asked for again and again, kept for as long as the program
+// runs: its characters one by one and the pairs it draws as one glyph. Longer texts are measured afresh;
+// the engine keeps what it measures while it lays out a form.
+class MeasuredFace {
+public:
+    explicit MeasuredFace(const QFont& made) : font(made), measures_(made) {
+        vertical.ascent = measures_.ascent();
+        vertical.descent = measures_.descent();
+        vertical.lineSpacing = measures_.lineSpacing();
+        vertical.overhangBound = std::max(0.0, -measures_.minRightBearing());
+        letters_.fill(-1);
+        overhangs_.fill(-1);
+    }
+
+    QFont font;
+    face::FaceMetrics vertical;
+
+    double advance(std::string_view text) {
+        if (text.size() == 1) {
+            double& known = letters_[static_cast<unsigned char>(text.front())];
+            if (known < 0) known = measures_.horizontalAdvance(toQString(std::string(text)));
+            return known;
+        }
+        return measures_.horizontalAdvance(toQString(std::string(text)));
+    }
+
+    double overhang(std::string_view glyph) {
+        if (glyph.size() == 1) {
+            double& known = overhangs_[static_cast<unsigned char>(glyph.front())];
+            if (known < 0)
+                known = std::max(0.0, -measures_.rightBearing(toQString(std::string(glyph)).front()));
+            return known;
+        }
+        // A glyph of several characters: how much wider a line of it is than its advance.
+        const std::string key(glyph);
+        if (const auto found = glyphOverhangs_.find(key); found != glyphOverhangs_.end())
+            return found->second;
+        QTextLayout layout(toQString(key), font);
+        QTextOption option;
+        option.setUseDesignMetrics(true);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(1e6);
+        const double natural = line.naturalTextWidth();
+        layout.endLayout();
+        const double ink = std::max(0.0, natural - measures_.horizontalAdvance(toQString(key)));
+        glyphOverhangs_.emplace(key, ink);
+        return ink;
+    }
+
+    // The pairs drawn as one glyph are the same at every size of a face: they are shared by its sizes.
+    std::shared_ptr<Ligatures> ligatures;
+
+private:
+    QFontMetricsF measures_;
+    std::array<double, 256> letters_;
+    std::array<double, 256> overhangs_;
+    std::unordered_map<std::string, double> glyphOverhangs_;
+};
 
 struct FaceKeyHash {
     std::size_t operator()(const face::TextFace& face) const {
@@ -42,22 +107,40 @@ struct FaceKeyHash {
     }
 };
 
+std::shared_ptr<Ligatures> ligaturesOf(const face::TextFace& face) {
+    static std::unordered_map<std::string, std::shared_ptr<Ligatures>> variants;
+    std::shared_ptr<Ligatures>& kept =
+        variants[face.name + (face.bold ? "/bold" : "/") + (face.italic ? "/italic" : "/")];
+    if (!kept) kept = std::make_shared<Ligatures>();
+    return kept;
+}
+
+std::unique_ptr<MeasuredFace> made(const face::TextFace& face) {
+    installFontSubstitutes();
+    QFont font(toQString(face.name));
+    // Unhinted outlines measure the same at every size, so the lines laid out with them keep their widths
+    // on any screen or printer.
+    font.setPixelSize(std::max(1, face.size));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::ForceOutline);
+    font.setBold(face.bold);
+    font.setItalic(face.italic);
+    auto measured = std::make_unique<MeasuredFace>(font);
+    measured->ligatures = ligaturesOf(face);
+    return measured;
+}
+
 MeasuredFace& measured(const face::TextFace& face) {
+    // Text is measured a face at a time: the face measured last is looked for first.
+    static face::TextFace lastFace;
+    static MeasuredFace* last = nullptr;
+    if (last && face == lastFace) return *last;
     static std::unordered_map<face::TextFace, std::unique_ptr<MeasuredFace>, FaceKeyHash> faces;
     auto found = faces.find(face);
-    if (found == faces.end()) {
-        installFontSubstitutes();
-        QFont font(toQString(face.name));
-        // Unhinted outlines measure the same at every size, so the lines laid out with them keep their
-        // widths on any screen or printer.
-        font.setPixelSize(std::max(1, face.size));
-        font.setHintingPreference(QFont::PreferNoHinting);
-        font.setStyleStrategy(QFont::ForceOutline);
-        font.setBold(face.bold);
-        font.setItalic(face.italic);
-        found = faces.emplace(face, std::make_unique<MeasuredFace>(font)).first;
-    }
-    return *found->second;
+    if (found == faces.end()) found = faces.emplace(face, made(face)).first;
+    lastFace = face;
+    last = found->second.get();
+    return *last;
 }
 
 }  // namespace
@@ -67,55 +150,34 @@ QFont qtFont(const face::TextFace& face) { return measured(face).font; }
 face::FaceMetrics QtTextMeasure::metrics(const face::TextFace& face) { return measured(face).vertical; }
 
 double QtTextMeasure::advance(const face::TextFace& face, std::string_view text) {
-    MeasuredFace& kept = measured(face);
-    std::string key(text);
-    if (const auto found = kept.advances.find(key); found != kept.advances.end()) return found->second;
-    const double width = kept.measures.horizontalAdvance(toQString(key));
-    if (kept.advances.size() >= kMostAdvancesKept) kept.advances.clear();
-    kept.advances.emplace(std::move(key), width);
-    return width;
+    return measured(face).advance(text);
 }
 
-double QtTextMeasure::overhang(const face::TextFace& face, std::string_view glyph) {
-    MeasuredFace& kept = measured(face);
-    if (glyph.size() == 1) {
-        double& known = kept.overhangs[static_cast<unsigned char>(glyph.front())];
-        if (known < 0)
-            known = std::max(0.0, -kept.measures.rightBearing(toQString(std::string(glyph)).front()));
-        return known;
-    }
-    // A glyph of several characters: how much wider a line of it is than its advance.
-    const std::string key(glyph);
-    if (const auto found = kept.glyphOverhangs.find(key); found != kept.glyphOverhangs.end())
-        return found->second;
-    QTextLayout layout(toQString(key), kept.font);
+std::vector<double> QtTextMeasure::caretPositions(const face::TextFace& face, std::string_view line) {
+    // The line laid out whole, as the text engine lays out a paragraph: each place where its characters
+    // stand after those before them.
+    const QString text = toQString(std::string(line));
+    QTextLayout layout(text, measured(face).font);
     QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
     option.setUseDesignMetrics(true);
     layout.setTextOption(option);
     layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(1e6);
-    const double natural = line.naturalTextWidth();
+    QTextLine laid = layout.createLine();
+    laid.setLineWidth(1e9);
     layout.endLayout();
-    const double ink = std::max(0.0, natural - kept.measures.horizontalAdvance(toQString(key)));
-    kept.glyphOverhangs.emplace(key, ink);
-    return ink;
+    std::vector<double> places(line.size() + 1, 0.0);
+    for (int i = 1; i <= text.size(); ++i) places[static_cast<std::size_t>(i)] = laid.cursorToX(i);
+    return places;
+}
+
+double QtTextMeasure::overhang(const face::TextFace& face, std::string_view glyph) {
+    return measured(face).overhang(glyph);
 }
 
 bool QtTextMeasure::joins(const face::TextFace& face, char first, char second) {
     MeasuredFace& kept = measured(face);
-    const auto pair = static_cast<std::uint16_t>(static_cast<unsigned char>(first) << 8 |
-                                                 static_cast<unsigned char>(second));
-    if (const auto found = kept.joined.find(pair); found != kept.joined.end()) return found->second;
-    QTextLayout layout(toQString(std::string{first, second}), kept.font);
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-    qsizetype glyphs = 0;
-    for (const QGlyphRun& run : layout.glyphRuns()) glyphs += run.glyphIndexes().size();
-    const bool one = glyphs == 1;
-    kept.joined.emplace(pair, one);
-    return one;
+    return kept.ligatures->joins(kept.font, first, second);
 }
 
 QtTextMeasure& qtTextMeasure() {

@@ -16,6 +16,7 @@ class QtTextMeasure : public face::TextMeasure {
 public:
     face::FaceMetrics metrics(const face::TextFace& face) override;
     double advance(const face::TextFace& face, std::string_view text) override;
+    std::vector<double> caretPositions(const face::TextFace& face, std::string_view line) override;
     double overhang(const face::TextFace& face, std::string_view glyph) override;
     bool joins(const face::TextFace& face, char first, char second) override;
 };

@@ -3,6 +3,7 @@
 // stands: each character is `letter` units wide at a face's size of 100 (a blank `blank` units), and
 // every measure grows with the size of the face.
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,17 +19,24 @@ public:
     std::string leaning;
     double lean = 0;
     std::vector<std::string> ligatures;
+    // Pairs whose first character's advance changes when the second follows it, and by how much.
+    std::map<std::string, double> kerning;
     // Every text measured, in order.
     std::vector<std::string> measured;
 
     FaceMetrics metrics(const TextFace& face) override {
         const double unit = face.size / 100.0;
-        return FaceMetrics{80 * unit, 20 * unit, 120 * unit};
+        return FaceMetrics{80 * unit, 20 * unit, 120 * unit, lean * unit};
     }
     double advance(const TextFace& face, std::string_view text) override {
         measured.emplace_back(text);
         double units = 0;
-        for (char c : text) units += c == ' ' ? blank : letter;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            units += text[i] == ' ' ? blank : letter;
+            if (i + 1 < text.size())
+                if (const auto kerned = kerning.find(std::string(text.substr(i, 2))); kerned != kerning.end())
+                    units += kerned->second;
+        }
         return units * face.size / 100.0;
     }
     double overhang(const TextFace& face, std::string_view glyph) override {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "face/control_text.h"
+#include "face/measure_memo.h"
 #include "fixed_measure.h"
 
 namespace lw::face {
@@ -46,6 +47,17 @@ TEST(TextLayout, ALineIsAsWideAsItsCharactersAndTheInkOfItsLast) {
     // The ink of "F" takes the line past 570: "CDF" goes to the next line.
     EXPECT_EQ(linesOf(laidOut("AB CDF", 570, TextFlow::Words, measure)),
               (std::vector<std::string>{"AB", "CDF"}));
+}
+
+TEST(TextLayout, ACharacterIsKernedAgainstTheOneAfterItEvenAcrossABreak) {
+    FixedMeasure measure;
+    measure.kerning = {{"AV", -30}, {"A ", -30}};
+    EXPECT_EQ(measure.caretPositions(kFace, "AV"), (std::vector<double>{0, 70, 170}));
+    // "XA" ends its line before a blank: its "A" is kerned against that blank, as it stands in the text.
+    const TextBlock block = laidOut("XA BC", 400, TextFlow::Words, measure);
+    ASSERT_EQ(linesOf(block), (std::vector<std::string>{"XA", "BC"}));
+    EXPECT_EQ(block.lines[0].width, 170);
+    EXPECT_EQ(block.lines[1].width, 200);
 }
 
 TEST(TextLayout, AWordTooLongForItsLineBreaksInsideOnlyWhereAllowed) {
@@ -98,6 +110,29 @@ TEST(TextLayout, AFieldThatShrinksTakesASmallerSizeBeforeItBreaks) {
     EXPECT_EQ(block.points, 9.0) << "the largest half point at which the line fits";
     box.text = "ABCDEFGH ABCDEFGH";
     EXPECT_EQ(linesOf(fieldLayout(box, measure)), (std::vector<std::string>{"ABCDEFGH", "ABCDEFGH"}));
+}
+
+}  // namespace
+}  // namespace lw::face
+
+namespace lw::face {
+namespace {
+
+TEST(MeasureMemo, ATextIsMeasuredOnceWhileTheWorkLasts) {
+    testing::FixedMeasure frontEnd;
+    MeasureMemo memo(frontEnd);
+    EXPECT_EQ(memo.advance(kFace, "WAGES"), 500);
+    EXPECT_EQ(memo.advance(kFace, "WAGES"), 500);
+    EXPECT_EQ(memo.advance(TextFace{"Tahoma", 200, false, false}, "WAGES"), 1000)
+        << "another size, measured anew";
+    EXPECT_EQ(frontEnd.measured, (std::vector<std::string>{"WAGES", "WAGES"}));
+    frontEnd.measured.clear();
+    const std::vector<double> places = memo.caretPositions(kFace, "AB C");
+    EXPECT_EQ(places, (std::vector<double>{0, 100, 200, 250, 350}));
+    EXPECT_EQ(memo.caretPositions(kFace, "AB C"), places);
+    const std::size_t measuredOnce = frontEnd.measured.size();
+    memo.caretPositions(kFace, "AB C");
+    EXPECT_EQ(frontEnd.measured.size(), measuredOnce) << "the places are kept too";
 }
 
 }  // namespace
