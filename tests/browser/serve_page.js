@@ -1,6 +1,7 @@
 // Serves the page's folder as any static host would, with Python's own server, on a free port of this
 // machine, and opens it in Debian's Chromium, headless, driven through its DevTools protocol.
 "use strict";
+const path = require("path");
 const { spawn } = require("child_process");
 const net = require("net");
 const puppeteer = require("puppeteer-core");
@@ -63,4 +64,34 @@ async function openPage(folder, query = "") {
   }
 }
 
-module.exports = { openPage };
+// A failed check is told and gives exit status 1; the test's body returns after it.
+function fail(message) {
+  console.error("FAIL: " + message);
+  process.exitCode = 1;
+}
+
+// Opens a menu of the page and chooses one of its items, as the operator clicks them.
+async function chooseMenu(page, itemName) {
+  await page.evaluate((name) =>
+    document.querySelector(`[data-menu="${name}"]`).closest(".menu").querySelector(".menu-title").click(), itemName);
+  await page.click(`[data-menu="${itemName}"]`);
+}
+
+// Runs one browser test on the page served from the folder named first on the command line (the web
+// build's page by default). The body gets the page and returns what passed, or nothing after a fail();
+// anything the page reported as an error fails the test too.
+function runPageTest(body) {
+  const folder = path.resolve(process.argv[2] || path.join(__dirname, "../../build-web/web"));
+  (async () => {
+    const { page, problems, close } = await openPage(folder);
+    try {
+      const passed = await body(page);
+      if (problems.length) return fail("the page reported: " + problems.join("; "));
+      if (passed && !process.exitCode) console.log("PASS: " + passed);
+    } finally {
+      await close();
+    }
+  })().catch((error) => fail(error.stack || String(error)));
+}
+
+module.exports = { openPage, fail, chooseMenu, runPageTest };
