@@ -90,10 +90,40 @@ public:
         return ink;
     }
 
+    // Each place where a line's characters stand after those before them, the line laid out whole as the
+    // text engine lays out a paragraph. A clip or a print lays out the same captions again, so the lines
+    // measured last are kept, up to a bound past which they are forgotten at once.
+    const std::vector<double>& caretPositions(std::string_view line) {
+        std::string key(line);
+        if (const auto found = lines_.find(key); found != lines_.end()) return found->second;
+        if (lines_.size() >= kKeptLines) lines_.clear();
+        std::vector<double> places = layOut(key);
+        return lines_.emplace(std::move(key), std::move(places)).first->second;
+    }
+
     // The pairs drawn as one glyph are the same at every size of a face: they are shared by its sizes.
     std::shared_ptr<Ligatures> ligatures;
 
 private:
+    static constexpr std::size_t kKeptLines = 256;
+
+    std::vector<double> layOut(const std::string& line) const {
+        const QString text = toQString(line);
+        QTextLayout layout(text, font);
+        QTextOption option;
+        option.setWrapMode(QTextOption::NoWrap);
+        option.setUseDesignMetrics(true);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine laid = layout.createLine();
+        laid.setLineWidth(1e9);
+        layout.endLayout();
+        std::vector<double> places(line.size() + 1, 0.0);
+        for (int i = 1; i <= text.size(); ++i) places[static_cast<std::size_t>(i)] = laid.cursorToX(i);
+        return places;
+    }
+
+    std::unordered_map<std::string, std::vector<double>> lines_;
     QFontMetricsF measures_;
     std::array<double, 256> letters_;
     std::array<double, 256> overhangs_;
@@ -154,21 +184,7 @@ double QtTextMeasure::advance(const face::TextFace& face, std::string_view text)
 }
 
 std::vector<double> QtTextMeasure::caretPositions(const face::TextFace& face, std::string_view line) {
-    // The line laid out whole, as the text engine lays out a paragraph: each place where its characters
-    // stand after those before them.
-    const QString text = toQString(std::string(line));
-    QTextLayout layout(text, measured(face).font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setUseDesignMetrics(true);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine laid = layout.createLine();
-    laid.setLineWidth(1e9);
-    layout.endLayout();
-    std::vector<double> places(line.size() + 1, 0.0);
-    for (int i = 1; i <= text.size(); ++i) places[static_cast<std::size_t>(i)] = laid.cursorToX(i);
-    return places;
+    return measured(face).caretPositions(line);
 }
 
 double QtTextMeasure::overhang(const face::TextFace& face, std::string_view glyph) {
