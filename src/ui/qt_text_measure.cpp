@@ -105,7 +105,7 @@ public:
     std::shared_ptr<Ligatures> ligatures;
 
 private:
-    static constexpr std::size_t kKeptLines = 256;
+    static constexpr std::size_t kKeptLines = 128;
 
     std::vector<double> layOut(const std::string& line) const {
         const QString text = toQString(line);
