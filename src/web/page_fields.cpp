@@ -1,11 +1,11 @@
-// The fields of the shown form as real inputs over its face: made when the form shows, and after every
-// input given the engine's text, selection, colours and focus.
+// The fields of a shown form, real elements over its face: after every input given the engine's text,
+// selection, colours and focus.
 #include "web/page_fields.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
-#include "catalogue/field_names.h"
 #include "face/face_description.h"
 #include "headless/face_raster.h"
 #include "model/containers.h"
@@ -18,8 +18,6 @@ namespace lw::web {
 using emscripten::val;
 
 namespace {
-
-std::string px(int pixels) { return std::to_string(pixels) + "px"; }
 
 // The families index.html loads from the font files the engine measures with.
 std::string cssFamily(const std::string& faceName) {
@@ -57,43 +55,16 @@ void paintButtons(const Form& form, headless::RasterImage& image, headless::True
     }
 }
 
-void PageView::clearFields() {
-    for (Field& field : fields_) field.element.call<void>("remove");
-    fields_.clear();
-}
-
-void PageView::placeFields(Form& form) {
-    val layer = document_.call<val>("getElementById", std::string("fields"));
-    const std::map<const Control*, FieldName> names = fieldNamesOf(form);
-    for (const auto& owned : form.controls()) {
-        Control& control = *owned;
-        if (control.kind != ControlKind::TextBox || control.wordsOnly) continue;
-        val element =
-            document_.call<val>("createElement", std::string(control.multiLine ? "textarea" : "input"));
-        const int index = static_cast<int>(fields_.size());
-        element.set("id", "field-" + std::to_string(index));
-        element.call<void>("setAttribute", std::string("data-field"), index);
-        element.call<void>("setAttribute", std::string("autocomplete"), std::string("off"));
-        element.call<void>("setAttribute", std::string("spellcheck"), std::string("false"));
-        const auto named = names.find(&control);
-        const std::string label =
-            named != names.end() && !named->second.text.empty() ? named->second.text : control.key();
-        element.call<void>("setAttribute", std::string("aria-label"), text::cp1252ToUtf8(label));
-        element.call<void>("setAttribute", std::string("data-name"), control.key());
-        val style = element["style"];
-        const face::Rect rect = face::controlRect(control, face::kScreenScale);
-        style.set("left", px(rect.x));
-        style.set("top", px(rect.y));
-        style.set("width", px(rect.width));
-        style.set("height", px(rect.height));
-        style.set("font", cssFont(control));
-        style.set("textAlign", std::string(control.alignment == 1   ? "right"
-                                           : control.alignment == 2 ? "center"
-                                                                    : "left"));
-        style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
-        layer.call<void>("appendChild", element);
-        fields_.push_back({&control, element});
-    }
+// The elements of a form that is no longer shown go; the others keep their elements, numbered anew.
+void PageView::clearFields(const Form& form) {
+    const auto gone = std::remove_if(fields_.begin(), fields_.end(), [&](Field& field) {
+        if (field.control->form != &form) return false;
+        field.element.call<void>("remove");
+        return true;
+    });
+    if (gone == fields_.end()) return;
+    fields_.erase(gone, fields_.end());
+    numberFields();
 }
 
 void PageView::showFields() {
@@ -111,9 +82,15 @@ void PageView::showField(Field& field, const Control* focus) {
     val element = field.element;
     val style = element["style"];
     style.set("display", std::string(isShown(control) ? "block" : "none"));
+    element.set("disabled", !control.enabled);
+    if (control.kind != ControlKind::TextBox) {
+        showControl(field);
+        if (&control == focus && !document_["activeElement"].strictlyEquals(element))
+            element.call<void>("focus");
+        return;
+    }
     const std::string shown = text::cp1252ToUtf8(control.text);
     if (element["value"].as<std::string>() != shown) element.set("value", shown);
-    element.set("disabled", !control.enabled);
     element.set("readOnly", control.locked);
     style.set("backgroundColor", cssColor(control.backColor));
     style.set("color", cssColor(control.foreColor));
@@ -129,18 +106,17 @@ int PageView::indexOf(const Control* control) const {
 }
 
 bool PageView::fieldPressed(int field) {
-    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return false;
-    Control& control = *fields_[static_cast<std::size_t>(field)].control;
-    if (program_.desktop.focus() != &control) runInput([&] { program_.desktop.click(control); });
-    return program_.desktop.focus() == &control;
+    Control* control = usableField(field);
+    if (!control) return false;
+    if (program_.desktop.focus() != control) runInput([&] { program_.desktop.click(*control); });
+    return program_.desktop.focus() == control;
 }
 
 // A caret put or text selected with the mouse is the engine's selection.
 void PageView::fieldSelected(int field, int start, int end) {
-    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return;
-    Control& control = *fields_[static_cast<std::size_t>(field)].control;
-    if (program_.desktop.focus() != &control) return;
-    control.select(std::min(start, end), std::abs(end - start));
+    Control* control = usableField(field);
+    if (!control || program_.desktop.focus() != control) return;
+    control->select(std::min(start, end), std::abs(end - start));
 }
 
 }  // namespace lw::web

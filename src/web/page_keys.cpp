@@ -29,7 +29,7 @@ int keyAsciiOf(int keyCode, int shift, const std::string& name) {
 
 void PageView::key(int keyCode, int shift, const std::string& name) {
     Desktop& desktop = program_.desktop;
-    if (modal_ || !inputForm() || !desktop.focus()) return;
+    if (!desktop.focus()) return;
     if (name == "Tab") {
         runInput([&] { desktop.tab(shift & keys::kShiftMask); });
         return;

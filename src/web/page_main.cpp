@@ -66,8 +66,8 @@ EMSCRIPTEN_KEEPALIVE void lw_page_menu(const char* name) {
 EMSCRIPTEN_KEEPALIVE void lw_page_paste(const char* utf8) {
     if (view()) view()->pasted(utf8);
 }
-EMSCRIPTEN_KEEPALIVE void lw_page_dialog_button(int button) {
-    if (view()) view()->dialogButton(button);
+EMSCRIPTEN_KEEPALIVE void lw_page_control(int field, int entry) {
+    if (view()) view()->controlUsed(field, entry);
 }
 EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
     if (view()) view()->frameButton(button);

@@ -39,31 +39,28 @@ void PageView::show() {
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));
     Form* form = inputForm();
     if (form != shown_) {
-        clearFields();
+        if (shown_) clearFields(*shown_);
         shown_ = form;
-        if (form) placeFields(*form);
+        if (form) placeFields(*form, "fields");
         val title = document_.call<val>("getElementById", std::string("form-title"));
         title.set("textContent", form ? text::cp1252ToUtf8(form->caption) : std::string());
     }
     val canvas = document_.call<val>("getElementById", std::string("face"));
-    if (!form) {
+    if (form) {
+        paintFace(*form, "face");
+    } else {
         canvas.set("width", 0);
         canvas.set("height", 0);
-        return;
     }
-    paintFace(*form, "face");
+    if (modal_) paintFace(*modal_, "modal-face");
     showFields();
 }
 
 void PageView::forget(Form& form) {
-    if (&form == shown_) {
-        clearFields();
-        shown_ = nullptr;
-    }
-    if (&form == modal_) {
-        modal_ = nullptr;
-        dialogButtons_.clear();
-    }
+    clearFields(form);
+    if (&form == shown_) shown_ = nullptr;
+    if (&form == modal_) modal_ = nullptr;
+    modals_.erase(std::remove(modals_.begin(), modals_.end(), &form), modals_.end());
 }
 
 bool PageView::isLoaded(const Form& form) const { return form.isLoaded(); }
@@ -75,7 +72,7 @@ void PageView::showStatus(const std::string& utf8) {
 // The engine's own painter draws the face as the runner draws it, with the faces it measured the text
 // with; the canvas shows its pixels one for one.
 void PageView::paintFace(Form& form, const std::string& canvasId) {
-    const bool hostsEditors = &form == shown_;
+    const bool hostsEditors = &form == shown_ || &form == modal_;
     const face::FaceDescription face =
         face::describeFace(form, face::FaceRequest{face::kScreenScale, hostsEditors, {}}, faces_);
     headless::RasterImage image(face.size.width, face.size.height, face.ground);
@@ -117,6 +114,12 @@ void PageView::faceClicked(int x, int y) {
     if (!form || modal_) return;
     Control* control = controlAt(*form, x, y);
     if (!control || !control->enabled) return;
+    if (control->kind == ControlKind::TabControl || control->kind == ControlKind::Grid ||
+        control->kind == ControlKind::ListBox) {
+        const int entry = face::entryAt(*control, face::Point{x, y}, face::kScreenScale, faces_);
+        if (entry >= 0) controlUsed(indexOf(control), entry);
+        return;
+    }
     runInput([&] { program_.desktop.click(*control); });
 }
 
@@ -126,7 +129,7 @@ void PageView::menuChosen(const std::string& name) {
 }
 
 void PageView::pasted(const std::string& utf8) {
-    if (modal_ || !program_.desktop.focus()) return;
+    if (!program_.desktop.focus()) return;
     const std::optional<std::string> bytes = text::utf8ToCp1252(utf8);
     if (!bytes) {
         showStatus("The pasted text holds characters this program cannot keep.");

@@ -1,7 +1,8 @@
 #pragma once
 // The program in a browser page: the frame's menus as HTML, the shown form's face painted on a canvas
-// by the engine's description, its fields real inputs over the face, and message boxes as dialogs.
-// After every input the page shows what the engine holds: text, selection, colours and focus.
+// by the engine's description, its controls real page elements over the face, and modal forms as a
+// dialog that hosts their controls the same way. After every input the page shows what the engine
+// holds: text, selection, checks, choices, colours and focus.
 
 #include <emscripten/val.h>
 
@@ -23,8 +24,9 @@ public:
     void show();
     // The engine is about to drop a form: nothing of the page may point at it any more.
     void forget(Form& form);
-    // Shows a modal form as a dialog; true while it is still loaded.
+    // Shows a modal form as a dialog over the page, on top of any shown before it.
     void showModal(Form& form);
+    // A modal form was answered: the dialog shows the one beneath it, or closes.
     void closeModal();
     bool isLoaded(const Form& form) const;
     void showStatus(const std::string& utf8);
@@ -38,10 +40,13 @@ public:
     void faceClicked(int x, int y);
     void menuChosen(const std::string& name);
     void pasted(const std::string& utf8);
-    void dialogButton(int button);
     void frameButton(int button);
+    // A control other than a text box used: clicked, or one of its entries (a list's row, a tab, a
+    // combo box's item) chosen.
+    void controlUsed(int field, int entry);
 
 private:
+    // A control of a shown form hosted as a page element over its face.
     struct Field {
         Control* control = nullptr;
         emscripten::val element = emscripten::val::undefined();
@@ -51,22 +56,32 @@ private:
     void runInput(const std::function<void()>& input);
     void buildMenus();
     void buildPanel();
-    void placeFields(Form& form);
-    void clearFields();
+    // The controls of a form as page elements in the layer over its face; the main face and the dialog
+    // host theirs alike.
+    void placeFields(Form& form, const std::string& layerId);
+    emscripten::val makeElement(Control& control, const std::string& name);
+    void placeEntries(Control& control, emscripten::val element, int field);
+    void clearFields(const Form& form);
+    void numberFields();
     void showFields();
     void showField(Field& field, const Control* focus);
+    void showControl(Field& field);
+    void showDialog();
     void paintFace(Form& form, const std::string& canvasId);
     Control* controlAt(Form& form, int x, int y) const;
     int indexOf(const Control* control) const;
+    // The field of the form that takes the operator's input, or null.
+    Control* usableField(int field) const;
 
     Program& program_;
     headless::TrueTypeFaces faces_;
     headless::PictureFiles pictures_;
     emscripten::val document_;
     Form* shown_ = nullptr;
+    // The modal forms waiting for their answer, innermost last; the dialog hosts the innermost.
+    std::vector<Form*> modals_;
     Form* modal_ = nullptr;
     std::vector<Field> fields_;
-    std::vector<Control*> dialogButtons_;
     std::string menusShown_;
     std::vector<Control*> panelButtons_;
     std::string panelShown_;

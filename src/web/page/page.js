@@ -50,8 +50,7 @@ var Module = {
   }
 
   document.addEventListener("keydown", function (event) {
-    if (document.getElementById("modal").open) return;  // the dialog's buttons take their keys
-    if (fieldOf(event.target) < 0) return;
+    if (fieldOf(event.target) < 0) return;  // a button, a check box, a list take their keys as clicks
     if (event.isComposing || event.key === "Process" || event.key === "Dead") return;
     // Ctrl+V brings its text with the paste that follows.
     if (event.ctrlKey && !event.altKey && event.keyCode === 86) return;
@@ -106,11 +105,32 @@ var Module = {
       call("lw_page_frame_button", ["number"], [Number(target.getAttribute("data-frame-button"))]);
       return;
     }
-    if (target.hasAttribute("data-button")) {
-      call("lw_page_dialog_button", ["number"], [Number(target.getAttribute("data-button"))]);
+    if (target.hasAttribute("data-control")) {
+      // A select is used when its choice changes; a list or a strip of tabs through its entries.
+      var role = target.getAttribute("role");
+      if (target.tagName === "SELECT" || role === "tablist" || role === "listbox") return;
+      // A check or option shows what the engine makes of the click, set before the click ends.
+      call("lw_page_control", ["number", "number"], [Number(target.getAttribute("data-control")),
+        target.hasAttribute("data-entry") ? Number(target.getAttribute("data-entry")) : -1]);
       return;
     }
     if (!target.closest(".menu")) closeMenus();
+  });
+
+  document.addEventListener("change", function (event) {
+    var target = event.target;
+    if (target.tagName === "SELECT" && target.hasAttribute("data-control"))
+      call("lw_page_control", ["number", "number"], [Number(target.getAttribute("data-control")), target.selectedIndex]);
+  });
+
+  // A row of a list is chosen with Enter or Space too, as a click chooses it.
+  document.addEventListener("keydown", function (event) {
+    var target = event.target;
+    if (target.getAttribute && target.getAttribute("role") === "option" && target.hasAttribute("data-entry") &&
+        (event.key === "Enter" || event.key === " ")) {
+      event.preventDefault();
+      target.click();
+    }
   });
 
   // A box is answered by its buttons; Escape does not close it behind the engine's back.
