@@ -27,8 +27,8 @@ void placeAt(val element, const face::Rect& rect) {
     style.set("height", px(rect.height));
 }
 
-// The controls the page hosts as elements of their own; labels, shapes, lines, pictures and frames are
-// only painted.
+// The controls the page hosts as elements of their own; shapes, lines, pictures and frames are only
+// painted.
 bool isHosted(const Control& control) {
     switch (control.kind) {
         case ControlKind::TextBox:
@@ -36,6 +36,7 @@ bool isHosted(const Control& control) {
         case ControlKind::CommandButton:
             return !control.caption.empty() ||
                    !control.picture.empty();  // else a button the form keeps unseen
+        case ControlKind::Label:
         case ControlKind::CheckLabel:
         case ControlKind::OptionButton:
         case ControlKind::ComboBox:
@@ -68,7 +69,11 @@ void PageView::placeFields(Form& form, const std::string& layerId) {
                                      : control.key();
         val element = makeElement(control, text::cp1252ToUtf8(name));
         element.call<void>("setAttribute", std::string("data-name"), control.key());
-        placeAt(element, face::controlRect(control, face::kScreenScale));
+        face::Rect rect = face::controlRect(control, face::kScreenScale);
+        // A tab control's pages are the face beneath: only its strip of tabs is an element.
+        if (control.kind == ControlKind::TabControl)
+            rect.height = face::tabStripHeight(control, face::kScreenScale);
+        placeAt(element, rect);
         layer.call<void>("appendChild", element);
         fields_.push_back({&control, element});
     }
@@ -107,6 +112,11 @@ val PageView::makeElement(Control& control, const std::string& name) {
             element.set("textContent", text::cp1252ToUtf8(control.caption));
             element["style"].set("font", cssFont(control));
             break;
+        case ControlKind::Label:
+            // The words the engine paints, there for a screen reader to read and a click to pass through.
+            element = make("div");
+            element.set("className", std::string("over caption"));
+            return element;
         default:
             element = make("div");
             element.set("className", std::string("over"));
@@ -175,7 +185,8 @@ void PageView::showControl(Field& field) {
         case ControlKind::OptionButton:
             element.set("checked", control.value);
             break;
-        case ControlKind::CommandButton: {
+        case ControlKind::CommandButton:
+        case ControlKind::Label: {
             const std::string caption = text::cp1252ToUtf8(control.caption);
             if (element["textContent"].as<std::string>() != caption) element.set("textContent", caption);
             break;
