@@ -3,6 +3,7 @@
 // radio buttons over what the engine paints, combo boxes as selects, command buttons as buttons, and the
 // tabs of a tab control and the rows of a grid or list as elements a click or a key chooses.
 #include <algorithm>
+#include <filesystem>
 
 #include "catalogue/field_names.h"
 #include "face/face_description.h"
@@ -37,6 +38,8 @@ bool isHosted(const Control& control) {
             return !control.caption.empty() ||
                    !control.picture.empty();  // else a button the form keeps unseen
         case ControlKind::Label:
+        case ControlKind::Picture:
+        case ControlKind::Image:
         case ControlKind::CheckLabel:
         case ControlKind::OptionButton:
         case ControlKind::ComboBox:
@@ -47,6 +50,16 @@ bool isHosted(const Control& control) {
         default:
             return false;
     }
+}
+
+// What a screen reader says of a control: the name the desktop gives it, a button's caption, its tip;
+// the control's own name for a field nothing names, nothing for a picture nothing names.
+std::string nameOf(const Control& control, const std::string& named) {
+    if (!named.empty()) return named;
+    if (control.kind == ControlKind::CommandButton && !control.caption.empty()) return control.caption;
+    if (!control.toolTipText.empty()) return control.toolTipText;
+    if (control.kind == ControlKind::Picture || control.kind == ControlKind::Image) return {};
+    return control.key();
 }
 
 bool hasEntries(const Control& control) {
@@ -63,11 +76,9 @@ void PageView::placeFields(Form& form, const std::string& layerId) {
         Control& control = *owned;
         if (!isHosted(control)) continue;
         const auto named = names.find(&control);
-        const std::string name = named != names.end() && !named->second.text.empty() ? named->second.text
-                                 : !control.caption.empty() && control.kind == ControlKind::CommandButton
-                                     ? control.caption
-                                     : control.key();
-        val element = makeElement(control, text::cp1252ToUtf8(name));
+        val element = makeElement(
+            control,
+            text::cp1252ToUtf8(nameOf(control, named != names.end() ? named->second.text : std::string())));
         element.call<void>("setAttribute", std::string("data-name"), control.key());
         face::Rect rect = face::controlRect(control, face::kScreenScale);
         // A tab control's pages are the face beneath: only its strip of tabs is an element.
@@ -117,6 +128,13 @@ val PageView::makeElement(Control& control, const std::string& name) {
             element = make("div");
             element.set("className", std::string("over caption"));
             return element;
+        case ControlKind::Picture:
+        case ControlKind::Image:
+            // A picture is painted on the face; the element says which, and lets a click through.
+            element = make("div");
+            element.set("className", std::string("over caption"));
+            element.call<void>("setAttribute", std::string("role"), std::string("img"));
+            break;
         default:
             element = make("div");
             element.set("className", std::string("over"));
@@ -124,7 +142,10 @@ val PageView::makeElement(Control& control, const std::string& name) {
                                std::string(control.kind == ControlKind::TabControl ? "tablist" : "listbox"));
             break;
     }
-    element.call<void>("setAttribute", std::string("aria-label"), name);
+    if (name.empty())
+        element.call<void>("setAttribute", std::string("aria-hidden"), std::string("true"));
+    else
+        element.call<void>("setAttribute", std::string("aria-label"), name);
     return element;
 }
 
@@ -184,6 +205,11 @@ void PageView::showControl(Field& field) {
             break;
         case ControlKind::OptionButton:
             element.set("checked", control.value);
+            break;
+        case ControlKind::Picture:
+        case ControlKind::Image:
+            element.call<void>("setAttribute", std::string("data-picture"),
+                               std::filesystem::path(control.picture).filename().string());
             break;
         case ControlKind::CommandButton:
         case ControlKind::Label: {

@@ -57,8 +57,8 @@ EMSCRIPTEN_KEEPALIVE int lw_page_field_pressed(int field) {
 EMSCRIPTEN_KEEPALIVE void lw_page_field_selected(int field, int start, int end) {
     if (view()) view()->fieldSelected(field, start, end);
 }
-EMSCRIPTEN_KEEPALIVE void lw_page_face_clicked(int x, int y) {
-    if (view()) view()->faceClicked(x, y);
+EMSCRIPTEN_KEEPALIVE void lw_page_face_clicked(int x, int y, int button) {
+    if (view()) view()->faceClicked(x, y, button);
 }
 EMSCRIPTEN_KEEPALIVE void lw_page_menu(const char* name) {
     if (view()) view()->menuChosen(name);

@@ -109,7 +109,7 @@ Control* PageView::controlAt(Form& form, int x, int y) const {
     return nullptr;
 }
 
-void PageView::faceClicked(int x, int y) {
+void PageView::faceClicked(int x, int y, int button) {
     Form* form = inputForm();
     if (!form || modal_) return;
     Control* control = controlAt(*form, x, y);
@@ -120,7 +120,10 @@ void PageView::faceClicked(int x, int y) {
         if (entry >= 0) controlUsed(indexOf(control), entry);
         return;
     }
-    runInput([&] { program_.desktop.click(*control); });
+    const MouseButton pressed = button == 2   ? MouseButton::Right
+                                : button == 1 ? MouseButton::Middle
+                                              : MouseButton::Left;
+    runInput([&] { program_.desktop.click(*control, pressed); });
 }
 
 void PageView::menuChosen(const std::string& name) {

@@ -37,7 +37,8 @@ public:
     void key(int keyCode, int shift, const std::string& name);
     bool fieldPressed(int field);
     void fieldSelected(int field, int start, int end);
-    void faceClicked(int x, int y);
+    // A click on the face with the mouse button the page names (0 left, 1 middle, 2 right).
+    void faceClicked(int x, int y, int button);
     void menuChosen(const std::string& name);
     void pasted(const std::string& utf8);
     void frameButton(int button);

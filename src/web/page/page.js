@@ -80,13 +80,25 @@ var Module = {
       Module._lw_page_field_selected(field, event.target.selectionStart, event.target.selectionEnd);
   }, true);
 
+  // A click on the face, with the button pressed: a license takes a portrait on the left or right.
+  function faceClicked(event) {
+    var face = event.target, box = face.getBoundingClientRect();
+    call("lw_page_face_clicked", ["number", "number", "number"],
+         [Math.floor((event.clientX - box.left) * face.width / box.width),
+          Math.floor((event.clientY - box.top) * face.height / box.height), event.button]);
+  }
+  ["contextmenu", "auxclick"].forEach(function (kind) {
+    document.addEventListener(kind, function (event) {
+      if (event.target.id !== "face" || (kind === "auxclick" && event.button !== 1)) return;
+      event.preventDefault();
+      faceClicked(event);
+    });
+  });
+
   document.addEventListener("click", function (event) {
     var target = event.target;
     if (target.id === "face") {
-      var box = target.getBoundingClientRect();
-      call("lw_page_face_clicked", ["number", "number"],
-           [Math.floor((event.clientX - box.left) * target.width / box.width),
-            Math.floor((event.clientY - box.top) * target.height / box.height)]);
+      faceClicked(event);
       return;
     }
     if (target.classList.contains("menu-title")) {
