@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "catalogue/field_names.h"
+#include "face/caption_text.h"
 #include "face/face_description.h"
 #include "model/containers.h"
 #include "text/cp1252.h"
@@ -56,7 +57,8 @@ bool isHosted(const Control& control) {
 // the control's own name for a field nothing names, nothing for a picture nothing names.
 std::string nameOf(const Control& control, const std::string& named) {
     if (!named.empty()) return named;
-    if (control.kind == ControlKind::CommandButton && !control.caption.empty()) return control.caption;
+    if (control.kind == ControlKind::CommandButton && !control.caption.empty())
+        return face::withoutAccessMarks(control.caption);
     if (!control.toolTipText.empty()) return control.toolTipText;
     if (control.kind == ControlKind::Picture || control.kind == ControlKind::Image) return {};
     return control.key();
@@ -120,7 +122,6 @@ val PageView::makeElement(Control& control, const std::string& name) {
         case ControlKind::CommandButton:
             element = make("button");
             element.set("type", std::string("button"));
-            element.set("textContent", text::cp1252ToUtf8(control.caption));
             element["style"].set("font", cssFont(control));
             break;
         case ControlKind::Label:
@@ -213,7 +214,8 @@ void PageView::showControl(Field& field) {
             break;
         case ControlKind::CommandButton:
         case ControlKind::Label: {
-            const std::string caption = text::cp1252ToUtf8(control.caption);
+            const std::string caption =
+                text::cp1252ToUtf8(face::withoutAccessMarks(face::withLineFeeds(control.caption)));
             if (element["textContent"].as<std::string>() != caption) element.set("textContent", caption);
             break;
         }
@@ -260,12 +262,12 @@ void PageView::controlUsed(int field, int entry) {
     Control* control = usableField(field);
     if (!control || control->kind == ControlKind::TextBox) return;
     if (entry < 0) {
-        runInput([&] { program_.desktop.click(*control); });
+        runInput([this, control] { program_.desktop.click(*control); }, control);
         return;
     }
     if (entry >= static_cast<int>(control->items.size())) return;
     const std::string chosen = control->items[static_cast<std::size_t>(entry)];
-    runInput([&] { program_.desktop.choose(*control, chosen); });
+    runInput([this, control, chosen] { program_.desktop.choose(*control, chosen); }, control);
 }
 
 }  // namespace lw::web

@@ -108,7 +108,8 @@ int PageView::indexOf(const Control* control) const {
 bool PageView::fieldPressed(int field) {
     Control* control = usableField(field);
     if (!control) return false;
-    if (program_.desktop.focus() != control) runInput([&] { program_.desktop.click(*control); });
+    if (program_.desktop.focus() != control)
+        runInput([this, control] { program_.desktop.click(*control); }, control);
     return program_.desktop.focus() == control;
 }
 

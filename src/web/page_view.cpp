@@ -22,7 +22,12 @@ Form* PageView::inputForm() const {
     return form && form->isLoaded() ? form : nullptr;
 }
 
-void PageView::runInput(const std::function<void()>& input) {
+void PageView::runInput(std::function<void()> input, const Control* on) {
+    if (asleep_) {
+        waitingInput_.push_back({std::move(input), on});
+        return;
+    }
+    if (on && !isLive(on)) return;
     try {
         input();
     } catch (const ProgramEnded&) {
@@ -31,6 +36,22 @@ void PageView::runInput(const std::function<void()>& input) {
         showStatus(std::string("The page could not carry out that input: ") + fault.what());
     }
     show();
+}
+
+void PageView::runWaitingInput() {
+    while (!waitingInput_.empty()) {
+        WaitingInput waiting = std::move(waitingInput_.front());
+        waitingInput_.pop_front();
+        runInput(std::move(waiting.input), waiting.on);
+    }
+}
+
+bool PageView::isLive(const Control* control) const {
+    for (const Form* form : program_.desktop.forms())
+        if (form->isLoaded())
+            for (const auto& owned : form->controls())
+                if (owned.get() == control) return true;
+    return false;
 }
 
 void PageView::show() {
@@ -123,12 +144,12 @@ void PageView::faceClicked(int x, int y, int button) {
     const MouseButton pressed = button == 2   ? MouseButton::Right
                                 : button == 1 ? MouseButton::Middle
                                               : MouseButton::Left;
-    runInput([&] { program_.desktop.click(*control, pressed); });
+    runInput([this, control, pressed] { program_.desktop.click(*control, pressed); }, control);
 }
 
 void PageView::menuChosen(const std::string& name) {
     if (modal_) return;
-    runInput([&] { program_.desktop.chooseMenu(name); });
+    runInput([this, name] { program_.desktop.chooseMenu(name); });
 }
 
 void PageView::pasted(const std::string& utf8) {
@@ -138,7 +159,7 @@ void PageView::pasted(const std::string& utf8) {
         showStatus("The pasted text holds characters this program cannot keep.");
         return;
     }
-    runInput([&] { program_.desktop.paste(*bytes); });
+    runInput([this, text = *bytes] { program_.desktop.paste(text); });
 }
 
 }  // namespace lw::web

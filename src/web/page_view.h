@@ -6,6 +6,7 @@
 
 #include <emscripten/val.h>
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ public:
     void closeModal();
     bool isLoaded(const Form& form) const;
     void showStatus(const std::string& utf8);
+    // A modal form's wait sleeps while the page takes input, and runs what came in when it wakes.
+    void setAsleep(bool asleep) { asleep_ = asleep; }
+    void runWaitingInput();
 
     // The operator's input, from the page.
     // A key as the page saw it: its key code, the shift state (1 Shift, 2 Ctrl, 4 Alt) and its name or
@@ -54,7 +58,11 @@ private:
     };
 
     Form* inputForm() const;
-    void runInput(const std::function<void()>& input);
+    // Runs an input of the operator and shows what follows. While a modal form's wait sleeps, the input
+    // waits in turn for the wait to run it on its own stack: the engine's stack sleeps in one place only.
+    // An input on a control is dropped when that control has gone by then.
+    void runInput(std::function<void()> input, const Control* on = nullptr);
+    bool isLive(const Control* control) const;
     void buildMenus();
     void buildPanel();
     // The controls of a form as page elements in the layer over its face; the main face and the dialog
@@ -83,6 +91,12 @@ private:
     std::vector<Form*> modals_;
     Form* modal_ = nullptr;
     std::vector<Field> fields_;
+    struct WaitingInput {
+        std::function<void()> input;
+        const Control* on = nullptr;
+    };
+    std::deque<WaitingInput> waitingInput_;
+    bool asleep_ = false;
     std::string menusShown_;
     std::vector<Control*> panelButtons_;
     std::string panelShown_;
