@@ -251,6 +251,15 @@ void PageView::showControl(Field& field) {
     }
 }
 
+// A list or a strip of tabs is focused on its chosen entry, else its first.
+val PageView::focusTarget(const Field& field) const {
+    if (!hasEntries(*field.control)) return field.element;
+    const val chosen = field.element.call<val>("querySelector", std::string("[aria-selected=true]"));
+    if (!chosen.isNull()) return chosen;
+    const val first = field.element["firstElementChild"];
+    return first.isNull() ? field.element : first;
+}
+
 Control* PageView::usableField(int field) const {
     if (field < 0 || field >= static_cast<int>(fields_.size())) return nullptr;
     Control* control = fields_[static_cast<std::size_t>(field)].control;

@@ -85,8 +85,11 @@ void PageView::showField(Field& field, const Control* focus) {
     element.set("disabled", !control.enabled);
     if (control.kind != ControlKind::TextBox) {
         showControl(field);
-        if (&control == focus && !document_["activeElement"].strictlyEquals(element))
-            element.call<void>("focus");
+        if (&control != focus) return;
+        const val target = focusTarget(field);
+        if (!document_["activeElement"].strictlyEquals(target) &&
+            !element.call<bool>("contains", document_["activeElement"]))
+            target.call<void>("focus");
         return;
     }
     const std::string shown = text::cp1252ToUtf8(control.text);

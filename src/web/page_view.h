@@ -75,6 +75,8 @@ private:
     void showFields();
     void showField(Field& field, const Control* focus);
     void showControl(Field& field);
+    // The element that takes the page's focus when the engine's focus is on the field.
+    emscripten::val focusTarget(const Field& field) const;
     void showDialog();
     void paintFace(Form& form, const std::string& canvasId);
     Control* controlAt(Form& form, int x, int y) const;

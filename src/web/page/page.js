@@ -135,13 +135,19 @@ var Module = {
       call("lw_page_control", ["number", "number"], [Number(target.getAttribute("data-control")), target.selectedIndex]);
   });
 
-  // A row of a list is chosen with Enter or Space too, as a click chooses it.
+  // A row of a list is chosen with Enter or Space too, as a click chooses it; the arrows go from row to row.
   document.addEventListener("keydown", function (event) {
     var target = event.target;
-    if (target.getAttribute && target.getAttribute("role") === "option" && target.hasAttribute("data-entry") &&
-        (event.key === "Enter" || event.key === " ")) {
+    if (!target.getAttribute || target.getAttribute("role") !== "option" || !target.hasAttribute("data-entry")) return;
+    var next = event.key === "ArrowDown" ? target.nextElementSibling : event.key === "ArrowUp" ? target.previousElementSibling : null;
+    if (event.key === "Enter" || event.key === " ") {
       event.preventDefault();
       target.click();
+    } else if (next) {
+      event.preventDefault();
+      target.tabIndex = -1;
+      next.tabIndex = 0;
+      next.focus();
     }
   });
 
