@@ -29,15 +29,14 @@ void placeAt(val element, const face::Rect& rect) {
     style.set("height", px(rect.height));
 }
 
-// The controls the page hosts as elements of their own; shapes, lines, pictures and frames are only
-// painted.
+// The controls the page hosts as elements of their own; shapes, lines and frames are only painted, and
+// so is a button without caption or picture, which the form keeps unseen.
 bool isHosted(const Control& control) {
     switch (control.kind) {
         case ControlKind::TextBox:
             return !control.wordsOnly;
         case ControlKind::CommandButton:
-            return !control.caption.empty() ||
-                   !control.picture.empty();  // else a button the form keeps unseen
+            return !control.caption.empty() || !control.picture.empty();
         case ControlKind::Label:
         case ControlKind::Picture:
         case ControlKind::Image:
@@ -152,7 +151,7 @@ val PageView::makeElement(Control& control, const std::string& name) {
 
 // The tabs of a tab control and the rows of a grid or list, each an element where the engine draws it:
 // a tab across the strip's equal shares, a row a row's height down, a grid's header row not among them.
-void PageView::placeEntries(Control& control, val element, int field) {
+void PageView::placeEntries(const Control& control, val element, int field) {
     element.set("textContent", std::string());
     const face::Rect whole = face::controlRect(control, face::kScreenScale);
     const bool tabs = control.kind == ControlKind::TabControl;
@@ -241,7 +240,7 @@ void PageView::showControl(Field& field) {
             val entries = element["children"];
             const int first = control.kind == ControlKind::Grid ? 1 : 0;
             if (entries["length"].as<int>() != std::max(0, static_cast<int>(control.items.size()) - first))
-                placeEntries(const_cast<Control&>(control), element, indexOf(&control));
+                placeEntries(control, element, indexOf(&control));
             const int chosen = control.kind == ControlKind::TabControl ? tabOf(control) : control.listIndex;
             for (int i = 0, count = entries["length"].as<int>(); i < count; ++i)
                 entries[i].call<void>("setAttribute", std::string("aria-selected"),

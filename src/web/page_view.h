@@ -69,7 +69,7 @@ private:
     // host theirs alike.
     void placeFields(Form& form, const std::string& layerId);
     emscripten::val makeElement(Control& control, const std::string& name);
-    void placeEntries(Control& control, emscripten::val element, int field);
+    void placeEntries(const Control& control, emscripten::val element, int field);
     void clearFields(const Form& form);
     void numberFields();
     void showFields();
