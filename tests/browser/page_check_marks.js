@@ -1,6 +1,6 @@
 // Check boxes in the page: the beneficiary's K-1 marks a domestic or a foreign beneficiary, one
 // excluding the other, and a second click leaves both empty; a mark is clicked or toggled with Space,
-// and the page shows each mark as the engine holds it.
+// and the page shows each mark as the engine holds it; the browser's Tab goes on to the next field.
 "use strict";
 const { fail, chooseMenu, runPageTest } = require("./serve_page");
 
@@ -31,5 +31,13 @@ runPageTest(async (page) => {
   await page.focus(at("Check(5)"));
   await page.keyboard.press("Space");
   if ((await marks(page)) !== ",") return fail("after Space on the second the marks are " + await marks(page));
-  return `the marks went X then the other X then none (${names.map((name) => name.split(":")[1]).join(" / ")})`;
+  // The browser's own Tab goes on from the mark to the next field, which the engine then types into.
+  await page.keyboard.press("Tab");
+  const next = await page.evaluate(() => document.activeElement.getAttribute("data-name"));
+  if (!next || !next.startsWith("Text")) return fail("Tab from the mark went to " + next);
+  await page.keyboard.type("123");
+  const typed = await page.$eval(at(next), (field) => field.value);
+  if (typed !== "123") return fail(`the field after the mark shows "${typed}"`);
+  return `the marks went X then the other X then none (${names.map((name) => name.split(":")[1]).join(" / ")}); ` +
+         `Tab went on to ${next}`;
 });

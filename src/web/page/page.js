@@ -74,6 +74,16 @@ var Module = {
     if (field >= 0 && !Module._lw_page_field_pressed(field)) event.preventDefault();
   }, true);
 
+  // A field the browser's own Tab reached (from a button or a check box) becomes the engine's focus, as a
+  // click makes it; once the focus has settled, so that the engine's own moves of the focus pass by.
+  document.addEventListener("focusin", function (event) {
+    var target = event.target, field = fieldOf(target);
+    if (field < 0) return;
+    setTimeout(function () {
+      if (document.activeElement === target) call("lw_page_field_pressed", ["number"], [field]);
+    }, 0);
+  });
+
   document.addEventListener("mouseup", function (event) {
     var field = fieldOf(event.target);
     if (field >= 0)
