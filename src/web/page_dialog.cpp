@@ -1,6 +1,8 @@
 // A modal form (a message box, the error report, the Save form, the K-1 code list) as a modal dialog of
 // the page: its face painted as the engine describes it, with its controls hosted over it as the main
 // face hosts its own. A box shown from within another hides it until it is answered.
+#include <algorithm>
+
 #include "face/face_description.h"
 #include "model/containers.h"
 #include "text/cp1252.h"
@@ -16,6 +18,14 @@ void PageView::showModal(Form& form) {
 }
 
 void PageView::closeModal() { showDialog(); }
+
+void PageView::dialogClosing() {
+    Form* form = modal_;
+    if (!form) return;
+    runInput([this, form] {
+        if (std::find(modals_.begin(), modals_.end(), form) != modals_.end()) form->unload();
+    });
+}
 
 // The dialog hosts the innermost modal form still waiting, or closes when none is.
 void PageView::showDialog() {

@@ -72,6 +72,9 @@ EMSCRIPTEN_KEEPALIVE void lw_page_control(int field, int entry) {
 EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
     if (view()) view()->frameButton(button);
 }
+EMSCRIPTEN_KEEPALIVE void lw_page_dialog_close() {
+    if (view()) view()->dialogClosing();
+}
 }
 
 int main() {

@@ -49,6 +49,8 @@ public:
     // A control other than a text box used: clicked, or one of its entries (a list's row, a tab, a
     // combo box's item) chosen.
     void controlUsed(int field, int entry);
+    // Escape or the dialog's close box: the modal form is asked to unload, and may refuse.
+    void dialogClosing();
 
 private:
     // A control of a shown form hosted as a page element over its face.

@@ -1,5 +1,6 @@
 // The K-1 code list in the page: on the partner's K-1, F1 in a code of box 11 opens the list of valid
-// entries as a dialog; a click on a row puts its code in the field, and the focus moves on to the amount.
+// entries as a dialog; Escape closes it and leaves the field as it was, and a click on a row puts its code
+// in the field and moves the focus on to the amount.
 "use strict";
 const { fail, chooseMenu, runPageTest } = require("./serve_page");
 
@@ -19,6 +20,14 @@ runPageTest(async (page) => {
   await page.click(field("Text2(16)"));
   const hint = await page.$eval(field("labelMisc"), (label) => label.textContent);
   if (hint !== "Press ANY Function Key (F1 - F12) for list of valid entries.") return fail(`the form says "${hint}"`);
+  // Escape closes the list as its close box does: the field keeps its box number and the focus.
+  await page.keyboard.press("F1");
+  await page.waitForSelector("#modal[open]", { timeout: 10000 }).catch(() => null);
+  await page.keyboard.press("Escape");
+  await page.waitForFunction(() => !document.getElementById("modal").open, { timeout: 10000 }).catch(() => null);
+  const kept = await page.evaluate(() => [document.getElementById("modal").open,
+    document.querySelector('#fields [data-name="Text2(16)"]').value, document.activeElement.getAttribute("data-name")]);
+  if (kept.join(",") !== "false,11,Text2(16)") return fail("after Escape the list, field and focus are " + kept.join(","));
   await page.keyboard.press("F1");
   await page.waitForSelector("#modal[open]", { timeout: 10000 }).catch(() => null);
   const title = await page.evaluate(() => document.getElementById("modal").open &&

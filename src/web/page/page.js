@@ -161,8 +161,15 @@ var Module = {
     }
   });
 
-  // A box is answered by its buttons; Escape does not close it behind the engine's back.
-  document.getElementById("modal").addEventListener("cancel", function (event) { event.preventDefault(); });
+  // Escape and the close box ask the engine to close the form, which may refuse: the dialog closes only
+  // once the engine has unloaded it.
+  document.getElementById("modal").addEventListener("cancel", function (event) {
+    event.preventDefault();
+    call("lw_page_dialog_close", [], []);
+  });
+  document.getElementById("modal-close").addEventListener("click", function () {
+    call("lw_page_dialog_close", [], []);
+  });
 
   if ("serviceWorker" in navigator && location.protocol !== "file:")
     navigator.serviceWorker.register("service-worker.js").catch(function (error) { console.warn(error); });
