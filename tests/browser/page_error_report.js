@@ -46,9 +46,12 @@ runPageTest(async (page) => {
   if (!back.open || back.title !== report.title) return fail(`after OK the dialog is "${back.title}"`);
   if (back.focus !== "Text1") return fail("after OK the focus is on " + back.focus);
 
+  // Keys typed while a box waits reach the engine when its wait next wakes: the field catches up.
   await page.keyboard.type("copied a month down");
+  await page.waitForFunction(() => document.querySelector('#modal-fields [data-name="Text1"]').value.length >= 19,
+                             { timeout: 10000 }).catch(() => null);
   const described = await page.$eval('#modal-fields [data-name="Text1"]', (field) => field.value);
-  if (!described) return fail("the description field took no text");
+  if (described !== "COPIED A MONTH DOWN") return fail(`the description field shows "${described}"`);
   await page.click('#modal-fields [data-name="cmdExit"]');
   await page.waitForFunction(() => !document.getElementById("modal").open, { timeout: 10000 }).catch(() => null);
   if ((await dialog(page)).open) return fail("Exit left the report open");
