@@ -51,7 +51,8 @@ void PageView::showDialog() {
     // The engine's focus is shown; a box whose focus is on nothing the page hosts starts on its default
     // button, else its first, as a dialog does.
     const val active = document_["activeElement"];
-    if (!active.isNull() && dialog.call<bool>("contains", active) && !active.strictlyEquals(dialog)) return;
+    const val layer = document_.call<val>("getElementById", std::string("modal-fields"));
+    if (!active.isNull() && layer.call<bool>("contains", active)) return;
     const Field* start = nullptr;
     for (const Field& field : fields_) {
         const Control& control = *field.control;

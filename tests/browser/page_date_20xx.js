@@ -24,6 +24,9 @@ runPageTest(async (page) => {
   const expected = `Message Number: 802 Date 12/31/20XX Changed to 12/31/${year} --- Make sure it is correct ---`;
   if (words(told) !== expected) return fail(`the dialog says "${words(told)}", not "${expected}"`);
   if (screenshot) await page.screenshot({ path: screenshot, fullPage: true });
+  // The box starts on its button, which Enter presses.
+  const start = await page.evaluate(() => document.activeElement.textContent);
+  if (start !== "OK") return fail(`the dialog starts on "${start}", not on its OK button`);
   await page.keyboard.press("Enter");
   await page.waitForFunction(() => !document.getElementById("modal").open, { timeout: 10000 });
   const shown = await page.$eval(date, (input) => input.value);
