@@ -49,17 +49,19 @@ void PageView::showDialog() {
     if (!dialog["open"].as<bool>()) dialog.call<void>("showModal");
     show();
     // The engine's focus is shown; a box whose focus is on nothing the page hosts starts on its default
-    // button, else its first, as a dialog does.
+    // button, else on its first field or button in the order of its tab stops, as a dialog does.
     const val active = document_["activeElement"];
     const val layer = document_.call<val>("getElementById", std::string("modal-fields"));
     if (!active.isNull() && layer.call<bool>("contains", active)) return;
+    auto rank = [](const Control& control) { return control.isDefault ? -1 : control.tabIndex; };
     const Field* start = nullptr;
     for (const Field& field : fields_) {
         const Control& control = *field.control;
-        if (control.form != top || control.kind != ControlKind::CommandButton || !isShown(control)) continue;
-        if (!start || (control.isDefault && !start->control->isDefault)) start = &field;
+        const bool stop = control.canTakeFocus() && control.tabStop && control.kind != ControlKind::Picture;
+        if (control.form != top || !stop || !isShown(control)) continue;
+        if (!start || rank(control) < rank(*start->control)) start = &field;
     }
-    if (start) start->element.call<void>("focus");
+    if (start) focusTarget(*start).call<void>("focus");
 }
 
 }  // namespace lw::web

@@ -30,6 +30,8 @@ runPageTest(async (page) => {
   const report = await dialog(page);
   if (!report.open || !report.title.startsWith("Error in ")) return fail(`no error report, the dialog is "${report.title}"`);
   if (report.module !== "TF_1095A:Text1_KeyPress") return fail(`the report names the module "${report.module}"`);
+  // The description comes first in the report's order: the dialog starts there.
+  if (report.focus !== "Text1") return fail("the report starts on " + report.focus);
   if (screenshot) await page.screenshot({ path: screenshot, fullPage: true });
 
   await page.click('#modal-fields [data-name="cmdClip"]');

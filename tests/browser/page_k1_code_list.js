@@ -36,6 +36,9 @@ runPageTest(async (page) => {
   const rows = await page.$$eval("#modal-fields [role=option]", (all) => all.map((row) => row.getAttribute("aria-label")));
   const row = rows.findIndex((name) => name.startsWith("A Other portfolio income"));
   if (row < 0) return fail("no row for code A among " + rows.slice(0, 3).join(" | "));
+  // The list comes first in the dialog's order: it starts on its first row.
+  const start = await page.evaluate(() => document.activeElement.getAttribute("aria-label"));
+  if (start !== rows[0]) return fail(`the dialog starts on "${start}"`);
   if (screenshot) await page.screenshot({ path: screenshot, fullPage: true });
   await page.click(`#modal-fields [role=option][data-entry="${row + 1}"]`);
   await page.waitForFunction(() => !document.getElementById("modal").open, { timeout: 10000 });
