@@ -38,7 +38,7 @@ runPageTest(async (page) => {
   await chooser.accept([sheet]);
   await page.waitForFunction(() => !/W-?2/.test(document.getElementById("form-title").textContent), { timeout: 10000 });
   // The browser's storage has taken what changed before the page goes.
-  await page.waitForFunction(() => Module.lwKeeping === false, { timeout: 10000 });
+  await page.waitForFunction(() => Module.lwKeeping !== true, { timeout: 10000 });
 
   await page.reload({ waitUntil: "load" });
   await ready(page);
