@@ -1,6 +1,7 @@
 // A W-2 saved from the page and opened again: the file has the name the engine proposes and the very
 // bytes the native runner writes for the same document, through the browser's save picker and through
-// a download alike; Open reads it back from the browser's file picker.
+// a download alike; Open reads it back from the browser's file picker, and the opened file, changed and
+// saved again, goes through the program's "file exists" form and out as the native runner writes it.
 "use strict";
 const fs = require("fs");
 const os = require("os");
@@ -48,6 +49,20 @@ async function pressFrameButton(page, caption) {
   for (const button of buttons)
     if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
   throw new Error("no frame button " + caption);
+}
+
+// The native runner opens its file, types into box d and saves it over itself.
+function nativeResave(folder, name) {
+  const file = path.join(folder, name);
+  const script = [`root ${JSON.stringify(path.join(folder, "root"))}`, "user Trainer", "start",
+                  `file ${JSON.stringify(file)}`, "button Open", "focus Text1(11)", 'type "CN77"', "key Tab",
+                  "filesave save", "button Save"];
+  const scriptFile = path.join(folder, "resave.lws");
+  fs.writeFileSync(scriptFile, script.join("\n") + "\n");
+  execFileSync(nativeRunner, [scriptFile], {
+    encoding: "utf8", env: { ...process.env, ASAN_OPTIONS: "detect_leaks=0", QT_QPA_PLATFORM: "offscreen" },
+  });
+  return fs.readFileSync(file);
 }
 
 function sameBytes(a, b) {
@@ -117,7 +132,30 @@ runPageTest(async (page) => {
   const expected = ["JOHN Q DOE JR", "123-45-6789", "ABC PLUMBING", "$12,345.00"];
   if (JSON.stringify(values) !== JSON.stringify(expected))
     return fail(`the opened W-2 shows ${JSON.stringify(values)}, not ${JSON.stringify(expected)}`);
+
+  // Saved again: the program's form for a file that exists is answered with its Save button, and the
+  // changed file is a download once more.
+  await page.click('[aria-label^="Box d,"]');
+  await page.keyboard.type("CN77");
+  await page.keyboard.press("Tab");
+  for (const name of fs.readdirSync(downloads)) fs.rmSync(path.join(downloads, name));
+  await pressFrameButton(page, "Save");
+  await page.waitForFunction(() => document.getElementById("modal").open, { timeout: 10000 });
+  const keep = await page.$$eval("#modal-buttons button", (buttons) =>
+    buttons.findIndex((button) => button.textContent.startsWith("SAVE")));
+  if (keep < 0) return fail("the form for a file that exists has no Save button");
+  await page.click(`#modal-buttons button:nth-child(${keep + 1})`);
+  let again = null;
+  for (let tries = 0; tries < 100 && !again; ++tries) {
+    again = fs.readdirSync(downloads).find((name) => !name.endsWith(".crdownload"));
+    if (!again) await new Promise((r) => setTimeout(r, 100));
+  }
+  if (!again) return fail("the opened file saved again gave no download");
+  const resaved = nativeResave(folder, native.name);
+  if (!sameBytes(fs.readFileSync(path.join(downloads, again)), resaved))
+    return fail(`the page saved the opened file as ${shown(fs.readFileSync(path.join(downloads, again)))}, ` +
+                `the native runner as ${shown(resaved)}`);
   fs.rmSync(folder, { recursive: true, force: true });
   return `saved "${native.name}" (${native.bytes.length} bytes, as the native runner writes it) by the picker and ` +
-         "as a download, and opened it again";
+         "as a download, opened it again and saved it over itself";
 });

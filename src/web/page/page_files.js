@@ -51,18 +51,15 @@ var LwFiles = (function () {
     });
   };
 
-  // The bytes the engine wrote go where the trainer chose, or to the downloads.
-  files.deliver = function (name, bytes) {
-    var handle = files.saveHandle;
-    files.saveHandle = null;
-    var blob = new Blob([bytes], { type: "application/octet-stream" });
-    if (handle) {
-      return handle.createWritable().then(function (writable) {
-        return writable.write(blob).then(function () { return writable.close(); });
-      }).catch(function (error) {
-        document.getElementById("status").textContent = "The file " + name + " could not be written: " + error.message;
-      });
-    }
+  function writeTo(handle, name, blob) {
+    return handle.createWritable().then(function (writable) {
+      return writable.write(blob).then(function () { return writable.close(); });
+    }).catch(function (error) {
+      document.getElementById("status").textContent = "The file " + name + " could not be written: " + error.message;
+    });
+  }
+
+  function download(name, blob) {
     var link = document.createElement("a");
     link.href = URL.createObjectURL(blob);
     link.download = name;
@@ -70,6 +67,21 @@ var LwFiles = (function () {
     link.click();
     link.remove();
     setTimeout(function () { URL.revokeObjectURL(link.href); }, 60000);
+  }
+
+  // The bytes the engine wrote go to the file the trainer chose; a file opened from the browser and saved
+  // again is offered under its own name; without a save picker it is a download.
+  files.deliver = function (name, bytes) {
+    var handle = files.saveHandle;
+    files.saveHandle = null;
+    var blob = new Blob([bytes], { type: "application/octet-stream" });
+    if (handle) return writeTo(handle, name, blob);
+    if (typeof window.showSaveFilePicker !== "function") return download(name, blob);
+    window.showSaveFilePicker({ suggestedName: name }).then(function (chosen) {
+      return writeTo(chosen, name, blob);
+    }, function (error) {
+      if (error && error.name !== "AbortError") console.warn(error);
+    });
   };
 
   // Print: the drawing on a page of its own, turned where the form is wider than tall, through the
