@@ -54,6 +54,33 @@ std::optional<std::string> engineName(const std::string& utf8) {
 
 std::string transferPath(const std::string& name) { return std::string(kTransferFolder) + "/" + name; }
 
+// The folders kept in the browser's storage, and what their files were when last written there.
+std::vector<std::string>& keptFolders() {
+    static std::vector<std::string> folders;
+    return folders;
+}
+
+std::string& keptState() {
+    static std::string state;
+    return state;
+}
+
+// Each kept file's name, size and time of writing: what changes when the engine writes one.
+std::string stateOfKeptFiles() {
+    std::string state;
+    std::error_code ec;
+    for (const std::string& folder : keptFolders())
+        for (fs::recursive_directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+            if (!it->is_regular_file(ec)) continue;
+            state +=
+                it->path().string() + '\n' +
+                std::to_string(static_cast<unsigned long long>(it->file_size(ec))) + '\n' +
+                std::to_string(static_cast<long long>(it->last_write_time(ec).time_since_epoch().count())) +
+                '\n';
+        }
+    return state;
+}
+
 void showStatus(const std::string& utf8) {
     val::global("document").call<val>("getElementById", std::string("status")).set("textContent", utf8);
 }
@@ -141,7 +168,11 @@ std::optional<std::string> askForFile(const FileDialogRequest& request) {
 
 void settleFiles() {
     deliverWrittenFiles();
-    // Only the files that changed are written; a write still under way takes the changes after it.
+    // The storage is written only when the engine changed a kept file; the browser then writes the files
+    // that changed, and a write still under way takes the changes after it.
+    std::string state = stateOfKeptFiles();
+    if (state == keptState()) return;
+    keptState() = std::move(state);
     EM_ASM({
         if (!Module.lwKept) return;
         if (Module.lwKeeping) {
@@ -178,6 +209,8 @@ void loadKeptFolders(const std::vector<std::string>& folders) {
             });
     });
     while (!EM_ASM_INT({ return Module.lwLoaded ? 1 : 0; })) emscripten_sleep(10);
+    keptFolders() = folders;
+    keptState() = stateOfKeptFiles();
 }
 
 }  // namespace lw::web

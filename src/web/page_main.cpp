@@ -99,6 +99,7 @@ int main() {
     } catch (const lw::ProgramEnded&) {
         page->view->showStatus("The program has ended. Reload the page to start it again.");
     }
+    lw::web::settleFiles();
     page->view->show();
     emscripten::val::global("document")["body"].call<void>("setAttribute", std::string("data-ready"),
                                                            std::string("true"));

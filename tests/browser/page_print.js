@@ -39,6 +39,7 @@ runPageTest(async (page) => {
   await page.evaluate(() => { window.printed = 0; window.print = () => { window.printed += 1; }; });
   await pressFrameButton(page, "Print");
   await page.waitForFunction(() => window.printed === 1, { timeout: 10000 });
+  const screen = await page.$eval("#face", (canvas) => [canvas.width, canvas.height]);
   const drawn = await page.$eval("#print-sheet > svg", (svg) => [svg.getAttribute("width"), svg.getAttribute("height")]);
 
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-print-"));
@@ -57,5 +58,8 @@ runPageTest(async (page) => {
     return fail("the print is not a Letter page turned: " + (size ? size[0] : info));
   if (!/^[\d.]+in$/.test(drawn[0]) || !/^[\d.]+in$/.test(drawn[1]))
     return fail("the drawing's size is not in inches: " + drawn);
+  // True size: the screen shows the form at 96 pixels to the inch, and the paper at its inches.
+  if (Math.abs(parseFloat(drawn[0]) - screen[0] / 96) > 0.02 || Math.abs(parseFloat(drawn[1]) - screen[1] / 96) > 0.02)
+    return fail(`the form is ${drawn} on paper, but ${screen[0]}x${screen[1]} pixels on the screen`);
   return `a Letter page, turned, ${drawn[0]} by ${drawn[1]}, holding ${shown.length} fields' text: ` + JSON.stringify(shown);
 });
