@@ -10,6 +10,8 @@ var LwFiles = (function () {
     saveHandle: null,
   };
 
+  var largestFile = 16 * 1024 * 1024;
+
   function answerWith(value) { files.answer = value; }
 
   // Open: the browser's file picker; the chosen file's name and bytes, or null when none is chosen.
@@ -21,6 +23,12 @@ var LwFiles = (function () {
     input.addEventListener("change", function () {
       var file = input.files && input.files[0];
       if (!file) return answerWith(null);
+      // A form file is a line; a file of many megabytes is none, and is not copied into the program.
+      if (file.size > largestFile) {
+        document.getElementById("status").textContent =
+          "The file " + file.name + " is too large to be a form file: it was not opened.";
+        return answerWith(null);
+      }
       file.arrayBuffer().then(function (bytes) {
         answerWith({ name: file.name, bytes: new Uint8Array(bytes) });
       }, function () { answerWith(null); });
