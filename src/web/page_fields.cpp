@@ -21,6 +21,8 @@ namespace {
 
 std::string px(int pixels) { return std::to_string(pixels) + "px"; }
 
+}  // namespace
+
 // The families index.html loads from the font files the engine measures with.
 std::string cssFamily(const std::string& faceName) {
     const std::string name = text::toLower(faceName);
@@ -31,8 +33,6 @@ std::string cssFamily(const std::string& faceName) {
     if (name == "courier new") return "LwMono";
     return "LwDejaVu";
 }
-
-}  // namespace
 
 std::string cssColor(Color color) {
     char name[8];
