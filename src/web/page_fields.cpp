@@ -17,8 +17,6 @@ namespace lw::web {
 
 using emscripten::val;
 
-namespace {
-
 // The families index.html loads from the font files the engine measures with.
 std::string cssFamily(const std::string& faceName) {
     const std::string name = text::toLower(faceName);
@@ -29,8 +27,6 @@ std::string cssFamily(const std::string& faceName) {
     if (name == "courier new") return "LwMono";
     return "LwDejaVu";
 }
-
-}  // namespace
 
 std::string cssColor(Color color) {
     char name[8];

@@ -15,5 +15,7 @@ void paintButtons(const Form& form, headless::RasterImage& image, headless::True
 // The CSS font of a field's face: the web font of the file the engine measures it with.
 std::string cssFont(const Control& control);
 std::string cssColor(Color color);
+// The family the page loads from the font file the engine measures a face of that name with.
+std::string cssFamily(const std::string& faceName);
 
 }  // namespace lw::web
