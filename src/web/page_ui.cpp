@@ -7,6 +7,7 @@
 #include "text/cp1252.h"
 #include "web/page_files.h"
 #include "web/page_paper.h"
+#include "web/page_sleep.h"
 #include "web/page_view.h"
 
 namespace lw::web {
@@ -24,9 +25,7 @@ void PageUi::runModal(Form& form) {
     // the page's input, held while it sleeps, is run here when it wakes; a box shown by that input waits
     // in turn on top of this one, so that the stack only ever sleeps in one place.
     while (std::find(waiting.begin(), waiting.end(), &form) != waiting.end()) {
-        view_->setAsleep(true);
-        emscripten_sleep(10);
-        view_->setAsleep(false);
+        sleepEngine(10);
         view_->runWaitingInput();
     }
     view_->closeModal();

@@ -10,6 +10,7 @@
 #include "text/cp1252.h"
 #include "web/page_fields.h"
 #include "web/page_files.h"
+#include "web/page_sleep.h"
 
 namespace lw::web {
 
@@ -24,7 +25,7 @@ Form* PageView::inputForm() const {
 }
 
 void PageView::runInput(std::function<void()> input, const Control* on) {
-    if (asleep_) {
+    if (engineAsleep()) {
         waitingInput_.push_back({std::move(input), on});
         return;
     }
@@ -38,6 +39,7 @@ void PageView::runInput(std::function<void()> input, const Control* on) {
     }
     settleFiles();
     show();
+    runWaitingInput();
 }
 
 void PageView::runWaitingInput() {

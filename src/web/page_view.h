@@ -31,8 +31,7 @@ public:
     void closeModal();
     bool isLoaded(const Form& form) const;
     void showStatus(const std::string& utf8);
-    // A modal form's wait sleeps while the page takes input, and runs what came in when it wakes.
-    void setAsleep(bool asleep) { asleep_ = asleep; }
+    // Runs the input that came in while the engine slept.
     void runWaitingInput();
 
     // The operator's input, from the page.
@@ -100,7 +99,6 @@ private:
         const Control* on = nullptr;
     };
     std::deque<WaitingInput> waitingInput_;
-    bool asleep_ = false;
     std::string menusShown_;
     std::vector<Control*> panelButtons_;
     std::string panelShown_;

@@ -51,6 +51,7 @@ var Module = {
 
   document.addEventListener("keydown", function (event) {
     if (fieldOf(event.target) < 0) return;  // a button, a check box, a list take their keys as clicks
+    if (reached === event.target) handOverReached();
     if (event.isComposing || event.key === "Process" || event.key === "Dead") return;
     // Ctrl+V brings its text with the paste that follows.
     if (event.ctrlKey && !event.altKey && event.keyCode === 86) return;
@@ -76,12 +77,17 @@ var Module = {
 
   // A field the browser's own Tab reached (from a button or a check box) becomes the engine's focus, as a
   // click makes it; once the focus has settled, so that the engine's own moves of the focus pass by.
+  // A key typed before then hands the field over first.
+  var reached = null;
+  function handOverReached() {
+    var target = reached;
+    reached = null;
+    if (target && document.activeElement === target) call("lw_page_field_pressed", ["number"], [fieldOf(target)]);
+  }
   document.addEventListener("focusin", function (event) {
-    var target = event.target, field = fieldOf(target);
-    if (field < 0) return;
-    setTimeout(function () {
-      if (document.activeElement === target) call("lw_page_field_pressed", ["number"], [field]);
-    }, 0);
+    if (fieldOf(event.target) < 0) return;
+    reached = event.target;
+    setTimeout(handOverReached, 0);
   });
 
   document.addEventListener("mouseup", function (event) {
