@@ -1,6 +1,6 @@
-// The configuration form in the page, shown at start as on the desktop: its filing status options are
-// radio buttons that follow the engine, and Change Tax Yr cycles the year shown through next year,
-// 20XX, last year and back to this year.
+// The configuration form in the page, shown at start as on the desktop: its printers are a select, its
+// filing status options are radio buttons that follow the engine, and Change Tax Yr cycles the year
+// shown through next year, 20XX, last year and back to this year.
 "use strict";
 const { fail, runPageTest } = require("./serve_page");
 
@@ -16,6 +16,8 @@ function shown(page) {
       rateLabel: at("lblMC(2)").textContent,
       changeAt: at("txtMCChgRateAfter").value,
       year: at("TaxYear(0)").textContent + at("TaxYear(1)").textContent,
+      printer: [at("cbxPrinters").tagName, at("cbxPrinters").getAttribute("aria-label"),
+                at("cbxPrinters").selectedIndex >= 0 ? at("cbxPrinters").value : ""],
     };
   });
 }
@@ -26,6 +28,10 @@ runPageTest(async (page) => {
   if (before.names.join(",") !== "Single,Married Filing Single,Married Filing Joint")
     return fail("the options are named " + before.names.join(","));
   if (before.options.filter(Boolean).length !== 1) return fail("the options show " + before.options.join(","));
+  // The printers are a select: the page's one printer, the browser's print dialog, is chosen again.
+  if (before.printer.join("|") !== "SELECT|Printer to use|The browser's print dialog")
+    return fail("the printers show as " + before.printer.join("|"));
+  await page.select('#fields [data-name="cbxPrinters"]', "The browser's print dialog");
   await page.click('#fields [data-name="optStatus(2)"]');
   const joint = await shown(page);
   if (joint.options.join(",") !== "false,false,true") return fail("after a click on MFJ the options show " + joint.options.join(","));
