@@ -190,7 +190,9 @@ void PageView::numberFields() {
         const bool text = field.control->kind == ControlKind::TextBox;
         if (text) field.element.set("id", "field-" + std::to_string(index));
         field.element.call<void>("setAttribute", std::string(text ? "data-field" : "data-control"), index);
-        if (hasEntries(*field.control)) placeEntries(*field.control, field.element, index);
+        if (!hasEntries(*field.control)) continue;
+        placeEntries(*field.control, field.element, index);
+        field.shown.clear();  // the entries made anew show their choice at the next showing
     }
 }
 

@@ -73,14 +73,35 @@ void PageView::showFields() {
     }
 }
 
+namespace {
+
+// Everything of a control other than a text box that its element shows.
+std::string shownState(const Control& control) {
+    std::string state{isShown(control) ? '1' : '0', control.enabled ? '1' : '0', control.value ? '1' : '0'};
+    state += std::to_string(control.listIndex) + '\x1f' + control.caption + '\x1f' + control.picture;
+    for (const std::string& item : control.items) state += '\x1e' + item;
+    return state;
+}
+
+}  // namespace
+
 void PageView::showField(Field& field, const Control* focus) {
     const Control& control = *field.control;
     val element = field.element;
     val style = element["style"];
-    style.set("display", std::string(isShown(control) ? "block" : "none"));
-    element.set("disabled", !control.enabled);
     if (control.kind != ControlKind::TextBox) {
-        showControl(field);
+        // A check, an option or a select the operator changes in the page shows the engine's answer
+        // again, even when the engine left it as it was.
+        const bool changedByPage = control.kind == ControlKind::CheckLabel ||
+                                   control.kind == ControlKind::OptionButton ||
+                                   control.kind == ControlKind::ComboBox;
+        std::string state = shownState(control);
+        if (state != field.shown || changedByPage) {
+            style.set("display", std::string(isShown(control) ? "block" : "none"));
+            element.set("disabled", !control.enabled);
+            showControl(field);
+            field.shown = std::move(state);
+        }
         if (&control != focus) return;
         const val target = focusTarget(field);
         if (!document_["activeElement"].strictlyEquals(target) &&
@@ -88,6 +109,8 @@ void PageView::showField(Field& field, const Control* focus) {
             target.call<void>("focus");
         return;
     }
+    style.set("display", std::string(isShown(control) ? "block" : "none"));
+    element.set("disabled", !control.enabled);
     const std::string shown = text::cp1252ToUtf8(control.text);
     if (element["value"].as<std::string>() != shown) element.set("value", shown);
     element.set("readOnly", control.locked);

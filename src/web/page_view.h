@@ -56,6 +56,9 @@ private:
     struct Field {
         Control* control = nullptr;
         emscripten::val element = emscripten::val::undefined();
+        // What the element last showed of a control other than a text box; while the control is the
+        // same, its element is left alone.
+        std::string shown;
     };
 
     Form* inputForm() const;
