@@ -39,6 +39,7 @@ void PageView::show() {
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));
     Form* form = inputForm();
     if (form != shown_) {
+        forgetFaceLooks();
         clearFields();
         shown_ = form;
         if (form) placeFields(*form);
@@ -51,12 +52,13 @@ void PageView::show() {
         canvas.set("height", 0);
         return;
     }
-    paintFace(*form, "face");
+    if (faceChanged(*form)) paintFace(*form, "face");
     showFields();
 }
 
 void PageView::forget(Form& form) {
     if (&form == shown_) {
+        forgetFaceLooks();
         clearFields();
         shown_ = nullptr;
     }
