@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "catalogue/field_names.h"
+#include "face/face_colors.h"
 #include "face/face_description.h"
 #include "headless/face_raster.h"
 #include "model/containers.h"
@@ -91,6 +92,13 @@ void PageView::placeFields(Form& form) {
                                            : control.alignment == 2 ? "center"
                                                                     : "left"));
         style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
+        style.set("borderColor", cssColor(face::kBoxBorder));
+        if (control.multiLine) {
+            // The engine writes a box's lines one line spacing apart, from a pixel below its border.
+            const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
+            style.set("lineHeight", std::to_string(spacing) + "px");
+            style.set("paddingTop", px(1));
+        }
         layer.call<void>("appendChild", element);
         fields_.push_back({&control, element});
     }
