@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "catalogue/field_names.h"
+#include "face/control_text.h"
 #include "face/face_colors.h"
 #include "face/face_description.h"
 #include "headless/face_raster.h"
@@ -21,6 +22,30 @@ using emscripten::val;
 namespace {
 
 std::string px(int pixels) { return std::to_string(pixels) + "px"; }
+
+// A field of the page holds each line end as one "\n" where the engine's text has "\r\n": places in
+// the text are counted apart by the line ends before them.
+std::string withBrowserLineEnds(const std::string& text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (!(text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')) out.push_back(text[i]);
+    return out;
+}
+
+int browserPlace(const std::string& text, int place) {
+    int shown = place;
+    for (int i = 0; i < place && i + 1 < static_cast<int>(text.size()); ++i)
+        if (text[i] == '\r' && text[i + 1] == '\n') --shown;
+    return shown;
+}
+
+int enginePlace(const std::string& text, int shown) {
+    int place = 0;
+    for (; place < static_cast<int>(text.size()) && shown > 0; ++place, --shown)
+        if (text[place] == '\r' && place + 1 < static_cast<int>(text.size()) && text[place + 1] == '\n')
+            ++place;
+    return place;
+}
 
 // The families index.html loads from the font files the engine measures with.
 std::string cssFamily(const std::string& faceName) {
@@ -41,9 +66,9 @@ std::string cssColor(Color color) {
     return name;
 }
 
-std::string cssFont(const Control& control) {
+std::string cssFont(const Control& control, double points) {
     char size[32];
-    std::snprintf(size, sizeof size, "%.3fpx ", control.fontSize * 96.0 / 72.0);
+    std::snprintf(size, sizeof size, "%.3fpx ", (points > 0 ? points : control.fontSize) * 96.0 / 72.0);
     return std::string(control.fontItalic ? "italic " : "") + (control.fontBold ? "bold " : "") + size +
            cssFamily(control.fontName);
 }
@@ -69,8 +94,8 @@ void PageView::placeFields(Form& form) {
     for (const auto& owned : form.controls()) {
         Control& control = *owned;
         if (control.kind != ControlKind::TextBox || control.wordsOnly) continue;
-        val element =
-            document_.call<val>("createElement", std::string(control.multiLine ? "textarea" : "input"));
+        val element = document_.call<val>("createElement",
+                                          std::string(face::breaksLines(control) ? "textarea" : "input"));
         const int index = static_cast<int>(fields_.size());
         element.set("id", "field-" + std::to_string(index));
         element.call<void>("setAttribute", std::string("data-field"), index);
@@ -93,7 +118,7 @@ void PageView::placeFields(Form& form) {
                                                                     : "left"));
         style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
         style.set("borderColor", cssColor(face::kBoxBorder));
-        if (control.multiLine) {
+        if (face::breaksLines(control)) {
             // The engine writes a box's lines one line spacing apart, from a pixel below its border.
             const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
             style.set("lineHeight", std::to_string(spacing) + "px");
@@ -120,14 +145,24 @@ void PageView::showField(Field& field, const Control* focus) {
     val style = element["style"];
     style.set("display", std::string(isShown(control) ? "block" : "none"));
     const std::string shown = text::cp1252ToUtf8(control.text);
-    if (element["value"].as<std::string>() != shown) element.set("value", shown);
+    if (element["value"].as<std::string>() != withBrowserLineEnds(shown)) element.set("value", shown);
     element.set("disabled", !control.enabled);
     element.set("readOnly", control.locked);
+    if (control.fitFloor > 0) {
+        // A text that shrinks to fit its box is shown at the size the engine gives it.
+        const face::TextBlock laid = face::fieldLayout(control, faces_);
+        const std::string font = cssFont(control, laid.points);
+        if (style["font"].as<std::string>() != font) {
+            style.set("font", font);
+            style.set("lineHeight", std::to_string(laid.lineHeight * face::kScreenScale) + "px");
+        }
+    }
     style.set("backgroundColor", cssColor(control.backColor));
     style.set("color", cssColor(control.foreColor));
     if (&control != focus) return;
     if (!document_["activeElement"].strictlyEquals(element)) element.call<void>("focus");
-    element.call<void>("setSelectionRange", control.selStart(), control.selStart() + control.selLength());
+    element.call<void>("setSelectionRange", browserPlace(control.text, control.selStart()),
+                       browserPlace(control.text, control.selStart() + control.selLength()));
 }
 
 int PageView::indexOf(const Control* control) const {
@@ -148,7 +183,8 @@ void PageView::fieldSelected(int field, int start, int end) {
     if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return;
     Control& control = *fields_[static_cast<std::size_t>(field)].control;
     if (program_.desktop.focus() != &control) return;
-    control.select(std::min(start, end), std::abs(end - start));
+    const int from = enginePlace(control.text, std::min(start, end));
+    control.select(from, enginePlace(control.text, std::max(start, end)) - from);
 }
 
 }  // namespace lw::web
