@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <map>
 
 #include "catalogue/field_names.h"
 #include "face/control_text.h"
@@ -83,6 +84,50 @@ void paintButtons(const Form& form, headless::RasterImage& image, headless::True
     }
 }
 
+namespace {
+
+// How high the browser makes a line of a font above and below its baseline, in whole pixels, as its
+// canvas measures it: the same measures it lays out an input's line with.
+struct BrowserLine {
+    int ascent = 0;
+    int descent = 0;
+};
+
+BrowserLine browserLineOf(const std::string& font) {
+    static std::map<std::string, BrowserLine> measured;
+    static val context = val::undefined();
+    if (const auto kept = measured.find(font); kept != measured.end()) return kept->second;
+    if (context.isUndefined())
+        context = val::global("document")
+                      .call<val>("createElement", std::string("canvas"))
+                      .call<val>("getContext", std::string("2d"));
+    context.set("font", font);
+    const val metrics = context.call<val>("measureText", std::string("Hg"));
+    const BrowserLine line{static_cast<int>(std::lround(metrics["fontBoundingBoxAscent"].as<double>())),
+                           static_cast<int>(std::lround(metrics["fontBoundingBoxDescent"].as<double>()))};
+    return measured.emplace(font, line).first->second;
+}
+
+}  // namespace
+
+// The browser sets the line of an input in the middle of the box by its own measures of the font; the
+// engine by its measures. The line's box is made as tall as the browser's line and placed so that its
+// baseline falls on the engine's, rounded to a whole pixel.
+void PageView::placeOneLine(const Control& control, const face::Rect& rect, emscripten::val& style) {
+    const face::FaceMetrics metrics = faces_.metrics(face::designFace(control));
+    const int border = control.borderStyle != 0 ? 1 : 0;
+    const double inner = control.height - 2.0 * border * face::kTwipsPerPixel;
+    const double baseline = border * face::kTwipsPerPixel + (inner - metrics.height()) / 2 + metrics.ascent;
+    const BrowserLine line = browserLineOf(cssFont(control));
+    const int above = static_cast<int>(std::lround(baseline * face::kScreenScale)) - border - line.ascent;
+    const int below = rect.height - 2 * border - line.ascent - line.descent - above;
+    if (line.ascent <= 0 || above < 0 || below < 0)
+        return;  // a box lower than its line: the browser's middle
+    style.set("lineHeight", px(line.ascent + line.descent));
+    style.set("paddingTop", px(above));
+    style.set("paddingBottom", px(below));
+}
+
 void PageView::clearFields() {
     for (Field& field : fields_) field.element.call<void>("remove");
     fields_.clear();
@@ -123,6 +168,8 @@ void PageView::placeFields(Form& form) {
             const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
             style.set("lineHeight", std::to_string(spacing) + "px");
             style.set("paddingTop", px(1));
+        } else {
+            placeOneLine(control, rect, style);
         }
         layer.call<void>("appendChild", element);
         fields_.push_back({&control, element});

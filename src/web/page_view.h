@@ -55,6 +55,7 @@ private:
     void buildMenus();
     void buildPanel();
     void placeFields(Form& form);
+    void placeOneLine(const Control& control, const face::Rect& rect, emscripten::val& style);
     void clearFields();
     void showFields();
     void showField(Field& field, const Control* focus);

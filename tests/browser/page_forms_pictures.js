@@ -174,6 +174,29 @@ function compare(pagePng, nativePng, fields, focused) {
     canvas.width = width;
     canvas.height = height;
     canvas.getContext("2d").putImageData(difference, 0, 0);
+    // Where a field's text stands: the shift of the native picture under the page's that matches the
+    // inside of the field best. A text the page writes a pixel off matches far better shifted.
+    const luma = (image, x, y) => { const p = pixel(image, x, y); return p[0] + p[1] + p[2]; };
+    const moved = [];
+    fields.forEach((box, index) => {
+      if (index === focused) return;
+      const cost = (dx, dy) => {
+        let sum = 0;
+        for (let y = Math.max(2, box.y + 2); y < Math.min(height - 2, box.y + box.height - 2); ++y)
+          for (let x = Math.max(2, box.x + 2); x < Math.min(width - 2, box.x + box.width - 2); ++x)
+            sum += Math.abs(luma(shown, x, y) - luma(drawn, x + dx, y + dy));
+        return sum;
+      };
+      const still = cost(0, 0);
+      if (still === 0) return;
+      let best = { dx: 0, dy: 0, sum: still };
+      for (let dy = -2; dy <= 2; ++dy)
+        for (let dx = -2; dx <= 2; ++dx) {
+          const sum = cost(dx, dy);
+          if (sum < best.sum) best = { dx, dy, sum };
+        }
+      if (best.sum < 0.6 * still) moved.push(`${box.name} by ${-best.dx},${-best.dy}`);
+    });
     const worst = (share) => fields.reduce((found, box, index) => {
       const value = share(counts[index]);
       return value > found.share ? { name: box.name, share: value } : found;
@@ -181,7 +204,7 @@ function compare(pagePng, nativePng, fields, focused) {
     return { shownSize: [shown.width, shown.height], drawnSize: [drawn.width, drawn.height],
              outside: squares ? squaresDiffering / squares : 0,
              border: worst((c) => (c.ring ? c.ringDiffering / c.ring : 0)),
-             inside: worst((c) => (c.squares ? c.squaresDiffering / c.squares : 0)),
+             inside: worst((c) => (c.squares ? c.squaresDiffering / c.squares : 0)), moved,
              difference: canvas.toDataURL("image/png").split(",")[1] };
   });
 }
@@ -246,7 +269,8 @@ async function compareForm(page, entry, work) {
   const percent = (share) => (100 * share).toFixed(1) + "%";
   const describe = (r) => `page ${r.shownSize.join("x")}, native ${r.drawnSize.join("x")}; squares differing ` +
     `outside the fields ${percent(r.outside)}; worst border ${r.border.name || "-"} ${percent(r.border.share)}; ` +
-    `worst inside ${r.inside.name || "-"} ${percent(r.inside.share)}`;
+    `worst inside ${r.inside.name || "-"} ${percent(r.inside.share)}` +
+    (r.moved.length ? `; text moved in ${r.moved.join(", ")}` : "");
   // The printed look (white fields and boxes, no status line, cut to the document) is told, not judged:
   // the page shows the screen's look.
   for (const entry of results) {
