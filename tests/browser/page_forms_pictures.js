@@ -242,7 +242,8 @@ async function compareForm(page, entry, work) {
 }
 
 (async () => {
-  const plan = JSON.parse(execFileSync("python3", [path.join(__dirname, "form_fills.py"), build, "4"],
+  // LW_FIELDS=N fills N fields of each form (4 by default).
+  const plan = JSON.parse(execFileSync("python3", [path.join(__dirname, "form_fills.py"), build, process.env.LW_FIELDS || "4"],
                                        { encoding: "utf8", env: { ...process.env, QT_QPA_PLATFORM: "offscreen" } }));
   if (keep) fs.mkdirSync(keep, { recursive: true });
   const { page, problems, close } = await openPage(folder);
