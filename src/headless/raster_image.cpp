@@ -155,4 +155,15 @@ bool RasterImage::savePng(const std::string& path) const {
     return stbi_write_png(path.c_str(), width_, height_, 3, rgb_.data(), width_ * 3) != 0;
 }
 
+std::vector<std::uint8_t> RasterImage::pngBytes() const {
+    std::vector<std::uint8_t> bytes;
+    const auto append = [](void* into, void* data, int size) {
+        const auto* from = static_cast<const std::uint8_t*>(data);
+        static_cast<std::vector<std::uint8_t>*>(into)->insert(
+            static_cast<std::vector<std::uint8_t>*>(into)->end(), from, from + size);
+    };
+    if (!stbi_write_png_to_func(append, &bytes, width_, height_, 3, rgb_.data(), width_ * 3)) bytes.clear();
+    return bytes;
+}
+
 }  // namespace lw::headless

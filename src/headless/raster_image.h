@@ -61,6 +61,8 @@ public:
 
     // Writes the picture as a PNG file; false when it cannot.
     bool savePng(const std::string& path) const;
+    // The picture as the bytes of a PNG file; empty when it cannot be encoded.
+    std::vector<std::uint8_t> pngBytes() const;
 
 private:
     int width_;

@@ -48,6 +48,8 @@ int enginePlace(const std::string& text, int shown) {
     return place;
 }
 
+}  // namespace
+
 // The families index.html loads from the font files the engine measures with.
 std::string cssFamily(const std::string& faceName) {
     const std::string name = text::toLower(faceName);
@@ -58,8 +60,6 @@ std::string cssFamily(const std::string& faceName) {
     if (name == "courier new") return "LwMono";
     return "LwDejaVu";
 }
-
-}  // namespace
 
 std::string cssColor(Color color) {
     char name[8];

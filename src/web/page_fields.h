@@ -16,5 +16,7 @@ void paintButtons(const Form& form, headless::RasterImage& image, headless::True
 // the engine writes its text (a text that shrinks to fit is smaller than designed), or as designed.
 std::string cssFont(const Control& control, double points = 0);
 std::string cssColor(Color color);
+// The family the page loads from the font file the engine measures a face of that name with.
+std::string cssFamily(const std::string& faceName);
 
 }  // namespace lw::web

@@ -10,6 +10,7 @@
 #include "headless/headless_platform.h"
 #include "model/app_error.h"
 #include "shell/frame_window_model.h"
+#include "web/page_files.h"
 #include "web/page_ui.h"
 #include "web/page_view.h"
 
@@ -82,6 +83,12 @@ int main() {
     page->session.user = "Trainer";
     page->session.computer = "Browser";
     page->session.executableFolder = kShippedFiles;
+    // The browser's print dialog stands for the printers of a machine.
+    page->session.printers = {"The browser's print dialog"};
+    // What the program keeps for its user (the user INF file of each edition, the taxpayer store in it)
+    // lives in the browser's storage; the shipped files are installed anew beside it.
+    lw::web::loadKeptFolders({std::string(kRoot) + "/LedgerwickInfFiles/Venturo",
+                              std::string(kRoot) + "/LedgerwickInfFiles/OthAgcy"});
     page->platform = std::make_unique<lw::headless::HeadlessPlatform>(page->session);
     page->program = std::make_unique<lw::Program>(page->ui, *page->platform);
     page->view = std::make_unique<lw::web::PageView>(*page->program);
@@ -92,6 +99,7 @@ int main() {
     } catch (const lw::ProgramEnded&) {
         page->view->showStatus("The program has ended. Reload the page to start it again.");
     }
+    lw::web::settleFiles();
     page->view->show();
     emscripten::val::global("document")["body"].call<void>("setAttribute", std::string("data-ready"),
                                                            std::string("true"));

@@ -5,6 +5,8 @@
 #include "model/app_error.h"
 #include "model/form.h"
 #include "text/cp1252.h"
+#include "web/page_files.h"
+#include "web/page_paper.h"
 #include "web/page_view.h"
 
 namespace lw::web {
@@ -33,12 +35,20 @@ void PageUi::refresh() {
     // Shown after the input that changed it: the page is brought up to date when the engine returns.
 }
 
-void PageUi::copyPictureToClipboard(Form& form) { (void)form; }
+void PageUi::copyPictureToClipboard(Form& form) { clipPicture(form); }
 
-bool PageUi::openDocument(const std::string& path) {
-    (void)path;
-    return false;
+// The browser's print dialog chooses the printer: the page only lays the form on the paper.
+bool PageUi::printForm(const Form& form, const std::string& printer) {
+    (void)printer;
+    printOnPaper(form);
+    return true;
 }
+
+std::optional<std::string> PageUi::fileDialog(const FileDialogRequest& request) {
+    return askForFile(request);
+}
+
+bool PageUi::openDocument(const std::string& path) { return openInTab(path); }
 
 void PageUi::quit() { throw ProgramEnded{}; }
 

@@ -19,6 +19,8 @@ public:
     void copyPictureToClipboard(Form& form) override;
     std::string clipboardText() override { return clipboard_; }
     void setClipboardText(const std::string& text) override { clipboard_ = text; }
+    bool printForm(const Form& form, const std::string& printer) override;
+    std::optional<std::string> fileDialog(const FileDialogRequest& request) override;
     bool openDocument(const std::string& path) override;
     void quit() override;
     void inputRefused(const std::string& why) override;

@@ -9,6 +9,7 @@
 #include "model/containers.h"
 #include "text/cp1252.h"
 #include "web/page_fields.h"
+#include "web/page_files.h"
 
 namespace lw::web {
 
@@ -30,6 +31,7 @@ void PageView::runInput(const std::function<void()>& input) {
     } catch (const std::exception& fault) {
         showStatus(std::string("The page could not carry out that input: ") + fault.what());
     }
+    settleFiles();
     show();
 }
 
