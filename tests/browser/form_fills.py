@@ -6,18 +6,19 @@ left out, so that the page and the runner take the very same input.
 
     form_fills.py BUILD_DIR [FIELDS_PER_FORM]
 """
-import importlib.machinery
-import importlib.util
 import json
 import os
 import sys
+import types
 
 sys.dont_write_bytecode = True
 here = os.path.dirname(os.path.abspath(__file__))
-loader = importlib.machinery.SourceFileLoader("screenshot_forms", os.path.join(here, "../../tools/screenshot-forms"))
-spec = importlib.util.spec_from_loader(loader.name, loader)
-gallery = importlib.util.module_from_spec(spec)
-loader.exec_module(gallery)
+# The gallery's own code, read from its command (a file without a suffix) as a module of its own.
+source = os.path.join(here, "../../tools/screenshot-forms")
+gallery = types.ModuleType("screenshot_forms")
+gallery.__file__ = source
+with open(source, encoding="utf-8") as code:
+    exec(compile(code.read(), source, "exec"), gallery.__dict__)
 
 
 def text_fills(commands, count):
