@@ -1,11 +1,16 @@
 // Every form of the menu in the page, a few of its fields filled, against the native program's picture
-// of the same document: the runner fills the form the same way and saves it, ledgerwick-render draws
-// the saved document at 100% (a form that saves no document is drawn by the runner's snapshot). The
-// form area of the page is taken as a screenshot and compared pixel by pixel. Outside the fields the two
-// must agree; inside a field the page's input writes the text with the browser's own font rasterizer,
-// so its glyphs may differ a little from the engine's, but no more than text drawn in another way does.
+// of the same form: the native runner fills it the same way and takes its snapshot at 100%, the
+// window's look drawn by the window's painter. The form area of the page is taken as a screenshot and
+// compared with it. Outside the fields both were drawn from the engine's description, by two font
+// rasterizers, and agree square by square; a field's border ring is the page's own and agrees pixel by
+// pixel; inside a field the browser writes the text with its own glyphs, and squares agree more loosely.
+// A field whose text stands whole pixels off is named. The form is saved too, and the difference from
+// ledgerwick-render's picture of the saved document is told without being judged: that is the printed
+// look (white fields and boxes, no status line, cut to the document), where the page shows the screen's.
 //   node page_forms_pictures.js [PAGE_FOLDER] [NATIVE_BUILD] [PICTURE_FOLDER]
-// PICTURE_FOLDER, when given, keeps each form's page, native and difference pictures.
+// NATIVE_BUILD holds bin/ledgerwick-script and bin/ledgerwick-render; PICTURE_FOLDER, when given, keeps
+// each form's page, native and difference pictures. LW_FORMS names some forms alone, LW_FIELDS how many
+// fields of each are filled.
 "use strict";
 const fs = require("fs");
 const os = require("os");
@@ -242,14 +247,12 @@ async function compareForm(page, entry, work) {
 }
 
 (async () => {
-  // LW_FIELDS=N fills N fields of each form (4 by default).
   const plan = JSON.parse(execFileSync("python3", [path.join(__dirname, "form_fills.py"), build, process.env.LW_FIELDS || "4"],
                                        { encoding: "utf8", env: { ...process.env, QT_QPA_PLATFORM: "offscreen" } }));
   if (keep) fs.mkdirSync(keep, { recursive: true });
   const { page, problems, close } = await openPage(folder);
   const results = [];
   try {
-    // LW_FORMS="mnuW2 mnu1099R" compares those forms alone.
     const only = (process.env.LW_FORMS || "").split(/\s+/).filter(Boolean);
     for (const entry of plan.filter((entry) => !only.length || only.includes(entry.item))) {
       const work = fs.mkdtempSync(path.join(os.tmpdir(), "ledgerwick-pictures-"));
