@@ -108,7 +108,9 @@ Control* PageView::controlAt(Form& form, int x, int y) const {
     const std::vector<const Control*> order = face::paintOrder(form);
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         const Control& control = **it;
-        if (!isShown(control) || control.kind == ControlKind::Line) continue;
+        // Shapes and lines take no clicks: what lies under them does, as in the window.
+        if (!isShown(control) || control.kind == ControlKind::Line || control.kind == ControlKind::Shape)
+            continue;
         const face::Rect rect = face::controlRect(control, face::kScreenScale);
         if (x >= rect.x && y >= rect.y && x < rect.x + rect.width && y < rect.y + rect.height)
             return const_cast<Control*>(&control);
