@@ -41,6 +41,7 @@ void PageView::show() {
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));
     Form* form = inputForm();
     if (form != shown_) {
+        forgetFaceLooks();
         clearFields();
         shown_ = form;
         if (form) placeFields(*form);
@@ -53,12 +54,13 @@ void PageView::show() {
         canvas.set("height", 0);
         return;
     }
-    paintFace(*form, "face");
+    if (faceChanged(*form)) paintFace(*form, "face");
     showFields();
 }
 
 void PageView::forget(Form& form) {
     if (&form == shown_) {
+        forgetFaceLooks();
         clearFields();
         shown_ = nullptr;
     }
@@ -106,7 +108,9 @@ Control* PageView::controlAt(Form& form, int x, int y) const {
     const std::vector<const Control*> order = face::paintOrder(form);
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         const Control& control = **it;
-        if (!isShown(control) || control.kind == ControlKind::Line) continue;
+        // Shapes and lines take no clicks: what lies under them does, as in the window.
+        if (!isShown(control) || control.kind == ControlKind::Line || control.kind == ControlKind::Shape)
+            continue;
         const face::Rect rect = face::controlRect(control, face::kScreenScale);
         if (x >= rect.x && y >= rect.y && x < rect.x + rect.width && y < rect.y + rect.height)
             return const_cast<Control*>(&control);

@@ -6,11 +6,14 @@
 #include <emscripten/val.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
+#include "face/geometry.h"
 #include "headless/picture_files.h"
 #include "headless/truetype_faces.h"
+#include "model/look_tracker.h"
 #include "model/program.h"
 
 namespace lw::web {
@@ -52,10 +55,15 @@ private:
     void buildMenus();
     void buildPanel();
     void placeFields(Form& form);
+    void placeOneLine(const Control& control, const face::Rect& rect, emscripten::val& style);
     void clearFields();
     void showFields();
     void showField(Field& field, const Control* focus);
     void paintFace(Form& form, const std::string& canvasId);
+    // Whether the shown form's face looks different from the last time it was asked: a key that only
+    // edits a field, which the page hosts as an input, leaves the painted face as it is.
+    bool faceChanged(const Form& form);
+    void forgetFaceLooks();
     Control* controlAt(Form& form, int x, int y) const;
     int indexOf(const Control* control) const;
 
@@ -66,6 +74,9 @@ private:
     Form* shown_ = nullptr;
     Form* modal_ = nullptr;
     std::vector<Field> fields_;
+    LookTracker faceLooks_;
+    std::size_t formLook_ = 0;
+    std::map<const Control*, face::Rect> dollarSigns_;
     std::vector<Control*> dialogButtons_;
     std::string menusShown_;
     std::vector<Control*> panelButtons_;
