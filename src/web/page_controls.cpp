@@ -7,6 +7,7 @@
 
 #include "catalogue/field_names.h"
 #include "face/caption_text.h"
+#include "face/control_text.h"
 #include "face/face_description.h"
 #include "model/containers.h"
 #include "text/cp1252.h"
@@ -86,6 +87,7 @@ void PageView::placeFields(Form& form, const std::string& layerId) {
         if (control.kind == ControlKind::TabControl)
             rect.height = face::tabStripHeight(control, face::kScreenScale);
         placeAt(element, rect);
+        if (control.kind == ControlKind::TextBox) placeTextBox(control, rect, element["style"]);
         layer.call<void>("appendChild", element);
         fields_.push_back({&control, element});
     }
@@ -97,14 +99,10 @@ val PageView::makeElement(Control& control, const std::string& name) {
     val element = val::undefined();
     switch (control.kind) {
         case ControlKind::TextBox:
-            element = make(control.multiLine ? "textarea" : "input");
+            // A box whose text may take several lines on paper edits them as lines.
+            element = make(face::breaksLines(control) ? "textarea" : "input");
             element.call<void>("setAttribute", std::string("autocomplete"), std::string("off"));
             element.call<void>("setAttribute", std::string("spellcheck"), std::string("false"));
-            element["style"].set("font", cssFont(control));
-            element["style"].set("textAlign", std::string(control.alignment == 1   ? "right"
-                                                          : control.alignment == 2 ? "center"
-                                                                                   : "left"));
-            element["style"].set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
             break;
         case ControlKind::CheckLabel:
         case ControlKind::OptionButton:

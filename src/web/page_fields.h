@@ -12,8 +12,9 @@ namespace lw::web {
 void paintButtons(const Form& form, headless::RasterImage& image, headless::TrueTypeFaces& faces,
                   headless::PictureFiles& pictures);
 
-// The CSS font of a field's face: the web font of the file the engine measures it with.
-std::string cssFont(const Control& control);
+// The CSS font of a field's face: the web font of the file the engine measures it with, at the size
+// the engine writes its text (a text that shrinks to fit is smaller than designed), or as designed.
+std::string cssFont(const Control& control, double points = 0);
 std::string cssColor(Color color);
 // The family the page loads from the font file the engine measures a face of that name with.
 std::string cssFamily(const std::string& faceName);

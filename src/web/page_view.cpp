@@ -64,6 +64,7 @@ void PageView::show() {
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));
     Form* form = inputForm();
     if (form != shown_) {
+        forgetFaceLooks();
         if (shown_) clearFields(*shown_);
         shown_ = form;
         if (form) placeFields(*form, "fields");
@@ -71,11 +72,11 @@ void PageView::show() {
         title.set("textContent", form ? text::cp1252ToUtf8(form->caption) : std::string());
     }
     val canvas = document_.call<val>("getElementById", std::string("face"));
-    if (form) {
-        paintFace(*form, "face");
-    } else {
+    if (!form) {
         canvas.set("width", 0);
         canvas.set("height", 0);
+    } else if (faceChanged(*form)) {
+        paintFace(*form, "face");
     }
     if (modal_) paintFace(*modal_, "modal-face");
     showFields();
@@ -83,7 +84,10 @@ void PageView::show() {
 
 void PageView::forget(Form& form) {
     clearFields(form);
-    if (&form == shown_) shown_ = nullptr;
+    if (&form == shown_) {
+        forgetFaceLooks();
+        shown_ = nullptr;
+    }
     if (&form == modal_) modal_ = nullptr;
     modals_.erase(std::remove(modals_.begin(), modals_.end(), &form), modals_.end());
 }
@@ -126,7 +130,9 @@ Control* PageView::controlAt(Form& form, int x, int y) const {
     const std::vector<const Control*> order = face::paintOrder(form);
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         const Control& control = **it;
-        if (!isShown(control) || control.kind == ControlKind::Line) continue;
+        // Shapes and lines take no clicks: what lies under them does, as in the window.
+        if (!isShown(control) || control.kind == ControlKind::Line || control.kind == ControlKind::Shape)
+            continue;
         const face::Rect rect = face::controlRect(control, face::kScreenScale);
         if (x >= rect.x && y >= rect.y && x < rect.x + rect.width && y < rect.y + rect.height)
             return const_cast<Control*>(&control);

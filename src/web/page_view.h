@@ -8,11 +8,14 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
+#include "face/geometry.h"
 #include "headless/picture_files.h"
 #include "headless/truetype_faces.h"
+#include "model/look_tracker.h"
 #include "model/program.h"
 
 namespace lw::web {
@@ -73,6 +76,8 @@ private:
     // host theirs alike.
     void placeFields(Form& form, const std::string& layerId);
     emscripten::val makeElement(Control& control, const std::string& name);
+    void placeTextBox(const Control& control, const face::Rect& rect, emscripten::val style);
+    void placeOneLine(const Control& control, const face::Rect& rect, emscripten::val& style);
     void placeEntries(const Control& control, emscripten::val element, int field);
     void clearFields(const Form& form);
     void numberFields();
@@ -83,6 +88,10 @@ private:
     emscripten::val focusTarget(const Field& field) const;
     void showDialog();
     void paintFace(Form& form, const std::string& canvasId);
+    // Whether the shown form's face looks different from the last time it was asked: a key that only
+    // edits a field, which the page hosts as an input, leaves the painted face as it is.
+    bool faceChanged(const Form& form);
+    void forgetFaceLooks();
     Control* controlAt(Form& form, int x, int y) const;
     int indexOf(const Control* control) const;
     // The field of the form that takes the operator's input, or null.
@@ -102,6 +111,9 @@ private:
         const Control* on = nullptr;
     };
     std::deque<WaitingInput> waitingInput_;
+    LookTracker faceLooks_;
+    std::size_t formLook_ = 0;
+    std::map<const Control*, face::Rect> dollarSigns_;
     std::string menusShown_;
     std::vector<Control*> panelButtons_;
     std::string panelShown_;

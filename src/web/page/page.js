@@ -29,6 +29,8 @@ var Module = {
         }));
       });
     });
+    // The page's fields measure their lines with the web fonts: all of them are ready before the program.
+    if (document.fonts) document.fonts.forEach(function (face) { loads.push(face.load()); });
     Promise.all(loads).then(function () { Module.removeRunDependency("fonts"); }, function (error) {
       document.getElementById("status").textContent = "The page could not load its fonts: " + error.message;
     });
