@@ -1,9 +1,11 @@
-// A modal form (a message box, the error report, the Save form) as a modal dialog of the page: its face
-// painted as the engine describes it, with real buttons over the buttons it paints.
+// A modal form (a message box, the error report, the Save form, the K-1 code list) as a modal dialog of
+// the page: its face painted as the engine describes it, with its controls hosted over it as the main
+// face hosts its own. A box shown from within another hides it until it is answered.
+#include <algorithm>
+
 #include "face/face_description.h"
 #include "model/containers.h"
 #include "text/cp1252.h"
-#include "web/page_fields.h"
 #include "web/page_view.h"
 
 namespace lw::web {
@@ -11,54 +13,55 @@ namespace lw::web {
 using emscripten::val;
 
 void PageView::showModal(Form& form) {
-    modal_ = &form;
-    dialogButtons_.clear();
-    show();
-    val dialog = document_.call<val>("getElementById", std::string("modal"));
-    dialog.call<void>("setAttribute", std::string("aria-label"), text::cp1252ToUtf8(form.caption));
-    document_.call<val>("getElementById", std::string("modal-title"))
-        .set("textContent", text::cp1252ToUtf8(form.caption));
-    paintFace(form, "modal-face");
+    modals_.push_back(&form);
+    showDialog();
+}
 
-    val layer = document_.call<val>("getElementById", std::string("modal-buttons"));
-    layer.set("textContent", std::string());
-    val first = val::null();
-    for (const auto& owned : form.controls()) {
-        Control& control = *owned;
-        if (control.kind != ControlKind::CommandButton || !isShown(control)) continue;
-        if (control.caption.empty() && control.picture.empty()) continue;  // a button the box does not use
-        val button = document_.call<val>("createElement", std::string("button"));
-        button.set("type", std::string("button"));
-        button.set("textContent", text::cp1252ToUtf8(control.caption));
-        button.call<void>("setAttribute", std::string("data-button"),
-                          static_cast<int>(dialogButtons_.size()));
-        button.set("disabled", !control.enabled);
-        const face::Rect rect = face::controlRect(control, face::kScreenScale);
-        val style = button["style"];
-        style.set("left", std::to_string(rect.x) + "px");
-        style.set("top", std::to_string(rect.y) + "px");
-        style.set("width", std::to_string(rect.width) + "px");
-        style.set("height", std::to_string(rect.height) + "px");
-        style.set("font", cssFont(control));
-        layer.call<void>("appendChild", button);
-        dialogButtons_.push_back(&control);
-        if (first.isNull() || control.isDefault) first = button;
+void PageView::closeModal() { showDialog(); }
+
+void PageView::dialogClosing() {
+    Form* form = modal_;
+    if (!form) return;
+    runInput([this, form] {
+        if (std::find(modals_.begin(), modals_.end(), form) != modals_.end()) form->unload();
+    });
+}
+
+// The dialog hosts the innermost modal form still waiting, or closes when none is.
+void PageView::showDialog() {
+    Form* top = modals_.empty() ? nullptr : modals_.back();
+    val dialog = document_.call<val>("getElementById", std::string("modal"));
+    if (top != modal_) {
+        if (modal_) clearFields(*modal_);
+        modal_ = top;
+        if (top) {
+            const std::string caption = text::cp1252ToUtf8(top->caption);
+            dialog.call<void>("setAttribute", std::string("aria-label"), caption);
+            document_.call<val>("getElementById", std::string("modal-title")).set("textContent", caption);
+            placeFields(*top, "modal-fields");
+        }
+    }
+    if (!top) {
+        if (dialog["open"].as<bool>()) dialog.call<void>("close");
+        show();
+        return;
     }
     if (!dialog["open"].as<bool>()) dialog.call<void>("showModal");
-    if (!first.isNull()) first.call<void>("focus");
-}
-
-void PageView::closeModal() {
-    val dialog = document_.call<val>("getElementById", std::string("modal"));
-    if (modal_) return;  // the engine shows another box
-    if (dialog["open"].as<bool>()) dialog.call<void>("close");
     show();
-}
-
-void PageView::dialogButton(int button) {
-    if (!modal_ || button < 0 || button >= static_cast<int>(dialogButtons_.size())) return;
-    Control& control = *dialogButtons_[static_cast<std::size_t>(button)];
-    runInput([&] { program_.desktop.click(control); });
+    // The engine's focus is shown; a box whose focus is on nothing the page hosts starts on its default
+    // button, else on its first field or button in the order of its tab stops, as a dialog does.
+    const val active = document_["activeElement"];
+    const val layer = document_.call<val>("getElementById", std::string("modal-fields"));
+    if (!active.isNull() && layer.call<bool>("contains", active)) return;
+    auto rank = [](const Control& control) { return control.isDefault ? -1 : control.tabIndex; };
+    const Field* start = nullptr;
+    for (const Field& field : fields_) {
+        const Control& control = *field.control;
+        const bool stop = control.canTakeFocus() && control.tabStop && control.kind != ControlKind::Picture;
+        if (control.form != top || !stop || !isShown(control)) continue;
+        if (!start || rank(control) < rank(*start->control)) start = &field;
+    }
+    if (start) focusTarget(*start).call<void>("focus");
 }
 
 }  // namespace lw::web

@@ -1,12 +1,12 @@
-// The fields of the shown form as real inputs over its face: made when the form shows, and after every
-// input given the engine's text, selection, colours and focus.
+// The fields of a shown form, real elements over its face: after every input given the engine's text,
+// selection, colours and focus.
 #include "web/page_fields.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <map>
 
-#include "catalogue/field_names.h"
 #include "face/control_text.h"
 #include "face/face_colors.h"
 #include "face/face_description.h"
@@ -128,51 +128,34 @@ void PageView::placeOneLine(const Control& control, const face::Rect& rect, emsc
     style.set("paddingBottom", px(below));
 }
 
-void PageView::clearFields() {
-    for (Field& field : fields_) field.element.call<void>("remove");
-    fields_.clear();
+// The elements of a form that is no longer shown go; the others keep their elements, numbered anew.
+void PageView::clearFields(const Form& form) {
+    const auto gone = std::remove_if(fields_.begin(), fields_.end(), [&](Field& field) {
+        if (field.control->form != &form) return false;
+        field.element.call<void>("remove");
+        return true;
+    });
+    if (gone == fields_.end()) return;
+    fields_.erase(gone, fields_.end());
+    numberFields();
 }
 
-void PageView::placeFields(Form& form) {
-    val layer = document_.call<val>("getElementById", std::string("fields"));
-    const std::map<const Control*, FieldName> names = fieldNamesOf(form);
-    for (const auto& owned : form.controls()) {
-        Control& control = *owned;
-        if (control.kind != ControlKind::TextBox || control.wordsOnly) continue;
-        val element = document_.call<val>("createElement",
-                                          std::string(face::breaksLines(control) ? "textarea" : "input"));
-        const int index = static_cast<int>(fields_.size());
-        element.set("id", "field-" + std::to_string(index));
-        element.call<void>("setAttribute", std::string("data-field"), index);
-        element.call<void>("setAttribute", std::string("autocomplete"), std::string("off"));
-        element.call<void>("setAttribute", std::string("spellcheck"), std::string("false"));
-        const auto named = names.find(&control);
-        const std::string label =
-            named != names.end() && !named->second.text.empty() ? named->second.text : control.key();
-        element.call<void>("setAttribute", std::string("aria-label"), text::cp1252ToUtf8(label));
-        element.call<void>("setAttribute", std::string("data-name"), control.key());
-        val style = element["style"];
-        const face::Rect rect = face::controlRect(control, face::kScreenScale);
-        style.set("left", px(rect.x));
-        style.set("top", px(rect.y));
-        style.set("width", px(rect.width));
-        style.set("height", px(rect.height));
-        style.set("font", cssFont(control));
-        style.set("textAlign", std::string(control.alignment == 1   ? "right"
-                                           : control.alignment == 2 ? "center"
-                                                                    : "left"));
-        style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
-        style.set("borderColor", cssColor(face::kBoxBorder));
-        if (face::breaksLines(control)) {
-            // The engine writes a box's lines one line spacing apart, from a pixel below its border.
-            const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
-            style.set("lineHeight", std::to_string(spacing) + "px");
-            style.set("paddingTop", px(1));
-        } else {
-            placeOneLine(control, rect, style);
-        }
-        layer.call<void>("appendChild", element);
-        fields_.push_back({&control, element});
+// A text box's face, alignment and border as the engine draws them, its lines where the engine writes
+// them.
+void PageView::placeTextBox(const Control& control, const face::Rect& rect, val style) {
+    style.set("font", cssFont(control));
+    style.set("textAlign", std::string(control.alignment == 1   ? "right"
+                                       : control.alignment == 2 ? "center"
+                                                                : "left"));
+    style.set("borderStyle", std::string(control.borderStyle == 0 ? "none" : "solid"));
+    style.set("borderColor", cssColor(face::kBoxBorder));
+    if (face::breaksLines(control)) {
+        // The engine writes a box's lines one line spacing apart, from a pixel below its border.
+        const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
+        style.set("lineHeight", std::to_string(spacing) + "px");
+        style.set("paddingTop", px(1));
+    } else {
+        placeOneLine(control, rect, style);
     }
 }
 
@@ -186,10 +169,42 @@ void PageView::showFields() {
     }
 }
 
+namespace {
+
+// Everything of a control other than a text box that its element shows.
+std::string shownState(const Control& control) {
+    std::string state{isShown(control) ? '1' : '0', control.enabled ? '1' : '0', control.value ? '1' : '0'};
+    state += std::to_string(control.listIndex) + '\x1f' + control.caption + '\x1f' + control.picture;
+    for (const std::string& item : control.items) state += '\x1e' + item;
+    return state;
+}
+
+}  // namespace
+
 void PageView::showField(Field& field, const Control* focus) {
     const Control& control = *field.control;
     val element = field.element;
     val style = element["style"];
+    if (control.kind != ControlKind::TextBox) {
+        // A check, an option or a select the operator changes in the page shows the engine's answer
+        // again, even when the engine left it as it was.
+        const bool changedByPage = control.kind == ControlKind::CheckLabel ||
+                                   control.kind == ControlKind::OptionButton ||
+                                   control.kind == ControlKind::ComboBox;
+        std::string state = shownState(control);
+        if (state != field.shown || changedByPage) {
+            style.set("display", std::string(isShown(control) ? "block" : "none"));
+            element.set("disabled", !control.enabled);
+            showControl(field);
+            field.shown = std::move(state);
+        }
+        if (&control != focus) return;
+        const val target = focusTarget(field);
+        if (!document_["activeElement"].strictlyEquals(target) &&
+            !element.call<bool>("contains", document_["activeElement"]))
+            target.call<void>("focus");
+        return;
+    }
     style.set("display", std::string(isShown(control) ? "block" : "none"));
     const std::string shown = text::cp1252ToUtf8(control.text);
     if (element["value"].as<std::string>() != withBrowserLineEnds(shown)) element.set("value", shown);
@@ -219,19 +234,19 @@ int PageView::indexOf(const Control* control) const {
 }
 
 bool PageView::fieldPressed(int field) {
-    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return false;
-    Control& control = *fields_[static_cast<std::size_t>(field)].control;
-    if (program_.desktop.focus() != &control) runInput([&] { program_.desktop.click(control); });
-    return program_.desktop.focus() == &control;
+    Control* control = usableField(field);
+    if (!control) return false;
+    if (program_.desktop.focus() != control)
+        runInput([this, control] { program_.desktop.click(*control); }, control);
+    return program_.desktop.focus() == control;
 }
 
 // A caret put or text selected with the mouse is the engine's selection.
 void PageView::fieldSelected(int field, int start, int end) {
-    if (modal_ || field < 0 || field >= static_cast<int>(fields_.size())) return;
-    Control& control = *fields_[static_cast<std::size_t>(field)].control;
-    if (program_.desktop.focus() != &control) return;
-    const int from = enginePlace(control.text, std::min(start, end));
-    control.select(from, enginePlace(control.text, std::max(start, end)) - from);
+    Control* control = usableField(field);
+    if (!control || program_.desktop.focus() != control) return;
+    const int from = enginePlace(control->text, std::min(start, end));
+    control->select(from, enginePlace(control->text, std::max(start, end)) - from);
 }
 
 }  // namespace lw::web

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "text/cp1252.h"
+#include "web/page_sleep.h"
 
 namespace lw::web {
 
@@ -37,7 +38,7 @@ val files() { return val::global("LwFiles"); }
 
 // The trainer's answer, waited for with the engine's stack unwound so that the page goes on running.
 val awaitAnswer() {
-    while (files()["answer"].isUndefined()) emscripten_sleep(20);
+    while (files()["answer"].isUndefined()) sleepEngine(20);
     val answer = files()["answer"];
     files().set("answer", val::undefined());
     return answer;

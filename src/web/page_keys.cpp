@@ -29,9 +29,9 @@ int keyAsciiOf(int keyCode, int shift, const std::string& name) {
 
 void PageView::key(int keyCode, int shift, const std::string& name) {
     Desktop& desktop = program_.desktop;
-    if (modal_ || !inputForm() || !desktop.focus()) return;
+    if (!desktop.focus()) return;
     if (name == "Tab") {
-        runInput([&] { desktop.tab(shift & keys::kShiftMask); });
+        runInput([&desktop, shift] { desktop.tab(shift & keys::kShiftMask); });
         return;
     }
     const int keyAscii = keyAsciiOf(keyCode, shift, name);
@@ -43,7 +43,7 @@ void PageView::key(int keyCode, int shift, const std::string& name) {
         show();  // an input the page did not see as keys is put back as the engine has it
         return;
     }
-    runInput([&] { desktop.pressKey(keyCode, shift, keyAscii); });
+    runInput([&desktop, keyCode, shift, keyAscii] { desktop.pressKey(keyCode, shift, keyAscii); });
 }
 
 }  // namespace lw::web

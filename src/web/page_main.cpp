@@ -58,8 +58,8 @@ EMSCRIPTEN_KEEPALIVE int lw_page_field_pressed(int field) {
 EMSCRIPTEN_KEEPALIVE void lw_page_field_selected(int field, int start, int end) {
     if (view()) view()->fieldSelected(field, start, end);
 }
-EMSCRIPTEN_KEEPALIVE void lw_page_face_clicked(int x, int y) {
-    if (view()) view()->faceClicked(x, y);
+EMSCRIPTEN_KEEPALIVE void lw_page_face_clicked(int x, int y, int button) {
+    if (view()) view()->faceClicked(x, y, button);
 }
 EMSCRIPTEN_KEEPALIVE void lw_page_menu(const char* name) {
     if (view()) view()->menuChosen(name);
@@ -67,11 +67,14 @@ EMSCRIPTEN_KEEPALIVE void lw_page_menu(const char* name) {
 EMSCRIPTEN_KEEPALIVE void lw_page_paste(const char* utf8) {
     if (view()) view()->pasted(utf8);
 }
-EMSCRIPTEN_KEEPALIVE void lw_page_dialog_button(int button) {
-    if (view()) view()->dialogButton(button);
+EMSCRIPTEN_KEEPALIVE void lw_page_control(int field, int entry) {
+    if (view()) view()->controlUsed(field, entry);
 }
 EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
     if (view()) view()->frameButton(button);
+}
+EMSCRIPTEN_KEEPALIVE void lw_page_dialog_close() {
+    if (view()) view()->dialogClosing();
 }
 }
 

@@ -63,7 +63,7 @@ void PageView::buildPanel() {
 void PageView::frameButton(int button) {
     if (modal_ || button < 0 || button >= static_cast<int>(panelButtons_.size())) return;
     Control& control = *panelButtons_[static_cast<std::size_t>(button)];
-    if (control.enabled) runInput([&] { program_.desktop.click(control); });
+    if (control.enabled) runInput([this, &control] { program_.desktop.click(control); }, &control);
 }
 
 }  // namespace lw::web

@@ -7,6 +7,7 @@
 #include "text/cp1252.h"
 #include "web/page_files.h"
 #include "web/page_paper.h"
+#include "web/page_sleep.h"
 #include "web/page_view.h"
 
 namespace lw::web {
@@ -21,8 +22,12 @@ void PageUi::runModal(Form& form) {
     waiting.push_back(&form);
     view_->showModal(form);
     // The page keeps running while the operator answers: the engine's stack waits here, unwound, and
-    // the dialog's buttons reach the engine as any input does.
-    while (std::find(waiting.begin(), waiting.end(), &form) != waiting.end()) emscripten_sleep(20);
+    // the page's input, held while it sleeps, is run here when it wakes; a box shown by that input waits
+    // in turn on top of this one, so that the stack only ever sleeps in one place.
+    while (std::find(waiting.begin(), waiting.end(), &form) != waiting.end()) {
+        sleepEngine(10);
+        view_->runWaitingInput();
+    }
     view_->closeModal();
 }
 

@@ -10,6 +10,7 @@
 #include "text/cp1252.h"
 #include "web/page_fields.h"
 #include "web/page_files.h"
+#include "web/page_sleep.h"
 
 namespace lw::web {
 
@@ -23,7 +24,12 @@ Form* PageView::inputForm() const {
     return form && form->isLoaded() ? form : nullptr;
 }
 
-void PageView::runInput(const std::function<void()>& input) {
+void PageView::runInput(std::function<void()> input, const Control* on) {
+    if (engineAsleep()) {
+        waitingInput_.push_back({std::move(input), on});
+        return;
+    }
+    if (on && !isLive(on)) return;
     try {
         input();
     } catch (const ProgramEnded&) {
@@ -33,6 +39,23 @@ void PageView::runInput(const std::function<void()>& input) {
     }
     settleFiles();
     show();
+    runWaitingInput();
+}
+
+void PageView::runWaitingInput() {
+    while (!waitingInput_.empty()) {
+        WaitingInput waiting = std::move(waitingInput_.front());
+        waitingInput_.pop_front();
+        runInput(std::move(waiting.input), waiting.on);
+    }
+}
+
+bool PageView::isLive(const Control* control) const {
+    for (const Form* form : program_.desktop.forms())
+        if (form->isLoaded())
+            for (const auto& owned : form->controls())
+                if (owned.get() == control) return true;
+    return false;
 }
 
 void PageView::show() {
@@ -42,9 +65,9 @@ void PageView::show() {
     Form* form = inputForm();
     if (form != shown_) {
         forgetFaceLooks();
-        clearFields();
+        if (shown_) clearFields(*shown_);
         shown_ = form;
-        if (form) placeFields(*form);
+        if (form) placeFields(*form, "fields");
         val title = document_.call<val>("getElementById", std::string("form-title"));
         title.set("textContent", form ? text::cp1252ToUtf8(form->caption) : std::string());
     }
@@ -52,22 +75,21 @@ void PageView::show() {
     if (!form) {
         canvas.set("width", 0);
         canvas.set("height", 0);
-        return;
+    } else if (faceChanged(*form)) {
+        paintFace(*form, "face");
     }
-    if (faceChanged(*form)) paintFace(*form, "face");
+    if (modal_) paintFace(*modal_, "modal-face");
     showFields();
 }
 
 void PageView::forget(Form& form) {
+    clearFields(form);
     if (&form == shown_) {
         forgetFaceLooks();
-        clearFields();
         shown_ = nullptr;
     }
-    if (&form == modal_) {
-        modal_ = nullptr;
-        dialogButtons_.clear();
-    }
+    if (&form == modal_) modal_ = nullptr;
+    modals_.erase(std::remove(modals_.begin(), modals_.end(), &form), modals_.end());
 }
 
 bool PageView::isLoaded(const Form& form) const { return form.isLoaded(); }
@@ -79,7 +101,7 @@ void PageView::showStatus(const std::string& utf8) {
 // The engine's own painter draws the face as the runner draws it, with the faces it measured the text
 // with; the canvas shows its pixels one for one.
 void PageView::paintFace(Form& form, const std::string& canvasId) {
-    const bool hostsEditors = &form == shown_;
+    const bool hostsEditors = &form == shown_ || &form == modal_;
     const face::FaceDescription face =
         face::describeFace(form, face::FaceRequest{face::kScreenScale, hostsEditors, {}}, faces_);
     headless::RasterImage image(face.size.width, face.size.height, face.ground);
@@ -118,27 +140,36 @@ Control* PageView::controlAt(Form& form, int x, int y) const {
     return nullptr;
 }
 
-void PageView::faceClicked(int x, int y) {
+void PageView::faceClicked(int x, int y, int button) {
     Form* form = inputForm();
     if (!form || modal_) return;
     Control* control = controlAt(*form, x, y);
     if (!control || !control->enabled) return;
-    runInput([&] { program_.desktop.click(*control); });
+    if (control->kind == ControlKind::TabControl || control->kind == ControlKind::Grid ||
+        control->kind == ControlKind::ListBox) {
+        const int entry = face::entryAt(*control, face::Point{x, y}, face::kScreenScale, faces_);
+        if (entry >= 0) controlUsed(indexOf(control), entry);
+        return;
+    }
+    const MouseButton pressed = button == 2   ? MouseButton::Right
+                                : button == 1 ? MouseButton::Middle
+                                              : MouseButton::Left;
+    runInput([this, control, pressed] { program_.desktop.click(*control, pressed); }, control);
 }
 
 void PageView::menuChosen(const std::string& name) {
     if (modal_) return;
-    runInput([&] { program_.desktop.chooseMenu(name); });
+    runInput([this, name] { program_.desktop.chooseMenu(name); });
 }
 
 void PageView::pasted(const std::string& utf8) {
-    if (modal_ || !program_.desktop.focus()) return;
+    if (!program_.desktop.focus()) return;
     const std::optional<std::string> bytes = text::utf8ToCp1252(utf8);
     if (!bytes) {
         showStatus("The pasted text holds characters this program cannot keep.");
         return;
     }
-    runInput([&] { program_.desktop.paste(*bytes); });
+    runInput([this, text = *bytes] { program_.desktop.paste(text); });
 }
 
 }  // namespace lw::web

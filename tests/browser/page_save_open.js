@@ -141,10 +141,10 @@ runPageTest(async (page) => {
   for (const name of fs.readdirSync(downloads)) fs.rmSync(path.join(downloads, name));
   await pressFrameButton(page, "Save");
   await page.waitForFunction(() => document.getElementById("modal").open, { timeout: 10000 });
-  const keep = await page.$$eval("#modal-buttons button", (buttons) =>
-    buttons.findIndex((button) => button.textContent.startsWith("SAVE")));
-  if (keep < 0) return fail("the form for a file that exists has no Save button");
-  await page.click(`#modal-buttons button:nth-child(${keep + 1})`);
+  const keep = await page.$$eval("#modal-fields button", (buttons) =>
+    buttons.some((button) => button.textContent.startsWith("SAVE")));
+  if (!keep) return fail("the form for a file that exists has no Save button");
+  await page.click('#modal-fields button[data-name="cmdSave"]');
   let again = null;
   for (let tries = 0; tries < 100 && !again; ++tries) {
     again = fs.readdirSync(downloads).find((name) => !name.endsWith(".crdownload"));

@@ -52,8 +52,8 @@ var Module = {
   }
 
   document.addEventListener("keydown", function (event) {
-    if (document.getElementById("modal").open) return;  // the dialog's buttons take their keys
-    if (fieldOf(event.target) < 0) return;
+    if (fieldOf(event.target) < 0) return;  // a button, a check box, a list take their keys as clicks
+    if (reached === event.target) handOverReached();
     if (event.isComposing || event.key === "Process" || event.key === "Dead") return;
     // Ctrl+V brings its text with the paste that follows.
     if (event.ctrlKey && !event.altKey && event.keyCode === 86) return;
@@ -77,19 +77,46 @@ var Module = {
     if (field >= 0 && !Module._lw_page_field_pressed(field)) event.preventDefault();
   }, true);
 
+  // A field the browser's own Tab reached (from a button or a check box) becomes the engine's focus, as a
+  // click makes it; once the focus has settled, so that the engine's own moves of the focus pass by.
+  // A key typed before then hands the field over first.
+  var reached = null;
+  function handOverReached() {
+    var target = reached;
+    reached = null;
+    if (target && document.activeElement === target) call("lw_page_field_pressed", ["number"], [fieldOf(target)]);
+  }
+  document.addEventListener("focusin", function (event) {
+    if (fieldOf(event.target) < 0) return;
+    reached = event.target;
+    setTimeout(handOverReached, 0);
+  });
+
   document.addEventListener("mouseup", function (event) {
     var field = fieldOf(event.target);
     if (field >= 0)
       Module._lw_page_field_selected(field, event.target.selectionStart, event.target.selectionEnd);
   }, true);
 
+  // A click on the face, with the button pressed: a license takes a portrait on the left or right.
+  function faceClicked(event) {
+    var face = event.target, box = face.getBoundingClientRect();
+    call("lw_page_face_clicked", ["number", "number", "number"],
+         [Math.floor((event.clientX - box.left) * face.width / box.width),
+          Math.floor((event.clientY - box.top) * face.height / box.height), event.button]);
+  }
+  ["contextmenu", "auxclick"].forEach(function (kind) {
+    document.addEventListener(kind, function (event) {
+      if (event.target.id !== "face" || (kind === "auxclick" && event.button !== 1)) return;
+      event.preventDefault();
+      faceClicked(event);
+    });
+  });
+
   document.addEventListener("click", function (event) {
     var target = event.target;
     if (target.id === "face") {
-      var box = target.getBoundingClientRect();
-      call("lw_page_face_clicked", ["number", "number"],
-           [Math.floor((event.clientX - box.left) * target.width / box.width),
-            Math.floor((event.clientY - box.top) * target.height / box.height)]);
+      faceClicked(event);
       return;
     }
     if (target.classList.contains("menu-title")) {
@@ -108,15 +135,49 @@ var Module = {
       call("lw_page_frame_button", ["number"], [Number(target.getAttribute("data-frame-button"))]);
       return;
     }
-    if (target.hasAttribute("data-button")) {
-      call("lw_page_dialog_button", ["number"], [Number(target.getAttribute("data-button"))]);
+    if (target.hasAttribute("data-control")) {
+      // A select is used when its choice changes; a list or a strip of tabs through its entries.
+      var role = target.getAttribute("role");
+      if (target.tagName === "SELECT" || role === "tablist" || role === "listbox") return;
+      // A check or option shows what the engine makes of the click, set before the click ends.
+      call("lw_page_control", ["number", "number"], [Number(target.getAttribute("data-control")),
+        target.hasAttribute("data-entry") ? Number(target.getAttribute("data-entry")) : -1]);
       return;
     }
     if (!target.closest(".menu")) closeMenus();
   });
 
-  // A box is answered by its buttons; Escape does not close it behind the engine's back.
-  document.getElementById("modal").addEventListener("cancel", function (event) { event.preventDefault(); });
+  document.addEventListener("change", function (event) {
+    var target = event.target;
+    if (target.tagName === "SELECT" && target.hasAttribute("data-control"))
+      call("lw_page_control", ["number", "number"], [Number(target.getAttribute("data-control")), target.selectedIndex]);
+  });
+
+  // A row of a list is chosen with Enter or Space too, as a click chooses it; the arrows go from row to row.
+  document.addEventListener("keydown", function (event) {
+    var target = event.target;
+    if (!target.getAttribute || target.getAttribute("role") !== "option" || !target.hasAttribute("data-entry")) return;
+    var next = event.key === "ArrowDown" ? target.nextElementSibling : event.key === "ArrowUp" ? target.previousElementSibling : null;
+    if (event.key === "Enter" || event.key === " ") {
+      event.preventDefault();
+      target.click();
+    } else if (next) {
+      event.preventDefault();
+      target.tabIndex = -1;
+      next.tabIndex = 0;
+      next.focus();
+    }
+  });
+
+  // Escape and the close box ask the engine to close the form, which may refuse: the dialog closes only
+  // once the engine has unloaded it.
+  document.getElementById("modal").addEventListener("cancel", function (event) {
+    event.preventDefault();
+    call("lw_page_dialog_close", [], []);
+  });
+  document.getElementById("modal-close").addEventListener("click", function () {
+    call("lw_page_dialog_close", [], []);
+  });
 
   if ("serviceWorker" in navigator && location.protocol !== "file:")
     navigator.serviceWorker.register("service-worker.js").catch(function (error) { console.warn(error); });
