@@ -5,16 +5,11 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, pressFrameButton, keepSavedFiles, runPageTest } = require("./serve_page");
 
 const screenshot = process.argv[3];
 const at = (key) => `#fields [data-name="${key}"]`;
 const inDialog = (key) => `#modal-fields [data-name="${key}"]`;
-
-async function pressFrameButton(page, caption) {
-  await page.evaluate((caption) => [...document.querySelectorAll("[data-frame-button]")]
-    .find((button) => button.textContent === caption).click(), caption);
-}
 
 // The dialogs on the screen, the innermost (the page's own dialog) last: each one's title and whether
 // its face is painted.
@@ -29,22 +24,7 @@ function openDialogs(page) {
 
 runPageTest(async (page) => {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-stacked-"));
-  await page.evaluate(() => {
-    window.savedFiles = [];
-    window.showSaveFilePicker = async (options) => ({
-      name: options.suggestedName,
-      createWritable: async () => {
-        const parts = [];
-        return {
-          write: async (data) => { parts.push(data); },
-          close: async () => {
-            window.savedFiles.push({ name: options.suggestedName,
-                                     bytes: Array.from(new Uint8Array(await new Blob(parts).arrayBuffer())) });
-          },
-        };
-      },
-    });
-  });
+  await keepSavedFiles(page);
   await chooseMenu(page, "mnuW2");
   await page.waitForSelector(at("Text1(13)"));
   for (const [key, text] of [["Text1(13)", "JOHN DOE"], ["Text1(0)", "123456789"]]) {
