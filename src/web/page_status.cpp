@@ -25,9 +25,13 @@ void clearIfStillShown(void* shown) {
 
 }  // namespace
 
-void showStatus(const std::string& utf8) {
+void showLastingStatus(const std::string& utf8) {
     statusLine().set("textContent", utf8);
     ++shownCount;
+}
+
+void showStatus(const std::string& utf8) {
+    showLastingStatus(utf8);
     emscripten_set_timeout(clearIfStillShown, kShownFor, reinterpret_cast<void*>(std::uintptr_t{shownCount}));
 }
 

@@ -34,7 +34,7 @@ void PageView::runInput(std::function<void()> input, const Control* on) {
     try {
         input();
     } catch (const ProgramEnded&) {
-        showStatus("The program has ended. Reload the page to start it again.");
+        showLastingStatus("The program has ended. Reload the page to start it again.");
     } catch (const std::exception& fault) {
         showStatus(std::string("The page could not carry out that input: ") + fault.what());
     }

@@ -1,9 +1,10 @@
 // The frame's status line, in the page: at the foot of the window under the panel and the form, read
 // out by a screen reader (role=status); a character the program's code page cannot hold, typed into a
 // field, is refused there in the window's own words, and the line clears after eight seconds as the
-// window's does. What the field shows is left as it was.
+// window's does. What the field shows is left as it was. The end of the program, Quit pressed, stays
+// told there: the page has nothing else to show then.
 "use strict";
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
 
 const refusal = "That character cannot be typed here: the program keeps its text in the Windows-1252 code page.";
 
@@ -41,5 +42,13 @@ runPageTest(async (page) => {
   await page.waitForFunction(() => document.getElementById("status").textContent === "", { timeout: 5000 }).catch(() => null);
   const cleared = await page.$eval("#status", (status) => status.textContent);
   if (cleared) return fail(`after eight seconds the status line still says "${cleared}"`);
-  return `"${refusal}" stood at the foot of the window, then cleared`;
+  await pressFrameButton(page, "Quit");
+  const ended = "The program has ended. Reload the page to start it again.";
+  await page.waitForFunction((text) => document.getElementById("status").textContent === text, { timeout: 5000 }, ended)
+    .catch(() => null);
+  if ((await page.$eval("#status", (status) => status.textContent)) !== ended) return fail("Quit told nothing in the status line");
+  await new Promise((resolve) => setTimeout(resolve, 9000));
+  const lasting = await page.$eval("#status", (status) => status.textContent);
+  if (lasting !== ended) return fail(`nine seconds after Quit the status line says "${lasting}"`);
+  return `"${refusal}" stood at the foot of the window, then cleared; the end of the program stayed told`;
 });
