@@ -76,6 +76,9 @@ EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
 EMSCRIPTEN_KEEPALIVE void lw_page_dialog_close() {
     if (view()) view()->dialogClosing();
 }
+EMSCRIPTEN_KEEPALIVE int lw_page_key_seen(int keyCode, int shift, const char* name, int released) {
+    return view() ? static_cast<int>(view()->keySeen(keyCode, shift, name, released != 0)) : 0;
+}
 }
 
 int main() {
