@@ -49,6 +49,18 @@ runPageTest(async (page) => {
   now = await active(page);
   if (!now.menu || !now.menu.startsWith("mnu1099")) return fail("Right went to " + JSON.stringify(now));
   if ((await expanded(page)).join() !== "1099 Forms") return fail("Right did not open the 1099 menu alone");
+  // An item the program disables is passed over by the arrows.
+  const [first, second, third] = await page.evaluate(() => {
+    const items = [...document.activeElement.parentElement.querySelectorAll(".menu-item")];
+    items[1].disabled = true;
+    return items.slice(0, 3).map((item) => item.getAttribute("data-menu"));
+  });
+  if ((await active(page)).menu !== first) return fail("Right did not open the 1099 menu on its first item");
+  await page.keyboard.press("ArrowDown");
+  if ((await active(page)).menu !== third) return fail(`Down from ${first} did not pass over the disabled ${second}`);
+  await page.keyboard.press("ArrowUp");
+  if ((await active(page)).menu !== first) return fail(`Up from ${third} did not pass over the disabled ${second}`);
+  await page.evaluate((name) => { document.querySelector(`[data-menu="${name}"]`).disabled = false; }, second);
   await page.keyboard.press("ArrowLeft");
   if ((await active(page)).menu !== "mnuW2") return fail("Left did not come back to the W2 menu");
   await page.keyboard.press("Enter");
