@@ -14,6 +14,11 @@ using emscripten::val;
 
 namespace {
 
+// Key codes of the keys the menus take that the engine has no name for.
+constexpr int kAlt = 18;
+constexpr int kUp = 38;
+constexpr int kDown = 40;
+
 bool isElement(const val& node) { return !node.isNull() && !node.isUndefined(); }
 
 bool hasClass(const val& node, const char* name) {
@@ -73,9 +78,10 @@ bool isFrameKey(int keyCode, int shift) {
 
 }  // namespace
 
-PageView::KeySeen PageView::keySeen(int keyCode, int shift, const std::string& name, bool released) {
+PageView::KeySeen PageView::keySeen(int keyCode, int shift, bool released) {
+    const int key = keyCode;
     const bool altAlone = altAlone_;
-    altAlone_ = !released && name == "Alt" && shift == keys::kAltMask;
+    altAlone_ = !released && key == kAlt && shift == keys::kAltMask;
     if (modal_) {
         val active = document_["activeElement"];
         const bool inField =
@@ -85,7 +91,7 @@ PageView::KeySeen PageView::keySeen(int keyCode, int shift, const std::string& n
     val active = document_["activeElement"];
     const bool inMenus = isElement(active) && isElement(active.call<val>("closest", std::string("#menus")));
     if (released) {
-        if (!altAlone || name != "Alt") return KeySeen::Passes;
+        if (!altAlone || key != kAlt) return KeySeen::Passes;
         if (inMenus)
             closeMenusByKey();
         else
@@ -103,31 +109,31 @@ PageView::KeySeen PageView::keySeen(int keyCode, int shift, const std::string& n
             return KeySeen::Taken;
         }
     }
-    if (inMenus) return menuKey(active, name);
+    if (inMenus) return menuKey(active, keyCode);
     const bool inField = isElement(active) && active.call<bool>("hasAttribute", std::string("data-field"));
     return !inField && isFrameKey(keyCode, shift) ? KeySeen::ToEngine : KeySeen::Passes;
 }
 
-PageView::KeySeen PageView::menuKey(val active, const std::string& name) {
+PageView::KeySeen PageView::menuKey(val active, int key) {
     if (hasClass(active, "menu-title")) {
         const bool open = hasClass(active["parentElement"], "open");
-        if (name == "ArrowRight" || name == "ArrowLeft" || name == "Home" || name == "End") {
+        if (key == keys::kRight || key == keys::kLeft || key == keys::kHome || key == keys::kEnd) {
             const std::vector<val> titles = usableTitles(document_);
             if (titles.empty()) return KeySeen::Taken;
-            const val next = name == "Home"  ? titles.front()
-                             : name == "End" ? titles.back()
-                                             : stepFrom(titles, active, name == "ArrowRight" ? 1 : -1);
+            const val next = key == keys::kHome  ? titles.front()
+                             : key == keys::kEnd ? titles.back()
+                                                 : stepFrom(titles, active, key == keys::kRight ? 1 : -1);
             if (open)
                 openMenu(next, false);
             else
                 focusTitle(next);
             return KeySeen::Taken;
         }
-        if (name == "ArrowDown" || name == "ArrowUp" || name == "Enter" || name == " ") {
-            openMenu(active, name == "ArrowUp");
+        if (key == kDown || key == kUp || key == keys::kEnter || key == keys::kSpace) {
+            openMenu(active, key == kUp);
             return KeySeen::Taken;
         }
-        if (name == "Escape" || name == "Tab") {
+        if (key == keys::kEscape || key == keys::kTab) {
             closeMenusByKey();
             return KeySeen::Taken;
         }
@@ -139,16 +145,16 @@ PageView::KeySeen PageView::menuKey(val active, const std::string& name) {
     const bool inSubmenu = hasClass(list["parentElement"], "menu-list") && hasClass(owner, "menu-item");
     const val submenu = submenuOf(active);
     const std::vector<val> items = usableItems(list);
-    if (name == "ArrowDown" || name == "ArrowUp") {
-        const val next = stepFrom(items, active, name == "ArrowDown" ? 1 : -1);
+    if (key == kDown || key == kUp) {
+        const val next = stepFrom(items, active, key == kDown ? 1 : -1);
         if (isElement(next)) next.call<void>("focus");
         return KeySeen::Taken;
     }
-    if (name == "Home" || name == "End") {
-        if (!items.empty()) (name == "Home" ? items.front() : items.back()).call<void>("focus");
+    if (key == keys::kHome || key == keys::kEnd) {
+        if (!items.empty()) (key == keys::kHome ? items.front() : items.back()).call<void>("focus");
         return KeySeen::Taken;
     }
-    if ((name == "Enter" || name == " " || name == "ArrowRight") && isElement(submenu)) {
+    if ((key == keys::kEnter || key == keys::kSpace || key == keys::kRight) && isElement(submenu)) {
         const std::vector<val> inner = usableItems(submenu);
         if (!inner.empty()) {
             setExpanded(active, true);
@@ -156,18 +162,18 @@ PageView::KeySeen PageView::menuKey(val active, const std::string& name) {
         }
         return KeySeen::Taken;
     }
-    if (name == "Enter" || name == " ") return KeySeen::ChoosesItem;
-    if ((name == "ArrowLeft" || name == "Escape") && inSubmenu) {
+    if (key == keys::kEnter || key == keys::kSpace) return KeySeen::ChoosesItem;
+    if ((key == keys::kLeft || key == keys::kEscape) && inSubmenu) {
         setExpanded(owner, false);
         owner.call<void>("focus");
         return KeySeen::Taken;
     }
-    if (name == "ArrowRight" || name == "ArrowLeft") {
+    if (key == keys::kRight || key == keys::kLeft) {
         const val title = active.call<val>("closest", std::string(".menu"))["firstElementChild"];
-        openMenu(stepFrom(usableTitles(document_), title, name == "ArrowRight" ? 1 : -1), false);
+        openMenu(stepFrom(usableTitles(document_), title, key == keys::kRight ? 1 : -1), false);
         return KeySeen::Taken;
     }
-    if (name == "Escape" || name == "Tab") {
+    if (key == keys::kEscape || key == keys::kTab) {
         closeMenusByKey();
         return KeySeen::Taken;
     }

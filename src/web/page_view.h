@@ -58,7 +58,7 @@ public:
     enum class KeySeen { Passes = 0, Taken = 1, ChoosesItem = 2, ToEngine = 3 };
     // A key pressed (or Alt released) anywhere in the page: the menubar's keys are taken here, and the
     // frame's keys pressed outside a field go to the engine.
-    KeySeen keySeen(int keyCode, int shift, const std::string& name, bool released);
+    KeySeen keySeen(int keyCode, int shift, bool released);
 
 private:
     // A control of a shown form hosted as a page element over its face.
@@ -77,7 +77,7 @@ private:
     void runInput(std::function<void()> input, const Control* on = nullptr);
     bool isLive(const Control* control) const;
     void buildMenus();
-    KeySeen menuKey(emscripten::val active, const std::string& name);
+    KeySeen menuKey(emscripten::val active, int keyCode);
     void rememberFocusBeforeMenus();
     void closeOpenMenus();
     void focusTitle(emscripten::val title);

@@ -10,8 +10,8 @@
   function seen(event, released) {
     if (!document.body.hasAttribute("data-ready") || event.isComposing) return;
     var shift = shiftOf(event);
-    var kind = Module.ccall("lw_page_key_seen", "number", ["number", "number", "string", "number"],
-                            [event.keyCode, shift, event.key, released ? 1 : 0]);
+    // Called directly: a call through ccall while a modal form waits would only give a promise.
+    var kind = Module._lw_page_key_seen(event.keyCode, shift, released ? 1 : 0);
     if (kind === PASSES) return;
     event.preventDefault();
     event.stopPropagation();
