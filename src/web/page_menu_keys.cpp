@@ -79,19 +79,16 @@ bool isFrameKey(int keyCode, int shift) {
 }  // namespace
 
 PageView::KeySeen PageView::keySeen(int keyCode, int shift, bool released) {
-    const int key = keyCode;
-    const bool altAlone = altAlone_;
-    altAlone_ = !released && key == kAlt && shift == keys::kAltMask;
-    if (modal_) {
-        val active = document_["activeElement"];
-        const bool inField =
-            isElement(active) && active.call<bool>("hasAttribute", std::string("data-field"));
-        return !released && !inField && isFrameKey(keyCode, shift) ? KeySeen::ToEngine : KeySeen::Passes;
-    }
+    const bool altWasAlone = altAlone_;
+    altAlone_ = !released && keyCode == kAlt && shift == keys::kAltMask;
     val active = document_["activeElement"];
+    const bool inField = isElement(active) && active.call<bool>("hasAttribute", std::string("data-field"));
+    const bool toEngine = !released && !inField && isFrameKey(keyCode, shift);
+    // Over a modal form the menubar is out of reach, as it is on the desktop.
+    if (modal_) return toEngine ? KeySeen::ToEngine : KeySeen::Passes;
     const bool inMenus = isElement(active) && isElement(active.call<val>("closest", std::string("#menus")));
     if (released) {
-        if (!altAlone || key != kAlt) return KeySeen::Passes;
+        if (!altWasAlone || keyCode != kAlt) return KeySeen::Passes;
         if (inMenus)
             closeMenusByKey();
         else
@@ -110,8 +107,7 @@ PageView::KeySeen PageView::keySeen(int keyCode, int shift, bool released) {
         }
     }
     if (inMenus) return menuKey(active, keyCode);
-    const bool inField = isElement(active) && active.call<bool>("hasAttribute", std::string("data-field"));
-    return !inField && isFrameKey(keyCode, shift) ? KeySeen::ToEngine : KeySeen::Passes;
+    return toEngine ? KeySeen::ToEngine : KeySeen::Passes;
 }
 
 PageView::KeySeen PageView::menuKey(val active, int key) {
