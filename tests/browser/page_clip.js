@@ -5,7 +5,7 @@ const fs = require("fs");
 const os = require("os");
 const path = require("path");
 const { execFileSync } = require("child_process");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
 
 const nativeRunner = process.env.LW_NATIVE_SCRIPT || path.join(__dirname, "../../build/bin/ledgerwick-script");
 
@@ -20,12 +20,6 @@ function nativeClipSize() {
   const size = /clipboard picture of TF_W2 (\d+)x(\d+)/.exec(output);
   if (!size) throw new Error("the native runner put no picture on the clipboard:\n" + output);
   return { width: Number(size[1]), height: Number(size[2]) };
-}
-
-async function pressFrameButton(page, caption) {
-  for (const button of await page.$$("[data-frame-button]"))
-    if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
-  throw new Error("no frame button " + caption);
 }
 
 runPageTest(async (page) => {

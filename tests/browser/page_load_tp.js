@@ -2,15 +2,10 @@
 // buttons; then Load TP 1 and Load TP 2 fill the W-2's employee block and number from it, and the focus
 // goes back to the field the trainer left.
 "use strict";
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
 
 const screenshot = process.argv[3];
 const at = (key) => `#fields [data-name="${key}"]`;
-
-async function pressFrameButton(page, caption) {
-  await page.evaluate((caption) => [...document.querySelectorAll("[data-frame-button]")]
-    .find((button) => button.textContent === caption).click(), caption);
-}
 
 async function typeInto(page, key, lines) {
   await page.click(at(key));

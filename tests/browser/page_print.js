@@ -6,7 +6,7 @@ const fs = require("fs");
 const os = require("os");
 const path = require("path");
 const { execFileSync } = require("child_process");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
 
 const typed = [
   ["Box e,", "MARGARET Q HOLLOWAY"],
@@ -16,12 +16,6 @@ const typed = [
   ["Box 2,", "6021"],
   ["Box d,", "CTRL-5521"],
 ];
-
-async function pressFrameButton(page, caption) {
-  for (const button of await page.$$("[data-frame-button]"))
-    if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
-  throw new Error("no frame button " + caption);
-}
 
 runPageTest(async (page) => {
   await chooseMenu(page, "mnuW2");

@@ -5,36 +5,11 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, keepSavedFiles, pressFrameButton, runPageTest } = require("./serve_page");
 
 const screenshot = process.argv[3];
 const at = (key) => `#fields [data-name="${key}"]`;
 const inDialog = (key) => `#modal-fields [data-name="${key}"]`;
-
-async function pressFrameButton(page, caption) {
-  await page.evaluate((caption) => [...document.querySelectorAll("[data-frame-button]")]
-    .find((button) => button.textContent === caption).click(), caption);
-}
-
-// Each file the page saves goes through the browser's save picker, answered with the name proposed.
-async function keepSavedFiles(page) {
-  await page.evaluate(() => {
-    window.savedFiles = [];
-    window.showSaveFilePicker = async (options) => ({
-      name: options.suggestedName,
-      createWritable: async () => {
-        const parts = [];
-        return {
-          write: async (data) => { parts.push(data); },
-          close: async () => {
-            const bytes = new Uint8Array(await new Blob(parts).arrayBuffer());
-            window.savedFiles.push({ name: options.suggestedName, bytes: Array.from(bytes) });
-          },
-        };
-      },
-    });
-  });
-}
 
 async function nextSaved(page, count) {
   await page.waitForFunction((count) => window.savedFiles.length >= count, { timeout: 10000 }, count).catch(() => null);

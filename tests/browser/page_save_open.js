@@ -7,7 +7,7 @@ const fs = require("fs");
 const os = require("os");
 const path = require("path");
 const { execFileSync } = require("child_process");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, keepSavedFiles, pressFrameButton, runPageTest } = require("./serve_page");
 
 const nativeRunner = process.env.LW_NATIVE_SCRIPT || path.join(__dirname, "../../build/bin/ledgerwick-script");
 
@@ -44,13 +44,6 @@ async function fillW2(page) {
   }
 }
 
-async function pressFrameButton(page, caption) {
-  const buttons = await page.$$("[data-frame-button]");
-  for (const button of buttons)
-    if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
-  throw new Error("no frame button " + caption);
-}
-
 // The native runner opens its file, types into box d and saves it over itself.
 function nativeResave(folder, name) {
   const file = path.join(folder, name);
@@ -78,30 +71,14 @@ runPageTest(async (page) => {
   if (!fs.existsSync(nativeRunner)) return fail("no native runner at " + nativeRunner + " (LW_NATIVE_SCRIPT)");
   const native = nativeSave(folder);
 
-  // A browser with a save picker: the picker is answered with the name it proposes, as a trainer who
-  // presses Save in it; what the page writes to the chosen file is kept.
-  await page.evaluate(() => {
-    window.savedFiles = [];
-    window.showSaveFilePicker = async (options) => ({
-      name: options.suggestedName,
-      createWritable: async () => {
-        const parts = [];
-        return {
-          write: async (data) => { parts.push(data); },
-          close: async () => {
-            const bytes = new Uint8Array(await new Blob(parts).arrayBuffer());
-            window.savedFiles.push({ proposed: options.suggestedName, bytes: Array.from(bytes) });
-          },
-        };
-      },
-    });
-  });
+  // A browser with a save picker, answered with the name it proposes.
+  await keepSavedFiles(page);
   await fillW2(page);
   await pressFrameButton(page, "Save");
   await page.waitForFunction(() => window.savedFiles.length === 1, { timeout: 10000 });
   const picked = (await page.evaluate(() => window.savedFiles))[0];
-  if (picked.proposed !== native.name)
-    return fail(`the save picker proposed "${picked.proposed}", the native runner "${native.name}"`);
+  if (picked.name !== native.name)
+    return fail(`the save picker proposed "${picked.name}", the native runner "${native.name}"`);
   if (!sameBytes(picked.bytes, native.bytes))
     return fail(`the page saved ${shown(picked.bytes)}, the native runner ${shown(native.bytes)}`);
 

@@ -5,13 +5,7 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
-
-async function pressFrameButton(page, caption) {
-  for (const button of await page.$$("[data-frame-button]"))
-    if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
-  throw new Error("no frame button " + caption);
-}
+const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
 
 async function loadTpOnW2(page) {
   await chooseMenu(page, "mnuW2");

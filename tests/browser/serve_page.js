@@ -77,6 +77,34 @@ async function chooseMenu(page, itemName) {
   await page.click(`[data-menu="${itemName}"]`);
 }
 
+// Presses one of the frame's buttons by its caption, as the operator clicks it.
+async function pressFrameButton(page, caption) {
+  for (const button of await page.$$("[data-frame-button]"))
+    if ((await button.evaluate((b) => b.textContent)) === caption) return button.click();
+  throw new Error("no frame button " + caption);
+}
+
+// A save picker answered with the name the page proposes, as a trainer who presses Save in it: what the
+// page writes to the chosen file is kept in window.savedFiles, one { name, bytes } for each file.
+async function keepSavedFiles(page) {
+  await page.evaluate(() => {
+    window.savedFiles = [];
+    window.showSaveFilePicker = async (options) => ({
+      name: options.suggestedName,
+      createWritable: async () => {
+        const parts = [];
+        return {
+          write: async (data) => { parts.push(data); },
+          close: async () => {
+            const bytes = new Uint8Array(await new Blob(parts).arrayBuffer());
+            window.savedFiles.push({ name: options.suggestedName, bytes: Array.from(bytes) });
+          },
+        };
+      },
+    });
+  });
+}
+
 // Runs one browser test on the page served from the folder named first on the command line (the web
 // build's page by default). The body gets the page and returns what passed, or nothing after a fail();
 // anything the page reported as an error fails the test too.
@@ -94,4 +122,4 @@ function runPageTest(body) {
   })().catch((error) => fail(error.stack || String(error)));
 }
 
-module.exports = { openPage, fail, chooseMenu, runPageTest };
+module.exports = { openPage, fail, chooseMenu, pressFrameButton, keepSavedFiles, runPageTest };
