@@ -17,6 +17,8 @@ int keyAsciiOf(int keyCode, int shift, const std::string& name) {
     const bool ctrl = shift & keys::kCtrlMask, alt = shift & keys::kAltMask;
     // Ctrl with a letter types a control character; Ctrl with Alt is AltGr, which types what it names.
     if (ctrl && !alt) return keyCode >= 'A' && keyCode <= 'Z' ? keyCode - 'A' + 1 : 0;
+    // Alt alone with a key is an access key of the menus, never a character.
+    if (alt && !ctrl) return 0;
     const unsigned char first = name.empty() ? 0 : static_cast<unsigned char>(name[0]);
     const std::size_t length = first < 0x80 ? 1 : (first >> 5) == 6 ? 2 : (first >> 4) == 14 ? 3 : 4;
     if (name.empty() || name.size() != length) return 0;  // a named key: "ArrowLeft", "F12" ...

@@ -77,6 +77,10 @@ EMSCRIPTEN_KEEPALIVE void lw_page_frame_button(int button) {
 EMSCRIPTEN_KEEPALIVE void lw_page_dialog_close() {
     if (view()) view()->dialogClosing();
 }
+// Called at once, not through the engine's waits: it decides from the page alone and never sleeps.
+EMSCRIPTEN_KEEPALIVE int lw_page_key_seen(int keyCode, int shift, int released) {
+    return view() ? static_cast<int>(view()->keySeen(keyCode, shift, released != 0)) : 0;
+}
 }
 
 int main() {

@@ -54,6 +54,12 @@ public:
     // Escape or the dialog's close box: the modal form is asked to unload, and may refuse.
     void dialogClosing();
 
+    // What becomes of a key before the element it is pressed on sees it.
+    enum class KeySeen { Passes = 0, Taken = 1, ChoosesItem = 2, ToEngine = 3 };
+    // A key pressed (or Alt released) anywhere in the page: the menubar's keys are taken here, and the
+    // frame's keys pressed outside a field go to the engine.
+    KeySeen keySeen(int keyCode, int shift, bool released);
+
 private:
     // A control of a shown form hosted as a page element over its face.
     struct Field {
@@ -71,6 +77,14 @@ private:
     void runInput(std::function<void()> input, const Control* on = nullptr);
     bool isLive(const Control* control) const;
     void buildMenus();
+    KeySeen menuKey(emscripten::val active, int keyCode);
+    void rememberFocusBeforeMenus();
+    void closeOpenMenus();
+    void focusTitle(emscripten::val title);
+    void focusMenubar();
+    void openMenu(emscripten::val title, bool atLastItem);
+    // The menus close and the engine's focused field, else what had the focus before them, takes it.
+    void closeMenusByKey();
     void buildPanel();
     // The controls of a form as page elements in the layer over its face; the main face and the dialog
     // host theirs alike.
@@ -122,6 +136,8 @@ private:
     std::size_t formLook_ = 0;
     std::map<const Control*, face::Rect> dollarSigns_;
     std::string menusShown_;
+    emscripten::val focusBeforeMenus_ = emscripten::val::null();
+    bool altAlone_ = false;
     std::vector<Control*> panelButtons_;
     std::string panelShown_;
 };

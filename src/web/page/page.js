@@ -48,7 +48,10 @@ var Module = {
     return target && target.hasAttribute && target.hasAttribute("data-field") ? Number(target.getAttribute("data-field")) : -1;
   }
   function closeMenus() {
-    document.querySelectorAll(".menu.open").forEach(function (menu) { menu.classList.remove("open"); });
+    document.querySelectorAll(".menu.open").forEach(function (menu) {
+      menu.classList.remove("open");
+      menu.firstElementChild.setAttribute("aria-expanded", "false");
+    });
   }
 
   document.addEventListener("keydown", function (event) {
@@ -134,6 +137,7 @@ var Module = {
       var menu = target.parentElement, open = menu.classList.contains("open");
       closeMenus();
       if (!open) menu.classList.add("open");
+      target.setAttribute("aria-expanded", String(!open));
       return;
     }
     if (target.hasAttribute("data-menu") && !target.disabled) {
