@@ -11,6 +11,7 @@
 
 #include "text/cp1252.h"
 #include "web/page_sleep.h"
+#include "web/page_status.h"
 
 namespace lw::web {
 
@@ -80,10 +81,6 @@ std::string stateOfKeptFiles() {
                 '\n';
         }
     return state;
-}
-
-void showStatus(const std::string& utf8) {
-    val::global("document").call<val>("getElementById", std::string("status")).set("textContent", utf8);
 }
 
 // "*.venturo" lets the picker show ".venturo" files first.

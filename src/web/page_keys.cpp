@@ -38,7 +38,8 @@ void PageView::key(int keyCode, int shift, const std::string& name) {
     }
     const int keyAscii = keyAsciiOf(keyCode, shift, name);
     if (keyAscii < 0) {
-        showStatus("That character cannot be kept in this program's files.");
+        showStatus(
+            "That character cannot be typed here: the program keeps its text in the Windows-1252 code page.");
         return;
     }
     if (keyCode == 0 && keyAscii == 0) {

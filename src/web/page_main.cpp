@@ -11,6 +11,7 @@
 #include "model/app_error.h"
 #include "shell/frame_window_model.h"
 #include "web/page_files.h"
+#include "web/page_status.h"
 #include "web/page_ui.h"
 #include "web/page_view.h"
 
@@ -104,7 +105,7 @@ int main() {
     try {
         lw::loadFrame();
     } catch (const lw::ProgramEnded&) {
-        page->view->showStatus("The program has ended. Reload the page to start it again.");
+        lw::web::showLastingStatus("The program has ended. Reload the page to start it again.");
     }
     lw::web::settleFiles();
     page->view->show();

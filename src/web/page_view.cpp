@@ -11,6 +11,7 @@
 #include "web/page_fields.h"
 #include "web/page_files.h"
 #include "web/page_sleep.h"
+#include "web/page_status.h"
 
 namespace lw::web {
 
@@ -33,7 +34,7 @@ void PageView::runInput(std::function<void()> input, const Control* on) {
     try {
         input();
     } catch (const ProgramEnded&) {
-        showStatus("The program has ended. Reload the page to start it again.");
+        showLastingStatus("The program has ended. Reload the page to start it again.");
     } catch (const std::exception& fault) {
         showStatus(std::string("The page could not carry out that input: ") + fault.what());
     }
@@ -94,9 +95,7 @@ void PageView::forget(Form& form) {
 
 bool PageView::isLoaded(const Form& form) const { return form.isLoaded(); }
 
-void PageView::showStatus(const std::string& utf8) {
-    document_.call<val>("getElementById", std::string("status")).set("textContent", utf8);
-}
+void PageView::showStatus(const std::string& utf8) { web::showStatus(utf8); }
 
 // The engine's own painter draws the face as the runner draws it, with the faces it measured the text
 // with; the canvas shows its pixels one for one.
@@ -166,7 +165,8 @@ void PageView::pasted(const std::string& utf8) {
     if (!program_.desktop.focus()) return;
     const std::optional<std::string> bytes = text::utf8ToCp1252(utf8);
     if (!bytes) {
-        showStatus("The pasted text holds characters this program cannot keep.");
+        showStatus(
+            "The clipboard text cannot be pasted: it holds characters outside the Windows-1252 code page.");
         return;
     }
     runInput([this, text = *bytes] { program_.desktop.paste(text); });

@@ -101,6 +101,8 @@ private:
     // The element that takes the page's focus when the engine's focus is on the field.
     emscripten::val focusTarget(const Field& field) const;
     void showDialog();
+    // The modal forms beneath the innermost, each on the screen under it as a dialog of its own.
+    void showOuterModals();
     void paintFace(Form& form, const std::string& canvasId);
     // Whether the shown form's face looks different from the last time it was asked: a key that only
     // edits a field, which the page hosts as an input, leaves the painted face as it is.
@@ -119,6 +121,11 @@ private:
     // The modal forms waiting for their answer, innermost last; the dialog hosts the innermost.
     std::vector<Form*> modals_;
     Form* modal_ = nullptr;
+    struct OuterModal {
+        Form* form = nullptr;
+        emscripten::val dialog = emscripten::val::undefined();
+    };
+    std::vector<OuterModal> outerModals_;
     std::vector<Field> fields_;
     struct WaitingInput {
         std::function<void()> input;

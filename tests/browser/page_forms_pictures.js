@@ -63,8 +63,9 @@ async function reload(page) {
   await page.waitForSelector("body[data-ready=true]", { timeout: 60000 });
 }
 
-// Plays the runner's commands in the page as the operator would: a click into the field, the keys that
-// select what it shows, and the paste of its value.
+// Plays the runner's commands in the page as the operator would: the field given the focus, the keys
+// that select what it shows, and the paste of its value. The runner's focus is a click that puts no
+// caret, so the field takes the focus as a Tab gives it, and the engine selects what it selects.
 async function fillInPage(page, entry) {
   await page.evaluate((name) => {
     const item = document.querySelector(`[data-menu="${name}"]`);
@@ -78,7 +79,9 @@ async function fillInPage(page, entry) {
     if (word === "focus") {
       const field = await page.$(`[data-name="${argument}" i]`);
       if (!field) throw new Error(`${entry.item}: the page shows no field ${argument}`);
-      await field.click();
+      await field.focus();
+      await page.waitForFunction((name) => document.activeElement.getAttribute("data-name") === name &&
+                                   new Promise((settled) => setTimeout(() => settled(true), 0)), {}, argument);
     } else if (word === "key") {
       const keys = argument.split("+");
       for (const key of keys.slice(0, -1)) await page.keyboard.down(key);

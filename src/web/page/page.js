@@ -57,6 +57,7 @@ var Module = {
   document.addEventListener("keydown", function (event) {
     if (fieldOf(event.target) < 0) return;  // a button, a check box, a list take their keys as clicks
     if (reached === event.target) handOverReached();
+    if (released === event.target) handOverSelection();
     if (event.isComposing || event.key === "Process" || event.key === "Dead") return;
     // Ctrl+V brings its text with the paste that follows.
     if (event.ctrlKey && !event.altKey && event.keyCode === 86) return;
@@ -66,6 +67,7 @@ var Module = {
 
   document.addEventListener("paste", function (event) {
     if (fieldOf(event.target) < 0) return;
+    if (released === event.target) handOverSelection();
     event.preventDefault();
     call("lw_page_paste", ["string"], [event.clipboardData.getData("text")]);
   }, true);
@@ -95,10 +97,19 @@ var Module = {
     setTimeout(handOverReached, 0);
   });
 
+  // A click into selected text puts the caret only once the button is up, after the handlers of
+  // mouseup: the selection goes to the engine once it has settled, or before a key typed first.
+  var released = null;
+  function handOverSelection() {
+    var target = released;
+    released = null;
+    if (target && document.activeElement === target)
+      Module._lw_page_field_selected(fieldOf(target), target.selectionStart, target.selectionEnd);
+  }
   document.addEventListener("mouseup", function (event) {
-    var field = fieldOf(event.target);
-    if (field >= 0)
-      Module._lw_page_field_selected(field, event.target.selectionStart, event.target.selectionEnd);
+    if (fieldOf(event.target) < 0) return;
+    released = event.target;
+    setTimeout(handOverSelection, 0);
   }, true);
 
   // A click on the face, with the button pressed: a license takes a portrait on the left or right.
