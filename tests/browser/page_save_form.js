@@ -5,47 +5,18 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { fail, chooseMenu, keepSavedFiles, pressFrameButton, runPageTest } = require("./serve_page");
+const { fail, keepSavedFiles, runPageTest } = require("./serve_page");
+const { nextSaved, openFile, saveSmallW2, saveAgain } = require("./saved_w2");
 
 const screenshot = process.argv[3];
-const at = (key) => `#fields [data-name="${key}"]`;
 const inDialog = (key) => `#modal-fields [data-name="${key}"]`;
-
-async function nextSaved(page, count) {
-  await page.waitForFunction((count) => window.savedFiles.length >= count, { timeout: 10000 }, count).catch(() => null);
-  return page.evaluate((count) => window.savedFiles[count - 1], count);
-}
-
-async function openFile(page, file) {
-  const [chooser] = await Promise.all([page.waitForFileChooser({ timeout: 10000 }), pressFrameButton(page, "Open")]);
-  await chooser.accept([file]);
-  await page.waitForFunction(() => {
-    const name = document.querySelector('#fields [data-name="Text1(13)"]');
-    return name && name.value === "JOHN DOE";
-  }, { timeout: 10000 }).catch(() => null);
-}
-
-async function saveAgain(page) {
-  await pressFrameButton(page, "Save");
-  await page.waitForFunction(() => document.getElementById("modal").open, { timeout: 10000 }).catch(() => null);
-  return page.evaluate(() => document.getElementById("modal").open && document.getElementById("modal-title").textContent);
-}
 
 runPageTest(async (page) => {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-save-form-"));
   await keepSavedFiles(page);
-  await chooseMenu(page, "mnuW2");
-  await page.waitForSelector(at("Text1(13)"));
-  for (const [key, text] of [["Text1(13)", "JOHN DOE"], ["Text1(0)", "123456789"]]) {
-    await page.click(at(key));
-    await page.keyboard.type(text);
-    await page.keyboard.press("Tab");
-  }
-  await pressFrameButton(page, "Save");
-  const first = await nextSaved(page, 1);
+  const first = await saveSmallW2(page, folder);
   if (!first) return fail("the W-2 was not saved");
-  const file = path.join(folder, first.name);
-  fs.writeFileSync(file, Buffer.from(first.bytes));
+  const file = first.file;
 
   // The next sequence number: the opened file stands alone in its folder, so 001 follows 000.
   await openFile(page, file);

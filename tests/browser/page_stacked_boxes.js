@@ -5,10 +5,10 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { fail, chooseMenu, pressFrameButton, keepSavedFiles, runPageTest } = require("./serve_page");
+const { fail, keepSavedFiles, runPageTest } = require("./serve_page");
+const { openFile, saveSmallW2, saveAgain } = require("./saved_w2");
 
 const screenshot = process.argv[3];
-const at = (key) => `#fields [data-name="${key}"]`;
 const inDialog = (key) => `#modal-fields [data-name="${key}"]`;
 
 // The dialogs on the screen, the innermost (the page's own dialog) last: each one's title and whether
@@ -25,29 +25,10 @@ function openDialogs(page) {
 runPageTest(async (page) => {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-stacked-"));
   await keepSavedFiles(page);
-  await chooseMenu(page, "mnuW2");
-  await page.waitForSelector(at("Text1(13)"));
-  for (const [key, text] of [["Text1(13)", "JOHN DOE"], ["Text1(0)", "123456789"]]) {
-    await page.click(at(key));
-    await page.keyboard.type(text);
-    await page.keyboard.press("Tab");
-  }
-  await pressFrameButton(page, "Save");
-  await page.waitForFunction(() => window.savedFiles.length === 1, { timeout: 10000 }).catch(() => null);
-  const saved = await page.evaluate(() => window.savedFiles[0]);
+  const saved = await saveSmallW2(page, folder);
   if (!saved) return fail("the W-2 was not saved");
-  const file = path.join(folder, saved.name);
-  fs.writeFileSync(file, Buffer.from(saved.bytes));
-  const [chooser] = await Promise.all([page.waitForFileChooser({ timeout: 10000 }), pressFrameButton(page, "Open")]);
-  await chooser.accept([file]);
-  await page.waitForFunction(() => {
-    const name = document.querySelector('#fields [data-name="Text1(13)"]');
-    return name && name.value === "JOHN DOE";
-  },
-                             { timeout: 10000 }).catch(() => null);
-  await pressFrameButton(page, "Save");
-  await page.waitForFunction(() => document.getElementById("modal").open, { timeout: 10000 }).catch(() => null);
-  const form = await page.evaluate(() => document.getElementById("modal").open && document.getElementById("modal-title").textContent);
+  await openFile(page, saved.file);
+  const form = await saveAgain(page);
   if (form !== "File Already Exists") return fail(`Save of the opened file showed "${form}"`);
   const proposed = await page.$eval(inDialog("Text1"), (field) => field.value);
 
