@@ -4,9 +4,10 @@
 // compared with it. Outside the fields both were drawn from the engine's description, by two font
 // rasterizers, and agree square by square; a field's border ring is the page's own and agrees pixel by
 // pixel; inside a field the browser writes the text with its own glyphs, and squares agree more loosely.
-// A field whose text stands whole pixels off is named. The form is saved too, and the difference from
-// ledgerwick-render's picture of the saved document is told without being judged: that is the printed
-// look (white fields and boxes, no status line, cut to the document), where the page shows the screen's.
+// A field whose text stands whole pixels off is named. The form is saved too, and held to
+// ledgerwick-render's picture of the saved document: that is the printed look (white fields and boxes,
+// no status line, cut to the document), where the page shows the screen's, so only its width and what
+// lies outside the fields must agree; the fields are told without being judged.
 //   node page_forms_pictures.js [PAGE_FOLDER] [NATIVE_BUILD] [PICTURE_FOLDER]
 // NATIVE_BUILD holds bin/ledgerwick-script and bin/ledgerwick-render; PICTURE_FOLDER, when given, keeps
 // each form's page, native and difference pictures. LW_FORMS names some forms alone, LW_FIELDS how many
@@ -278,13 +279,14 @@ async function compareForm(page, entry, work) {
     `outside the fields ${percent(r.outside)}; worst border ${r.border.name || "-"} ${percent(r.border.share)}; ` +
     `worst inside ${r.inside.name || "-"} ${percent(r.inside.share)}` +
     (r.moved.length ? `; text moved in ${r.moved.join(", ")}` : "");
-  // The printed look (white fields and boxes, no status line, cut to the document) is told, not judged:
-  // the page shows the screen's look.
+  // Of the printed look (white fields and boxes, no status line, cut to the document) only the width and
+  // what lies outside the fields are judged: the page shows the screen's look.
   for (const entry of results) {
-    const r = entry.snapshot;
-    const line = `${entry.item}: ${describe(r)}` + (entry.render ? `\n    printed look: ${describe(entry.render)}` : "");
+    const r = entry.snapshot, printed = entry.render;
+    const line = `${entry.item}: ${describe(r)}` + (printed ? `\n    printed look: ${describe(printed)}` : "");
     const bad = r.shownSize.join() !== r.drawnSize.join() || r.outside > kOutsideSquares || r.border.share > kBorderPixels ||
-                r.inside.share > kInsideSquares;
+                r.inside.share > kInsideSquares ||
+                (printed && (printed.shownSize[0] !== printed.drawnSize[0] || printed.outside > kOutsideSquares));
     if (bad) fail(line);
     else console.log("  " + line);
   }
