@@ -106,12 +106,12 @@ async function keepSavedFiles(page) {
 }
 
 // Runs one browser test on the page served from the folder named first on the command line (the web
-// build's page by default). The body gets the page and returns what passed, or nothing after a fail();
+// build's page by default), at the address's query when one is given. The body gets the page and returns what passed, or nothing after a fail();
 // anything the page reported as an error fails the test too.
-function runPageTest(body) {
+function runPageTest(body, query = "") {
   const folder = path.resolve(process.argv[2] || path.join(__dirname, "../../build-web/web"));
   (async () => {
-    const { page, problems, close } = await openPage(folder);
+    const { page, problems, close } = await openPage(folder, query);
     try {
       const passed = await body(page);
       if (problems.length) return fail("the page reported: " + problems.join("; "));
