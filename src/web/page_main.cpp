@@ -9,9 +9,9 @@
 #include "forms/register_forms.h"
 #include "headless/headless_platform.h"
 #include "model/app_error.h"
+#include "text/case.h"
 #include "shell/frame_window_model.h"
 #include "web/page_files.h"
-#include "web/page_status.h"
 #include "web/page_ui.h"
 #include "web/page_view.h"
 
@@ -33,6 +33,26 @@ std::string editionOfAddress() {
             std::string::npos;
     return "Ledgerwick_" + (plain ? edition : std::string("Venturo"));
 }
+
+// The editions whose settings the page keeps, by the name their folder of user INF files has.
+std::string keptEditionOf(const std::string& edition) {
+    for (const char* kept : {"Venturo", "OthAgcy"})
+        if (lw::text::equalsNoCase(edition, std::string("Ledgerwick_") + kept)) return kept;
+    return {};
+}
+
+// A tab of the page holds its edition's lock of the browser for as long as it is open, so that another
+// tab of the same edition finds this program's earlier instance running, as a second start on the desktop
+// does, and the two never write one edition's settings over each other. True when another tab holds it.
+EM_ASYNC_JS(int, earlierTabHolds, (const char* lockName), {
+    if (!navigator.locks) return 0;
+    return await new Promise(function(answer) {
+        navigator.locks.request(UTF8ToString(lockName), {ifAvailable : true}, function(lock) {
+            answer(lock ? 0 : 1);
+            if (lock) return new Promise(function() {});
+        });
+    });
+});
 
 struct Page {
     lw::headless::Session session;
@@ -93,10 +113,13 @@ int main() {
     page->session.executableFolder = kShippedFiles;
     // The browser's print dialog stands for the printers of a machine.
     page->session.printers = {"The browser's print dialog"};
-    // What the program keeps for its user (the user INF file of each edition, the taxpayer store in it)
-    // lives in the browser's storage; the shipped files are installed anew beside it.
-    lw::web::loadKeptFolders({std::string(kRoot) + "/LedgerwickInfFiles/Venturo",
-                              std::string(kRoot) + "/LedgerwickInfFiles/OthAgcy"});
+    // What the program keeps for its user (the edition's user INF file, the taxpayer store in it) lives
+    // in the browser's storage; the shipped files are installed anew beside it.
+    const std::string kept = keptEditionOf(page->session.edition);
+    if (!kept.empty()) {
+        page->session.running = earlierTabHolds(("Ledgerwick " + kept).c_str()) != 0;
+        if (!page->session.running) lw::web::loadKeptFolders({std::string(kRoot) + "/LedgerwickInfFiles/" + kept});
+    }
     page->platform = std::make_unique<lw::headless::HeadlessPlatform>(page->session);
     page->program = std::make_unique<lw::Program>(page->ui, *page->platform);
     page->view = std::make_unique<lw::web::PageView>(*page->program);
@@ -105,7 +128,7 @@ int main() {
     try {
         lw::loadFrame();
     } catch (const lw::ProgramEnded&) {
-        lw::web::showLastingStatus("The program has ended. Reload the page to start it again.");
+        page->view->programEnded();
     }
     lw::web::settleFiles();
     page->view->show();

@@ -30,11 +30,11 @@ void PageView::runInput(std::function<void()> input, const Control* on) {
         waitingInput_.push_back({std::move(input), on});
         return;
     }
-    if (on && !isLive(on)) return;
+    if (ended_ || (on && !isLive(on))) return;
     try {
         input();
     } catch (const ProgramEnded&) {
-        showLastingStatus("The program has ended. Reload the page to start it again.");
+        programEnded();
     } catch (const std::exception& fault) {
         showStatus(std::string("The page could not carry out that input: ") + fault.what());
     }
@@ -59,7 +59,23 @@ bool PageView::isLive(const Control* control) const {
     return false;
 }
 
+void PageView::programEnded() {
+    ended_ = true;
+    showLastingStatus("The program has ended. Reload the page to start it again.");
+}
+
 void PageView::show() {
+    if (ended_) {
+        // Nothing of the program is left on the page: its forms, menus and buttons went with it.
+        for (const char* part : {"menus", "panel", "form-title"})
+            document_.call<val>("getElementById", std::string(part)).set("textContent", std::string());
+        if (shown_) clearFields(*shown_);
+        shown_ = nullptr;
+        val canvas = document_.call<val>("getElementById", std::string("face"));
+        canvas.set("width", 0);
+        canvas.set("height", 0);
+        return;
+    }
     buildMenus();
     buildPanel();
     if (Form* frame = program_.desktop.frame()) document_.set("title", text::cp1252ToUtf8(frame->caption));

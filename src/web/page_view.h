@@ -26,6 +26,8 @@ public:
 
     // Shows the engine's state: menus, the form on the screen, its fields and their focus.
     void show();
+    // The program has ended: the page shows only that, and takes no more input.
+    void programEnded();
     // The engine is about to drop a form: nothing of the page may point at it any more.
     void forget(Form& form);
     // Shows a modal form as a dialog over the page, on top of any shown before it.
@@ -114,6 +116,7 @@ private:
     Control* usableField(int field) const;
 
     Program& program_;
+    bool ended_ = false;
     headless::TrueTypeFaces faces_;
     headless::PictureFiles pictures_;
     emscripten::val document_;
