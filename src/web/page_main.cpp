@@ -9,8 +9,8 @@
 #include "forms/register_forms.h"
 #include "headless/headless_platform.h"
 #include "model/app_error.h"
-#include "text/case.h"
 #include "shell/frame_window_model.h"
+#include "text/case.h"
 #include "web/page_files.h"
 #include "web/page_ui.h"
 #include "web/page_view.h"
@@ -47,10 +47,11 @@ std::string keptEditionOf(const std::string& edition) {
 EM_ASYNC_JS(int, earlierTabHolds, (const char* lockName), {
     if (!navigator.locks) return 0;
     return await new Promise(function(answer) {
-        navigator.locks.request(UTF8ToString(lockName), {ifAvailable : true}, function(lock) {
-            answer(lock ? 0 : 1);
-            if (lock) return new Promise(function() {});
-        });
+        navigator.locks.request(
+            UTF8ToString(lockName), {ifAvailable : true}, function(lock) {
+                answer(lock ? 0 : 1);
+                if (lock) return new Promise(function(){});
+            });
     });
 });
 
@@ -118,7 +119,8 @@ int main() {
     const std::string kept = keptEditionOf(page->session.edition);
     if (!kept.empty()) {
         page->session.running = earlierTabHolds(("Ledgerwick " + kept).c_str()) != 0;
-        if (!page->session.running) lw::web::loadKeptFolders({std::string(kRoot) + "/LedgerwickInfFiles/" + kept});
+        if (!page->session.running)
+            lw::web::loadKeptFolders({std::string(kRoot) + "/LedgerwickInfFiles/" + kept});
     }
     page->platform = std::make_unique<lw::headless::HeadlessPlatform>(page->session);
     page->program = std::make_unique<lw::Program>(page->ui, *page->platform);
