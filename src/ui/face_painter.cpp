@@ -1,7 +1,6 @@
 #include "ui/face_painter.h"
 
 #include <QFileInfo>
-#include <QHash>
 #include <QIcon>
 #include <QImage>
 #include <QPolygon>
@@ -35,17 +34,13 @@ QPen strokePen(Color color, int width, face::StrokeStyle style, Qt::PenCapStyle 
     return pen;
 }
 
-// Pictures are read once per path; a file that cannot be read is looked for again next time.
+// A picture is read whenever a face that shows it is painted: painted faces are kept, so that is seldom,
+// and the sixteen portraits of the license's chooser are not held a second time beside them.
 QImage pictureFile(const std::string& path) {
-    static QHash<QString, QImage> cache;
     if (path.empty()) return {};
     const QString file = toFilePath(path);
-    auto it = cache.constFind(file);
-    if (it != cache.constEnd()) return *it;
     if (!QFileInfo(file).isFile()) return {};
-    QImage image(file);
-    if (!image.isNull()) cache.insert(file, image);
-    return image;
+    return QImage(file);
 }
 
 struct ItemPainter {
