@@ -20,14 +20,12 @@ using emscripten::val;
 
 namespace {
 
-std::string px(int pixels) { return std::to_string(pixels) + "px"; }
-
 void placeAt(val element, const face::Rect& rect) {
     val style = element["style"];
-    style.set("left", px(rect.x));
-    style.set("top", px(rect.y));
-    style.set("width", px(rect.width));
-    style.set("height", px(rect.height));
+    style.set("left", cssPixels(rect.x));
+    style.set("top", cssPixels(rect.y));
+    style.set("width", cssPixels(rect.width));
+    style.set("height", cssPixels(rect.height));
 }
 
 // The controls the page hosts as elements of their own; shapes, lines and frames are only painted, and

@@ -22,8 +22,6 @@ using emscripten::val;
 
 namespace {
 
-std::string px(int pixels) { return std::to_string(pixels) + "px"; }
-
 // A field of the page holds each line end as one "\n" where the engine's text has "\r\n": places in
 // the text are counted apart by the line ends before them.
 std::string withBrowserLineEnds(const std::string& text) {
@@ -60,6 +58,8 @@ std::string cssFamily(const std::string& faceName) {
     if (name == "courier new") return "LwMono";
     return "LwDejaVu";
 }
+
+std::string cssPixels(int pixels) { return std::to_string(pixels) + "px"; }
 
 std::string cssColor(Color color) {
     char name[8];
@@ -123,9 +123,9 @@ void PageView::placeOneLine(const Control& control, const face::Rect& rect, emsc
     const int below = rect.height - 2 * border - line.ascent - line.descent - above;
     if (line.ascent <= 0 || above < 0 || below < 0)
         return;  // a box lower than its line: the browser's middle
-    style.set("lineHeight", px(line.ascent + line.descent));
-    style.set("paddingTop", px(above));
-    style.set("paddingBottom", px(below));
+    style.set("lineHeight", cssPixels(line.ascent + line.descent));
+    style.set("paddingTop", cssPixels(above));
+    style.set("paddingBottom", cssPixels(below));
 }
 
 // The elements of a form that is no longer shown go; the others keep their elements, numbered anew.
@@ -153,7 +153,7 @@ void PageView::placeTextBox(const Control& control, const face::Rect& rect, val 
         // The engine writes a box's lines one line spacing apart, from a pixel below its border.
         const double spacing = faces_.metrics(face::designFace(control)).lineSpacing * face::kScreenScale;
         style.set("lineHeight", std::to_string(spacing) + "px");
-        style.set("paddingTop", px(1));
+        style.set("paddingTop", cssPixels(1));
     } else {
         placeOneLine(control, rect, style);
     }

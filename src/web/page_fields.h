@@ -16,6 +16,8 @@ void paintButtons(const Form& form, headless::RasterImage& image, headless::True
 // the engine writes its text (a text that shrinks to fit is smaller than designed), or as designed.
 std::string cssFont(const Control& control, double points = 0);
 std::string cssColor(Color color);
+// A length of the page in whole pixels, as CSS writes it.
+std::string cssPixels(int pixels);
 // The family the page loads from the font file the engine measures a face of that name with.
 std::string cssFamily(const std::string& faceName);
 

@@ -12,6 +12,7 @@
 #include "shell/frame_window_model.h"
 #include "text/case.h"
 #include "web/page_files.h"
+#include "web/page_status.h"
 #include "web/page_ui.h"
 #include "web/page_view.h"
 
@@ -102,6 +103,9 @@ EMSCRIPTEN_KEEPALIVE void lw_page_dialog_close() {
 EMSCRIPTEN_KEEPALIVE int lw_page_key_seen(int keyCode, int shift, int released) {
     return view() ? static_cast<int>(view()->keySeen(keyCode, shift, released != 0)) : 0;
 }
+// What the page's own glue has to tell goes to the status line as the engine's words do, and clears
+// as they do; it never sleeps either.
+EMSCRIPTEN_KEEPALIVE void lw_page_status(const char* utf8) { lw::web::showStatus(utf8); }
 }
 
 int main() {

@@ -46,5 +46,14 @@ runPageTest(async (page) => {
   if (clipped.width !== expected.width || clipped.height !== expected.height)
     return fail(`the clipboard holds a ${clipped.width}x${clipped.height} picture, the native runner's is ` +
                 `${expected.width}x${expected.height}`);
-  return `the clipboard holds a ${clipped.width}x${clipped.height} PNG of the W-2, as the native runner's`;
+
+  // A browser that puts no pictures on its clipboard: the status line says so, as the program's words.
+  await page.evaluate(() => { delete window.ClipboardItem; });
+  await pressFrameButton(page, "Clip");
+  const told = await page.waitForFunction(() => document.querySelector("#status").textContent,
+                                          { timeout: 10000 }).then((handle) => handle.jsonValue()).catch(() => "");
+  if (told !== "This browser gives the page no clipboard for pictures.")
+    return fail(`without a clipboard for pictures the status line says "${told}"`);
+  return `the clipboard holds a ${clipped.width}x${clipped.height} PNG of the W-2, as the native runner's; ` +
+         "a browser without one is told so";
 });

@@ -13,6 +13,8 @@ var LwFiles = (function () {
   var largestFile = 16 * 1024 * 1024;
 
   function answerWith(value) { files.answer = value; }
+  // Tells the trainer in the status line, as the program tells its own words.
+  function tell(message) { Module.ccall("lw_page_status", null, ["string"], [message]); }
 
   // Open: the browser's file picker; the chosen file's name and bytes, or null when none is chosen.
   files.pick = function (accept) {
@@ -25,8 +27,7 @@ var LwFiles = (function () {
       if (!file) return answerWith(null);
       // A form file is a line; a file of many megabytes is none, and is not copied into the program.
       if (file.size > largestFile) {
-        document.getElementById("status").textContent =
-          "The file " + file.name + " is too large to be a form file: it was not opened.";
+        tell("The file " + file.name + " is too large to be a form file: it was not opened.");
         return answerWith(null);
       }
       file.arrayBuffer().then(function (bytes) {
@@ -63,7 +64,7 @@ var LwFiles = (function () {
     return handle.createWritable().then(function (writable) {
       return writable.write(blob).then(function () { return writable.close(); });
     }).catch(function (error) {
-      document.getElementById("status").textContent = "The file " + name + " could not be written: " + error.message;
+      tell("The file " + name + " could not be written: " + error.message);
     });
   }
 
@@ -107,11 +108,11 @@ var LwFiles = (function () {
   files.clip = function (bytes) {
     var blob = new Blob([bytes], { type: "image/png" });
     if (!navigator.clipboard || typeof ClipboardItem !== "function") {
-      document.getElementById("status").textContent = "This browser gives the page no clipboard for pictures.";
+      tell("This browser gives the page no clipboard for pictures.");
       return;
     }
     navigator.clipboard.write([new ClipboardItem({ "image/png": blob })]).catch(function (error) {
-      document.getElementById("status").textContent = "The picture could not be put on the clipboard: " + error.message;
+      tell("The picture could not be put on the clipboard: " + error.message);
     });
   };
 
