@@ -23,7 +23,8 @@ public:
 
 // The disk in use: the machine's own unless a test has put another in its place.
 Disk& disk();
-// Puts another disk in place (tests); nullptr brings the machine's own back.
+// Puts another disk in place (tests, and the page, whose files live in the browser's memory); nullptr
+// brings the machine's own back.
 void useDisk(Disk* replacement);
 
 }  // namespace lw::store

@@ -30,9 +30,13 @@ std::map<std::string, std::string>& openedFiles() {
     return opened;
 }
 
-std::string bytesOf(const std::string& path) {
+// The file's bytes; nothing when it cannot be read, so that no empty file goes out in its place.
+std::optional<std::string> bytesOf(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    if (!in) return std::nullopt;
+    std::string bytes(std::istreambuf_iterator<char>(in), {});
+    if (in.bad()) return std::nullopt;
+    return bytes;
 }
 
 val files() { return val::global("LwFiles"); }
@@ -145,7 +149,13 @@ void deliverWrittenFiles() {
     for (fs::directory_iterator it(kTransferFolder, ec), end; !ec && it != end; it.increment(ec))
         if (it->is_regular_file(ec)) written.push_back(it->path().string());
     for (const std::string& path : written) {
-        const std::string bytes = bytesOf(path);
+        const std::optional<std::string> read = bytesOf(path);
+        if (!read) {
+            showStatus("The file " + text::cp1252ToUtf8(fs::path(path).filename().string()) +
+                       " could not be handed to the browser.");
+            continue;
+        }
+        const std::string& bytes = *read;
         auto opened = openedFiles().find(path);
         if (opened != openedFiles().end()) {
             if (opened->second == bytes) continue;

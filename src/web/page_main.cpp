@@ -11,6 +11,7 @@
 #include "model/app_error.h"
 #include "shell/frame_window_model.h"
 #include "text/case.h"
+#include "web/page_disk.h"
 #include "web/page_files.h"
 #include "web/page_status.h"
 #include "web/page_ui.h"
@@ -57,6 +58,7 @@ EM_ASYNC_JS(int, earlierTabHolds, (const char* lockName), {
 });
 
 struct Page {
+    lw::web::PageDisk disk;
     lw::headless::Session session;
     lw::web::PageUi ui;
     std::unique_ptr<lw::headless::HeadlessPlatform> platform;
@@ -110,6 +112,7 @@ EMSCRIPTEN_KEEPALIVE void lw_page_status(const char* utf8) { lw::web::showStatus
 
 int main() {
     page = new Page;  // lives as long as the page
+    lw::store::useDisk(&page->disk);
     page->session.out = &std::cout;
     page->session.root = kRoot;
     page->session.edition = editionOfAddress();

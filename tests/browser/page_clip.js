@@ -4,18 +4,12 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { execFileSync } = require("child_process");
 const { fail, chooseMenu, pressFrameButton, runPageTest } = require("./serve_page");
-
-const nativeRunner = process.env.LW_NATIVE_SCRIPT || path.join(__dirname, "../../build/bin/ledgerwick-script");
+const { nativeRunner, runNative } = require("./native_runner");
 
 function nativeClipSize() {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-clip-"));
-  const script = path.join(folder, "clip.lws");
-  fs.writeFileSync(script, "start\nmenu mnuW2\nbutton Clip\n");
-  const output = execFileSync(nativeRunner, [script], {
-    encoding: "utf8", env: { ...process.env, ASAN_OPTIONS: "detect_leaks=0", QT_QPA_PLATFORM: "offscreen" },
-  });
+  const output = runNative(folder, ["menu mnuW2", "button Clip"], "clip.lws");
   fs.rmSync(folder, { recursive: true, force: true });
   const size = /clipboard picture of TF_W2 (\d+)x(\d+)/.exec(output);
   if (!size) throw new Error("the native runner put no picture on the clipboard:\n" + output);

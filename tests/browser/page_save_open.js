@@ -6,10 +6,9 @@
 const fs = require("fs");
 const os = require("os");
 const path = require("path");
-const { execFileSync } = require("child_process");
 const { fail, chooseMenu, keepSavedFiles, pressFrameButton, runPageTest } = require("./serve_page");
+const { nativeRunner, runNative, nativeSave } = require("./native_runner");
 
-const nativeRunner = process.env.LW_NATIVE_SCRIPT || path.join(__dirname, "../../build/bin/ledgerwick-script");
 
 // What the trainer types: the page's field, the native runner's name of the same field, the text.
 const typed = [
@@ -20,18 +19,10 @@ const typed = [
 ];
 
 // The same document saved by the native runner: its proposed name and its bytes.
-function nativeSave(folder) {
-  const script = [`root ${JSON.stringify(path.join(folder, "root"))}`, "user Trainer", "start", "menu mnuW2"];
-  for (const [, control, text] of typed) script.push(`focus ${control}`, `type ${JSON.stringify(text)}`, "key Tab");
-  script.push(`file proposed ${JSON.stringify(folder)}`, "button Save");
-  const scriptFile = path.join(folder, "save.lws");
-  fs.writeFileSync(scriptFile, script.join("\n") + "\n");
-  const output = execFileSync(nativeRunner, [scriptFile], {
-    encoding: "utf8", env: { ...process.env, ASAN_OPTIONS: "detect_leaks=0", QT_QPA_PLATFORM: "offscreen" },
-  });
-  const proposed = /proposing "([^"]+)"/.exec(output);
-  if (!proposed) throw new Error("the native runner proposed no name:\n" + output);
-  return { name: proposed[1], bytes: fs.readFileSync(path.join(folder, proposed[1])) };
+function nativeSaveOfTyped(folder) {
+  const commands = [];
+  for (const [, control, text] of typed) commands.push(`focus ${control}`, `type ${JSON.stringify(text)}`, "key Tab");
+  return nativeSave(folder, ["menu mnuW2", ...commands]);
 }
 
 async function fillW2(page) {
@@ -47,14 +38,8 @@ async function fillW2(page) {
 // The native runner opens its file, types into box d and saves it over itself.
 function nativeResave(folder, name) {
   const file = path.join(folder, name);
-  const script = [`root ${JSON.stringify(path.join(folder, "root"))}`, "user Trainer", "start",
-                  `file ${JSON.stringify(file)}`, "button Open", "focus Text1(11)", 'type "CN77"', "key Tab",
-                  "filesave save", "button Save"];
-  const scriptFile = path.join(folder, "resave.lws");
-  fs.writeFileSync(scriptFile, script.join("\n") + "\n");
-  execFileSync(nativeRunner, [scriptFile], {
-    encoding: "utf8", env: { ...process.env, ASAN_OPTIONS: "detect_leaks=0", QT_QPA_PLATFORM: "offscreen" },
-  });
+  runNative(folder, [`file ${JSON.stringify(file)}`, "button Open", "focus Text1(11)", 'type "CN77"', "key Tab",
+                     "filesave save", "button Save"], "resave.lws");
   return fs.readFileSync(file);
 }
 
@@ -69,7 +54,7 @@ function shown(bytes) {
 runPageTest(async (page) => {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), "lw-page-save-"));
   if (!fs.existsSync(nativeRunner)) return fail("no native runner at " + nativeRunner + " (LW_NATIVE_SCRIPT)");
-  const native = nativeSave(folder);
+  const native = nativeSaveOfTyped(folder);
 
   // A browser with a save picker, answered with the name it proposes.
   await keepSavedFiles(page);
