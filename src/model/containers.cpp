@@ -22,16 +22,27 @@ int originTop(const Control& c) {
 int formLeft(const Control& c) { return c.left + originLeft(c); }
 int formTop(const Control& c) { return c.top + originTop(c); }
 
-bool isShown(const Control& c) {
+namespace {
+
+// Whether the control and its containers show; with ownPageTaken, the page it lies on of the innermost
+// tab control counts as on show.
+bool shows(const Control& c, bool ownPageTaken) {
     const Control* inner = &c;
     if (!inner->visible) return false;
     for (const Control* up = c.container; up; inner = up, up = up->container) {
         if (!up->visible) return false;
-        if (up->kind == ControlKind::TabControl && inner->page >= 0 && inner->page != tabOf(*up))
-            return false;
+        if (up->kind != ControlKind::TabControl) continue;
+        if (!ownPageTaken && inner->page >= 0 && inner->page != tabOf(*up)) return false;
+        ownPageTaken = false;
     }
     return true;
 }
+
+}  // namespace
+
+bool isShown(const Control& c) { return shows(c, false); }
+
+bool isShownOnItsPage(const Control& c) { return shows(c, true); }
 
 int pageOf(const Control& c) {
     for (const Control* inner = &c; inner->container; inner = inner->container)

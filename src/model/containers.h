@@ -19,6 +19,9 @@ int originTop(const Control& c);
 // False when the control or one of its containers is hidden, or lies on a page that is not on show.
 // Visible stays as the logic set it: a field on a hidden page still takes the focus by Tab.
 bool isShown(const Control& c);
+// As isShown, but as if the page of the innermost tab control the control lies on were on show: what
+// the control shows once its page is turned to.
+bool isShownOnItsPage(const Control& c);
 
 // The page of a tab control that the control lies on, however deep in panels; -1 off any tab control.
 // tabsOf gives that tab control, or nullptr.

@@ -78,6 +78,7 @@ void FormView::detach() {
     paintedAt_.clear();
     editors_.clear();
     controlOfWidget_.clear();
+    pageLayers_.clear();
     hide();
 }
 
@@ -107,14 +108,14 @@ QPointer<QWidget>& shelter() {
 
 }  // namespace
 
-QLineEdit* FormView::takeIdleField() {
+QLineEdit* FormView::takeIdleField(QWidget* host) {
     auto& idle = idleFields();
     while (!idle.empty()) {
         QPointer<QLineEdit> field = idle.back();
         idle.pop_back();
         if (!field) continue;
         // A new parent hides the field; the mirror shows it where its control is shown.
-        field->setParent(this);
+        field->setParent(host);
         return field;
     }
     return nullptr;
@@ -167,7 +168,7 @@ QWidget* FormView::createEditor(Control& control) {
 }
 
 QWidget* FormView::createLinesEditor(Control& control) {
-    auto* box = new LinesEditor(this);
+    auto* box = new LinesEditor(hostOf(control));
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
@@ -181,9 +182,9 @@ QWidget* FormView::createLinesEditor(Control& control) {
 }
 
 QWidget* FormView::createLineField(Control& control) {
-    QLineEdit* line = takeIdleField();
+    QLineEdit* line = takeIdleField(hostOf(control));
     if (!line) {
-        line = new QLineEdit(this);
+        line = new QLineEdit(hostOf(control));
         if (QStyle* style = FieldPanelStyle::forFields()) line->setStyle(style);
         line->setAcceptDrops(false);
         line->setDragEnabled(false);
@@ -194,7 +195,7 @@ QWidget* FormView::createLineField(Control& control) {
 }
 
 QWidget* FormView::createComboBox(Control& control) {
-    auto* combo = new QComboBox(this);
+    auto* combo = new QComboBox(hostOf(control));
     connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, &control](int row) {
         Desktop* on = desktop();
         if (!on || row < 0 || row >= static_cast<int>(control.items.size())) return;
@@ -207,7 +208,7 @@ QWidget* FormView::createComboBox(Control& control) {
 // A button with a picture shows it above its caption.
 QWidget* FormView::createCommandButton(Control& control) {
     if (!control.picture.empty()) {
-        auto* tool = new QToolButton(this);
+        auto* tool = new QToolButton(hostOf(control));
         tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         tool->setIcon(commandIcon(control.picture));
         connect(tool, &QToolButton::clicked, this, [this, &control] {
@@ -215,7 +216,7 @@ QWidget* FormView::createCommandButton(Control& control) {
         });
         return tool;
     }
-    auto* push = new QPushButton(this);
+    auto* push = new QPushButton(hostOf(control));
     push->setAutoDefault(false);
     connect(push, &QPushButton::clicked, this, [this, &control] {
         if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
@@ -224,7 +225,7 @@ QWidget* FormView::createCommandButton(Control& control) {
 }
 
 QWidget* FormView::createOptionButton(Control& control) {
-    auto* option = new QRadioButton(this);
+    auto* option = new QRadioButton(hostOf(control));
     option->setAutoExclusive(false);
     connect(option, &QRadioButton::clicked, this, [this, &control] {
         if (Desktop* on = desktop()) forwardInput([&] { on->click(control); });
@@ -248,11 +249,34 @@ void FormView::adoptEditor(Control& control, QWidget* editor) {
     editor->show();
 }
 
+QWidget* FormView::hostOf(const Control& control) {
+    const Control* tabs = tabsOf(control);
+    if (!tabs) return this;
+    QWidget*& layer = pageLayers_[{tabs, pageOf(control)}];
+    if (!layer) {
+        // Drawn by nothing itself: the face beneath shows through, and a click on it goes on to the view.
+        layer = new QWidget(this);
+        layer->setObjectName(objectNameOf(*tabs) + QStringLiteral("_page_") + QString::number(pageOf(control)));
+        layer->setGeometry(rect());
+        layer->setVisible(tabOf(*tabs) == pageOf(control) && isShown(*tabs));
+    }
+    return layer;
+}
+
+void FormView::mirrorPages() {
+    for (const auto& [page, layer] : pageLayers_) {
+        if (layer->geometry() != rect()) layer->setGeometry(rect());
+        const bool onShow = isShown(*page.first) && tabOf(*page.first) == page.second;
+        if (layer->isHidden() == onShow) layer->setVisible(onShow);
+    }
+}
+
 void FormView::refresh() {
     if (!form_ || retired_) return;
     refreshing_ = true;
     const QSize size = extent_.isValid() ? extent_ : formSize(*form_, kScreenScale);
     if (this->size() != size) setFixedSize(size);
+    mirrorPages();
     // A new colour or size of the form itself repaints it whole.
     const std::size_t formLook = std::hash<Color>{}(form_->backColor) ^
                                  (std::hash<int>{}(form_->width) << 1) ^

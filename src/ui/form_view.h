@@ -78,7 +78,11 @@ private:
     QWidget* createOptionButton(Control& control);
     // Names the editor, leaves the focus to the model, and starts watching it.
     void adoptEditor(Control& control, QWidget* editor);
-    QLineEdit* takeIdleField();
+    // Where a control's editor lives: the layer of the page of a tab control it lies on, else the view.
+    QWidget* hostOf(const Control& control);
+    // Shows the layer of each page whose page is on show, and hides the others.
+    void mirrorPages();
+    QLineEdit* takeIdleField(QWidget* host);
     // Moves the idle fields to the window of the view that let them go, so that they outlive that view.
     void shelterIdleFields();
     void mirror(Control& control, QWidget* editor);
@@ -114,6 +118,9 @@ private:
     SharedFace keptFace_;                     // shared with the cache of faces
     std::size_t faceLook_ = 0;  // what the face shows, as faceLookOf() had it when the face was last true
     QHash<const Control*, QWidget*> editors_;
+    // Showing a widget under the mouse makes Qt ask the window system where the pointer is, and a page of
+    // a K-1 shows fifty fields at once: the editors of a page live on a layer shown and hidden as one.
+    std::map<std::pair<const Control*, int>, QWidget*> pageLayers_;
     QHash<const QObject*, Control*> controlOfWidget_;  // editors and the viewports of multi-line boxes
     bool refreshing_ = false;
     bool retired_ = false;

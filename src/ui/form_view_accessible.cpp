@@ -110,10 +110,16 @@ private:
     QRadioButton* option() const { return static_cast<QRadioButton*>(widget()); }
 };
 
+// Whether a widget edits a control of a form view, on the view itself or on a layer of one of its pages.
+bool isFormEditor(const QObject* widget) {
+    const QObject* host = widget->parent();
+    if (host && !qobject_cast<const FormView*>(host)) host = host->parent();
+    return qobject_cast<const FormView*>(host) != nullptr;
+}
+
 QAccessibleInterface* formViewFactory(const QString&, QObject* object) {
     if (auto* view = qobject_cast<FormView*>(object)) return new FormViewInterface(view);
-    if (auto* option = qobject_cast<QRadioButton*>(object);
-        option && qobject_cast<FormView*>(option->parent()))
+    if (auto* option = qobject_cast<QRadioButton*>(object); option && isFormEditor(option))
         return new OptionButtonInterface(option);
     if (auto* box = qobject_cast<QLineEdit*>(object); box && box->property(kWordsOnlyProperty).toBool())
         return new WordsOnlyInterface(box);

@@ -65,7 +65,8 @@ QMargins bearingMargins(const QFont& font) {
 void FormView::mirror(Control& control, QWidget* editor) {
     const QRect rect = controlRect(control, kScreenScale);
     if (editor->geometry() != rect) editor->setGeometry(rect);
-    const bool shown = isShown(control);
+    // The page it lies on shows it or not as one, with all the page holds.
+    const bool shown = isShownOnItsPage(control);
     if (editor->isHidden() == shown) editor->setVisible(shown);
     if (editor->isEnabled() != control.enabled) editor->setEnabled(control.enabled);
     setWhenDifferent(editor, toQString(control.toolTipText));

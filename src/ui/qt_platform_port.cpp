@@ -1,7 +1,6 @@
 #include "ui/qt_platform_port.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
@@ -101,13 +100,11 @@ bool QtPlatformPort::earlierInstanceRunning() {
         const QString root = QDir::cleanPath(rootPath());
         QDir().mkpath(root);
         const QString key = instanceKey();
-        const QByteArray place =
-            QCryptographicHash::hash(root.toUtf8(), QCryptographicHash::Sha1).toHex().left(12);
-        instance_ = std::make_unique<SingleInstance>(
-            root + QLatin1Char('/') + key + QStringLiteral(".lock"),
-            QStringLiteral("ledgerwick-") + key + QLatin1Char('-') + QString::fromLatin1(place), [this] {
-                if (raise_) raise_();
-            });
+        const QString base = root + QLatin1Char('/') + key;
+        instance_ = std::make_unique<SingleInstance>(base + QStringLiteral(".lock"),
+                                                     base + QStringLiteral(".requests"), [this] {
+                                                         if (raise_) raise_();
+                                                     });
     }
     return !instance_->isFirst();
 }

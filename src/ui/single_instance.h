@@ -1,8 +1,8 @@
 #pragma once
-// One running instance per executable: a lock file held while the first runs, and a local socket on
-// which a later start asks it to come to the front.
+// One running instance per executable: a lock file held while the first runs, and a request file beside
+// it in which a later start asks the first to come to the front.
 
-#include <QLocalServer>
+#include <QFileSystemWatcher>
 #include <QLockFile>
 #include <QObject>
 #include <functional>
@@ -13,19 +13,21 @@ namespace lw::ui {
 class SingleInstance : public QObject {
     Q_OBJECT
 public:
-    // lockPath: the lock file; serverName: the local socket shared by the instances.
-    SingleInstance(const QString& lockPath, const QString& serverName, std::function<void()> onRaise);
+    // lockPath: the lock file; requestPath: the file the instances share for requests.
+    SingleInstance(const QString& lockPath, const QString& requestPath, std::function<void()> onRaise);
     ~SingleInstance() override;
 
-    // True for the first instance, which then listens for later ones.
+    // True for the first instance, which then watches for later ones.
     bool isFirst() const { return first_; }
     // From a later instance: asks the first to show itself.
     bool askFirstToRaise(const QString& title);
 
 private:
-    QString serverName_;
+    void serveRequests();
+
+    QString requestPath_;
     std::unique_ptr<QLockFile> lock_;
-    QLocalServer server_;
+    QFileSystemWatcher watcher_;
     std::function<void()> onRaise_;
     bool first_ = false;
 };

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
@@ -105,6 +106,30 @@ TEST(QtPlatformPort, ASecondInstanceFindsTheFirstAndRaisesIt) {
     // Another executable is another program.
     QtPlatformPort other = portOf({"Ledgerwick_OthAgcy"});
     EXPECT_FALSE(other.earlierInstanceRunning());
+}
+
+TEST(QtPlatformPort, EachLaterStartRaisesTheFirstOnceWhateverAnEarlierRunLeft) {
+    QTemporaryDir root;
+    ASSERT_TRUE(root.isValid());
+    ScopedVariable place("LEDGERWICK_ROOT", root.path().toLocal8Bit());
+    QFile left(root.path() + "/ledgerwick_venturo.requests");
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.write("raise\n");
+    left.close();
+    QtPlatformPort first = portOf({"Ledgerwick_Venturo"});
+    int raised = 0;
+    first.setRaiseHandler([&] { ++raised; });
+    EXPECT_FALSE(first.earlierInstanceRunning());
+    QTest::qWait(200);
+    EXPECT_EQ(raised, 0);
+
+    // Two later starts raise it twice.
+    QtPlatformPort second = portOf({"Ledgerwick_Venturo"});
+    second.activateEarlierInstance("Ledgerwick");
+    QTRY_COMPARE_WITH_TIMEOUT(raised, 1, 3000);
+    QtPlatformPort third = portOf({"Ledgerwick_Venturo"});
+    third.activateEarlierInstance("Ledgerwick");
+    QTRY_COMPARE_WITH_TIMEOUT(raised, 2, 3000);
 }
 
 }  // namespace

@@ -47,6 +47,26 @@ TEST_F(Pages, OnlyThePageOnShowIsShownAndItsControlsStayVisibleToTheLogic) {
     EXPECT_FALSE(isShown(lower)) << "a hidden container hides what it holds";
 }
 
+TEST_F(Pages, OnItsPageAControlShowsAsItWouldOnceThePageIsTurnedTo) {
+    EXPECT_TRUE(isShownOnItsPage(upper));
+    EXPECT_TRUE(isShownOnItsPage(lower)) << "its page is turned away, nothing else hides it";
+    bottom.visible = false;
+    EXPECT_FALSE(isShownOnItsPage(lower)) << "a hidden panel on the page still hides it";
+    bottom.visible = true;
+    tabs.visible = false;
+    EXPECT_FALSE(isShownOnItsPage(upper)) << "a hidden tab control hides every page";
+}
+
+TEST_F(Pages, OnlyTheInnermostTabControlsPageCountsAsOnShow) {
+    Control& outer = form.add(ControlKind::TabControl, "SSTab2");
+    outer.items = {"One", "Two"};
+    placeInside(tabs, outer, 1);
+    EXPECT_FALSE(isShownOnItsPage(upper)) << "the outer tab control shows its first page";
+    ASSERT_TRUE(setTab(outer, 1));
+    EXPECT_TRUE(isShownOnItsPage(lower));
+    EXPECT_FALSE(isShown(lower));
+}
+
 TEST_F(Pages, APlaceIsRelativeToEveryContainerAbove) {
     EXPECT_EQ(formLeft(upper), 220);
     EXPECT_EQ(formTop(upper), 610);
