@@ -81,6 +81,33 @@ TEST_F(TabPagesTest, AClickOnTheSecondTabTurnsThePage) {
     EXPECT_TRUE(editor(0)->isVisible());
 }
 
+// Showing a widget under the mouse costs a round trip to the window system: a turn shows the page as one.
+TEST_F(TabPagesTest, APageTurnShowsOnePageLayerAndLeavesItsFieldsAlone) {
+    QWidget* top = editor(0)->parentWidget();
+    QWidget* bottom = editor(1)->parentWidget();
+    ASSERT_NE(top, view_.get());
+    ASSERT_NE(bottom, top);
+    EXPECT_EQ(bottom->parentWidget(), view_.get());
+    EXPECT_FALSE(editor(1)->isHidden()) << "the field itself waits, shown, on its page's hidden layer";
+    forwardInput([&] { setTab(form_->at("SSTab1"), 1); });
+    EXPECT_TRUE(bottom->isVisible());
+    EXPECT_FALSE(top->isVisible());
+    EXPECT_FALSE(editor(0)->isHidden());
+    EXPECT_EQ(bottom->geometry(), view_->rect()) << "the layer lies over the whole form";
+}
+
+TEST_F(TabPagesTest, AClickOnTheFaceThroughAPageLayerStillReachesTheForm) {
+    Control& tabs = form_->at("SSTab1");
+    const QRect strip = controlRect(tabs, kScreenScale);
+    const QPoint onBottomTab(strip.right() - 5, strip.top() + 5);
+    // Where the window system would deliver it: the deepest widget at the point.
+    QWidget* under = view_->childAt(onBottomTab);
+    ASSERT_NE(under, nullptr) << "the page layer covers the tab strip";
+    QTest::mouseClick(under, Qt::LeftButton, {}, under->mapFrom(view_.get(), onBottomTab));
+    EXPECT_EQ(tabOf(tabs), 1);
+    EXPECT_TRUE(editor(1)->isVisible());
+}
+
 TEST_F(TabPagesTest, TheFocusMovedByTheLogicToTheOtherPageShowsItWhenThePageTurns) {
     forwardInput([&] {
         setTab(form_->at("SSTab1"), 1);
