@@ -252,13 +252,17 @@ void FormView::adoptEditor(Control& control, QWidget* editor) {
 QWidget* FormView::hostOf(const Control& control) {
     const Control* tabs = tabsOf(control);
     if (!tabs) return this;
-    QWidget*& layer = pageLayers_[{tabs, pageOf(control)}];
+    const int page = pageOf(control);
+    QWidget*& layer = pageLayers_[{tabs, page}];
     if (!layer) {
         // Drawn by nothing itself: the face beneath shows through, and a click on it goes on to the view.
         layer = new QWidget(this);
-        layer->setObjectName(objectNameOf(*tabs) + QStringLiteral("_page_") + QString::number(pageOf(control)));
+        layer->setObjectName(objectNameOf(*tabs) + QStringLiteral("_page_") + QString::number(page));
+        // A screen reader finds the fields of a page inside it, under the page's own caption.
+        if (page >= 0 && page < static_cast<int>(tabs->items.size()))
+            layer->setAccessibleName(toQString(tabs->items[static_cast<std::size_t>(page)]));
         layer->setGeometry(rect());
-        layer->setVisible(tabOf(*tabs) == pageOf(control) && isShown(*tabs));
+        layer->setVisible(tabOf(*tabs) == page && isShown(*tabs));
     }
     return layer;
 }

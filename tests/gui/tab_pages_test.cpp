@@ -94,6 +94,7 @@ TEST_F(TabPagesTest, APageTurnShowsOnePageLayerAndLeavesItsFieldsAlone) {
     EXPECT_FALSE(top->isVisible());
     EXPECT_FALSE(editor(0)->isHidden());
     EXPECT_EQ(bottom->geometry(), view_->rect()) << "the layer lies over the whole form";
+    EXPECT_EQ(bottom->accessibleName(), QStringLiteral("Bottom")) << "a screen reader names the page";
 }
 
 TEST_F(TabPagesTest, AClickOnTheFaceThroughAPageLayerStillReachesTheForm) {
