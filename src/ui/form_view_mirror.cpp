@@ -53,11 +53,17 @@ qreal lineWidthOf(const Control& control, const QPlainTextEdit& box) {
 
 // A line editor keeps room for the farthest a glyph of its face may reach past its advance before it
 // takes its text as fitting. Its margins give that room back, so that it shows whole, without scrolling,
-// every text the painter fits in the same box.
-QMargins bearingMargins(const QFont& font) {
+// every text the painter fits in the same box. The room is given on the side the text runs towards:
+// given on the side it is aligned to, it would push the text into the border.
+QMargins bearingMargins(const QFont& font, Qt::Alignment horizontal) {
     const QFontMetrics metrics(font);
-    return QMargins(-std::max(0, -metrics.minLeftBearing()), 0,
-                    -(std::max(0, -metrics.minRightBearing()) + 1), 0);
+    const int before = std::max(0, -metrics.minLeftBearing());
+    const int after = std::max(0, -metrics.minRightBearing()) + 1;
+    if (horizontal & Qt::AlignRight) return QMargins(-(before + after), 0, 0, 0);
+    // Centred text stays centred whatever the margins, as long as they are even.
+    const int half = (before + after + 1) / 2;
+    if (horizontal & Qt::AlignHCenter) return QMargins(-half, 0, -half, 0);
+    return QMargins(-before, 0, -after, 0);
 }
 
 }  // namespace
@@ -115,7 +121,7 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         if (line->alignment() != (horizontal | Qt::AlignVCenter))
             line->setAlignment(horizontal | Qt::AlignVCenter);
         if (line->hasFrame() != (control.borderStyle != 0)) line->setFrame(control.borderStyle != 0);
-        const QMargins margins = bearingMargins(line->font());
+        const QMargins margins = bearingMargins(line->font(), horizontal);
         if (line->textMargins() != margins) line->setTextMargins(margins);
         const int start = control.selStart();
         const int length = control.selLength();

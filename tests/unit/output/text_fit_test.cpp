@@ -13,6 +13,7 @@
 #include <cmath>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "catalogue/catalogue_table.h"
@@ -200,15 +201,33 @@ TEST_P(TextFit, EveryCaptionStandsWholeInItsLabel) {
     }
 }
 
-// What a line editor needs across, as it reckons before scrolling its text.
-double lineEditorRoom(const QLineEdit& line) {
+// Inside a line editor's border.
+QRect lineEditorContents(const QLineEdit& line) {
     QStyleOptionFrame option;
     option.initFrom(&line);
     option.rect = line.rect();
     option.lineWidth =
         line.hasFrame() ? line.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &line) : 0;
-    const QRect contents = line.style()->subElementRect(QStyle::SE_LineEditContents, &option, &line);
-    return contents.marginsRemoved(line.textMargins()).width() - 2 * 2;
+    return line.style()->subElementRect(QStyle::SE_LineEditContents, &option, &line);
+}
+
+// What a line editor needs across, as it reckons before scrolling its text.
+double lineEditorRoom(const QLineEdit& line) {
+    return lineEditorContents(line).marginsRemoved(line.textMargins()).width() - 2 * 2;
+}
+
+// Where the caret stands before the first character and after the last, as painted: the editor places
+// its text when it paints.
+std::pair<int, int> lineEditorTextSpan(QLineEdit& line) {
+    const int kept = line.cursorPosition();
+    const auto caretAt = [&line](int position) {
+        line.setCursorPosition(position);
+        line.grab();
+        return line.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+    };
+    const std::pair<int, int> span{caretAt(0), caretAt(static_cast<int>(line.text().size()))};
+    line.setCursorPosition(kept);
+    return span;
 }
 
 double lineEditorNeed(const QLineEdit& line) {
@@ -248,6 +267,13 @@ TEST_P(TextFit, TheEditorsOfTheWindowShowTheLinesOfThePaper) {
                 EXPECT_LE(lineEditorNeed(*line), lineEditorRoom(*line))
                     << GetParam() << " " << box->key() << " scrolls " << quoted(line->text())
                     << " in its editor: " << lineEditorNeed(*line) << " pixels in " << lineEditorRoom(*line);
+                // Aligned left, centred or right, the text ends before the right border, never on it.
+                const QRect inside = lineEditorContents(*line);
+                const auto [first, last] = lineEditorTextSpan(*line);
+                EXPECT_TRUE(first >= 0 && last <= inside.right() + 1)
+                    << GetParam() << " " << box->key() << " shows " << quoted(line->text()) << " from "
+                    << first << " to " << last << " in an editor whose border leaves " << inside.left()
+                    << " to " << inside.right();
             } else if (auto* lines = qobject_cast<QPlainTextEdit*>(editor)) {
                 std::vector<QString> painted;
                 for (const face::TextLine& l : face::fieldLayout(*box, ui::qtTextMeasure()).lines)
