@@ -88,6 +88,8 @@ void FormView::mirror(Control& control, QWidget* editor) {
             palette.setColor(QPalette::Base, back);
             palette.setColor(QPalette::Active, QPalette::Text, fore);
             palette.setColor(QPalette::Inactive, QPalette::Text, fore);
+            // The room a lines editor keeps free at the right of its lines is the field's too.
+            if (dynamic_cast<LinesEditor*>(editor)) palette.setColor(QPalette::Window, back);
             if (control.kind == ControlKind::ComboBox) {
                 palette.setColor(QPalette::Button, back);
                 palette.setColor(QPalette::Active, QPalette::ButtonText, fore);
@@ -144,7 +146,8 @@ void FormView::mirrorText(Control& control, QWidget* editor) {
         }
         const QFrame::Shape frame = control.borderStyle != 0 ? QFrame::StyledPanel : QFrame::NoFrame;
         if (box->frameShape() != frame) box->setFrameShape(frame);
-        if (auto* lines = dynamic_cast<LinesEditor*>(box)) lines->setLineWidth(lineWidthOf(control, *box));
+        if (auto* lines = dynamic_cast<LinesEditor*>(box))
+            lines->setLineWidth(lineWidthOf(control, *box), horizontal);
         const int start = editorPosition(control.text, control.selStart());
         const int end = editorPosition(control.text, control.selStart() + control.selLength());
         QTextCursor cursor = box->textCursor();

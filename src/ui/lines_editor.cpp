@@ -11,11 +11,14 @@ namespace {
 constexpr qreal kTextMargin = 1;
 }  // namespace
 
-void LinesEditor::setLineWidth(qreal pixels) {
+void LinesEditor::setLineWidth(qreal pixels, Qt::Alignment horizontal) {
     const qreal inside = width() - 2 * frameWidth();
-    const int right = std::max(0, static_cast<int>(std::floor(inside - 2 * kTextMargin - pixels)));
-    const qreal margin = std::max(kTextMargin, (inside - right - pixels) / 2);
-    if (viewportMargins().right() != right) setViewportMargins(0, 0, right, 0);
+    const int free = std::max(0, static_cast<int>(std::floor(inside - 2 * kTextMargin - pixels)));
+    const qreal margin = std::max(kTextMargin, (inside - free - pixels) / 2);
+    // Centred lines stand in the middle of the box, as the painter puts them.
+    const int left = horizontal & Qt::AlignRight ? free : horizontal & Qt::AlignHCenter ? free / 2 : 0;
+    const QMargins margins(left, 0, free - left, 0);
+    if (viewportMargins() != margins) setViewportMargins(margins);
     if (std::abs(document()->documentMargin() - margin) > 1e-3) document()->setDocumentMargin(margin);
 }
 

@@ -10,9 +10,9 @@ class LinesEditor : public QPlainTextEdit {
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
-    // Lines of this many pixels: whole pixels are kept free at the right, the rest shared by the margins
-    // of the text.
-    void setLineWidth(qreal pixels);
+    // Lines of this many pixels: whole pixels are kept free on the side away from the text's alignment
+    // (shared by both sides when it is centred), the rest shared by the margins of the text.
+    void setLineWidth(qreal pixels, Qt::Alignment horizontal = Qt::AlignLeft);
 };
 
 }  // namespace lw::ui

@@ -1,8 +1,10 @@
 // A card's name in the window: a name too long for one line shows in an editor of lines, broken where
 // the printed card breaks it, and Enter still moves on without breaking the name.
+#include <QImage>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <cstdlib>
 
 #include "face/control_text.h"
 #include "forms/cards_form.h"
@@ -46,6 +48,23 @@ TEST_F(CardNameWindowTest, ALongNameShowsOnTheLinesOfThePrintedCard) {
     press(view_.get(), Qt::Key_Return);
     EXPECT_EQ(desktop().focus(), &form_->at("Text1", 2)) << "Enter moves on to the next card";
     EXPECT_EQ(name.text, "MAXIMILIANO ALEJANDRO WASHINGTON-MCBRIDE") << "Enter breaks no line in a name";
+}
+
+TEST_F(CardNameWindowTest, TheNameStandsInTheMiddleOfAWhiteBoxAsOnThePrintedCard) {
+    type(view_.get(), QStringLiteral("maximiliano alejandro washington-mcbride"));
+    QPlainTextEdit* editor = nameEditor();
+    ASSERT_NE(editor, nullptr);
+    // The lines are narrower than the box: the room left over lies on both sides of a centred name.
+    const QRect lines = editor->viewport()->geometry();
+    const QRect inside = editor->contentsRect();
+    ASSERT_LT(lines.width(), inside.width() - 4) << "the name's lines leave room in its box";
+    EXPECT_LE(std::abs((lines.left() - inside.left()) - (inside.right() - lines.right())), 1)
+        << "the lines stand in the middle of the box";
+    // That room is the field's own colour, not the form's.
+    const QImage picture = editor->grab().toImage();
+    const QColor field = editor->palette().color(QPalette::Base);
+    EXPECT_EQ(picture.pixelColor(inside.right() - 1, inside.center().y()), field);
+    EXPECT_EQ(picture.pixelColor(inside.left() + 1, inside.center().y()), field);
 }
 
 }  // namespace
