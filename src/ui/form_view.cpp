@@ -52,6 +52,11 @@ FormView::~FormView() {
     views.erase(std::remove(views.begin(), views.end(), this), views.end());
 }
 
+void FormView::nameFieldsOfEveryView() {
+    for (FormView* view : allViews())
+        if (view->form_ && !view->retired_) view->nameFields();
+}
+
 std::vector<FormView*> FormView::viewsOf(const Form& form) {
     std::vector<FormView*> found;
     for (FormView* view : allViews())
@@ -239,8 +244,9 @@ void FormView::adoptEditor(Control& control, QWidget* editor) {
     // first asks after the editor.
     if (control.wordsOnly) editor->setProperty(kWordsOnlyProperty, true);
     editor->setObjectName(objectNameOf(control));
-    if (const FieldName* named = fieldNameOf(control); named && !named->text.empty())
-        editor->setAccessibleName(toQString(named->text));
+    if (screenReaderListens())
+        if (const FieldName* named = fieldNameOf(control); named && !named->text.empty())
+            editor->setAccessibleName(toQString(named->text));
     // Only the model moves the focus; a click asks the model first.
     editor->setFocusPolicy(Qt::NoFocus);
     editor->setContextMenuPolicy(Qt::PreventContextMenu);

@@ -54,6 +54,8 @@ public:
     // "Text1(5)" becomes "Text1_5": the object name of the control's widget.
     static QString objectNameOf(const Control& control);
     static std::vector<FormView*> viewsOf(const Form& form);
+    // Gives every editor of every view the name a screen reader says of it.
+    static void nameFieldsOfEveryView();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -111,7 +113,9 @@ private:
     mutable std::map<const Control*, FieldName> names_;
     mutable std::map<const Control*, std::string> namedCaptions_;  // the captions the names were made of
     mutable bool named_ = false;
+    // A caption that names a box changed: the fields are named anew, for a listener.
     void renameFields();
+    void nameFields();
     LookTracker looks_;
     std::size_t formLook_ = 0;
     QHash<const Control*, QRect> paintedAt_;  // where each painted control was last drawn

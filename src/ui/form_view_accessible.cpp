@@ -126,6 +126,20 @@ QAccessibleInterface* formViewFactory(const QString&, QObject* object) {
     return nullptr;
 }
 
+bool& listening() {
+    static bool on = false;
+    return on;
+}
+
+// Told by Qt when a screen reader starts or stops listening.
+class ListenerWatch : public QAccessible::ActivationObserver {
+public:
+    void accessibilityActiveChanged(bool active) override {
+        listening() = active;
+        if (active) FormView::nameFieldsOfEveryView();
+    }
+};
+
 }  // namespace
 
 void installFormViewAccessibility() {
@@ -133,6 +147,10 @@ void installFormViewAccessibility() {
     if (installed) return;
     installed = true;
     QAccessible::installFactory(formViewFactory);
+    static ListenerWatch watch;
+    QAccessible::installActivationObserver(&watch);
 }
+
+bool screenReaderListens() { return listening() || QAccessible::isActive(); }
 
 }  // namespace lw::ui

@@ -11,4 +11,8 @@ inline constexpr const char* kWordsOnlyProperty = "lwWordsOnly";
 // Teaches Qt's accessibility to describe form views; runs once.
 void installFormViewAccessibility();
 
+// Whether a screen reader listens. Finding the names of a large form's fields takes longer than opening
+// it, so they are found only for a listener, and for every open form as soon as one starts listening.
+bool screenReaderListens();
+
 }  // namespace lw::ui

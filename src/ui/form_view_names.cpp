@@ -1,6 +1,7 @@
 // What a view tells a screen reader of its fields, and what it does when the reader acts on one.
 #include "model/program.h"
 #include "ui/form_view.h"
+#include "ui/form_view_accessible.h"
 #include "ui/input_bridge.h"
 #include "ui/kept_field_names.h"
 #include "ui/qt_text.h"
@@ -20,9 +21,12 @@ const FieldName* FormView::fieldNameOf(const Control& control) const {
     return found == names_.end() ? nullptr : &found->second;
 }
 
-// A caption that names a box changed, as the year in one does: the fields are named anew.
 void FormView::renameFields() {
     named_ = false;
+    if (screenReaderListens()) nameFields();
+}
+
+void FormView::nameFields() {
     for (auto it = editors_.cbegin(); it != editors_.cend(); ++it)
         if (const FieldName* named = fieldNameOf(*it.key()); named && !named->text.empty())
             it.value()->setAccessibleName(toQString(named->text));

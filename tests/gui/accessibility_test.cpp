@@ -49,7 +49,20 @@ protected:
     }
     std::unique_ptr<Form> form_;
     std::unique_ptr<FormView> view_;
+    ScreenReaderListening listener_;
 };
+
+TEST_F(GuiTest, TheFieldsAreNamedOnlyOnceAScreenReaderListensAndThenAtOnce) {
+    Form form("TF_W2");
+    realizeDefinition(*findDefinition("TF_W2"), form);
+    FormView view(form);
+    show(view);
+    QWidget* box1 = view.editorOf(form.at("Text1", 2));
+    ASSERT_NE(box1, nullptr);
+    EXPECT_TRUE(box1->accessibleName().isEmpty()) << "with no listener the names are not looked for";
+    ScreenReaderListening listener;
+    EXPECT_EQ(box1->accessibleName(), QStringLiteral("Box 1, Wages, tips, other compensation"));
+}
 
 TEST_F(AccessibilityTest, TheW2sFieldsAndCheckBoxesHaveTheirBoxesNames) {
     const auto spoken = spokenOf("TF_W2");

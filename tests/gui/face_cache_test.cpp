@@ -164,6 +164,7 @@ public:
 };
 
 TEST_F(FaceCacheTest, AFieldIsNamedByTheCaptionItHasNowWhenItsFormOpensAgain) {
+    ScreenReaderListening listener;
     CaptionedField& first = load<CaptionedField>();
     open(first);
     QWidget* field = view_->editorOf(first.at("Text1", 0));

@@ -1,5 +1,6 @@
 #include "gui_fixture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
@@ -57,6 +58,9 @@ void TwoFields::onClick(Control& control, MouseButton) {
     lastClicked = control.key();
     if (control.kind == ControlKind::CheckLabel) control.caption = control.caption.empty() ? "X" : "";
 }
+
+ScreenReaderListening::ScreenReaderListening() { QAccessible::setActive(true); }
+ScreenReaderListening::~ScreenReaderListening() { QAccessible::setActive(false); }
 
 void GuiTest::SetUp() {
     clearProgramEnded();

@@ -75,6 +75,13 @@ protected:
     std::unique_ptr<Program> program_;
 };
 
+// A screen reader listening while it lives, as Qt tells the program when one starts and stops.
+class ScreenReaderListening {
+public:
+    ScreenReaderListening();
+    ~ScreenReaderListening();
+};
+
 // A form of type F loaded into the desktop and shown in its own view.
 template <typename F>
 class FormViewTest : public GuiTest {
