@@ -60,7 +60,7 @@ QMargins bearingMargins(const QFont& font, Qt::Alignment horizontal) {
     const int before = std::max(0, -metrics.minLeftBearing());
     const int after = std::max(0, -metrics.minRightBearing()) + 1;
     if (horizontal & Qt::AlignRight) return QMargins(-(before + after), 0, 0, 0);
-    // Centred text stays centred whatever the margins, as long as they are even.
+    // Centred text stays centred whatever the margins, as long as both sides give back the same.
     const int half = (before + after + 1) / 2;
     if (horizontal & Qt::AlignHCenter) return QMargins(-half, 0, -half, 0);
     return QMargins(-before, 0, -after, 0);
