@@ -27,7 +27,11 @@ SingleInstance::SingleInstance(const QString& lockPath, const QString& requestPa
 }
 
 SingleInstance::~SingleInstance() {
-    if (first_) lock_->unlock();
+    if (!first_) return;
+    // Nobody answers requests once the first has gone: its file goes with it.
+    watcher_.removePath(requestPath_);
+    QFile::remove(requestPath_);
+    lock_->unlock();
 }
 
 void SingleInstance::serveRequests() {

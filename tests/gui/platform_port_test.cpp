@@ -132,5 +132,20 @@ TEST(QtPlatformPort, EachLaterStartRaisesTheFirstOnceWhateverAnEarlierRunLeft) {
     QTRY_COMPARE_WITH_TIMEOUT(raised, 2, 3000);
 }
 
+TEST(QtPlatformPort, TheFirstInstanceTakesItsLockAndRequestFileAwayWhenItEnds) {
+    QTemporaryDir root;
+    ASSERT_TRUE(root.isValid());
+    ScopedVariable place("LEDGERWICK_ROOT", root.path().toLocal8Bit());
+    {
+        QtPlatformPort first = portOf({"Ledgerwick_Venturo"});
+        EXPECT_FALSE(first.earlierInstanceRunning());
+        EXPECT_TRUE(QFileInfo::exists(root.path() + "/ledgerwick_venturo.requests"));
+    }
+    EXPECT_FALSE(QFileInfo::exists(root.path() + "/ledgerwick_venturo.requests"));
+    EXPECT_FALSE(QFileInfo::exists(root.path() + "/ledgerwick_venturo.lock"));
+    QtPlatformPort next = portOf({"Ledgerwick_Venturo"});
+    EXPECT_FALSE(next.earlierInstanceRunning()) << "the next start is the first again";
+}
+
 }  // namespace
 }  // namespace lw::ui::test
