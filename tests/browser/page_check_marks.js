@@ -2,7 +2,7 @@
 // excluding the other, and a second click leaves both empty; a mark is clicked or toggled with Space,
 // and the page shows each mark as the engine holds it; the browser's Tab goes on to the next field.
 "use strict";
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, turnToLowerHalf, runPageTest } = require("./serve_page");
 
 const screenshot = process.argv[3];
 const at = (key) => `#fields [data-name="${key}"]`;
@@ -12,11 +12,7 @@ const marks = (page) => page.evaluate(() => ["Check(4)", "Check(5)"].map((key) =
 
 runPageTest(async (page) => {
   await chooseMenu(page, "mnuK11041");
-  await page.waitForSelector("#fields [role=tab]");
-  const tabs = await page.$$eval("#fields [role=tab]", (all) => all.map((tab) => tab.getAttribute("aria-label")));
-  const lower = tabs.findIndex((name) => name.endsWith("Bottom"));
-  if (lower < 0) return fail("no tab for the lower half among " + tabs.join(", "));
-  await page.click(`#fields [role=tab][data-entry="${lower}"]`);
+  if ((await turnToLowerHalf(page)) < 0) return;
   const names = await page.$$eval(`${at("Check(4)")}, ${at("Check(5)")}`, (all) =>
     all.map((box) => box.type + ":" + box.getAttribute("aria-label")));
   if (names.some((name) => !name.startsWith("checkbox:") || name.endsWith(":null")))

@@ -2,19 +2,16 @@
 // entries as a dialog; Escape closes it and leaves the field as it was, and a click on a row puts its code
 // in the field and moves the focus on to the amount.
 "use strict";
-const { fail, chooseMenu, runPageTest } = require("./serve_page");
+const { fail, chooseMenu, turnToLowerHalf, runPageTest } = require("./serve_page");
 
 const screenshot = process.argv[3];
 const field = (key) => `#fields [data-name="${key}"]`;
 
 runPageTest(async (page) => {
   await chooseMenu(page, "mnuK11065");
-  await page.waitForSelector("#fields [role=tab]");
   // Box 11 stands on the lower half of the form, behind its second tab.
-  const tabs = await page.$$eval("#fields [role=tab]", (all) => all.map((tab) => tab.getAttribute("aria-label")));
-  const lower = tabs.findIndex((name) => name.endsWith("Bottom"));
-  if (lower < 0) return fail("no tab for the lower half among " + tabs.join(", "));
-  await page.click(`#fields [role=tab][data-entry="${lower}"]`);
+  const lower = await turnToLowerHalf(page);
+  if (lower < 0) return;
   const chosen = await page.$eval(`#fields [role=tab][data-entry="${lower}"]`, (tab) => tab.getAttribute("aria-selected"));
   if (chosen !== "true") return fail("the lower half's tab is not shown as chosen");
   await page.click(field("Text2(16)"));

@@ -105,6 +105,19 @@ async function keepSavedFiles(page) {
   });
 }
 
+// Turns the K-1 on the page to its lower half by its tab; the tab's index, or -1 after a fail().
+async function turnToLowerHalf(page) {
+  await page.waitForSelector("#fields [role=tab]");
+  const tabs = await page.$$eval("#fields [role=tab]", (all) => all.map((tab) => tab.getAttribute("aria-label")));
+  const lower = tabs.findIndex((name) => name.endsWith("Bottom"));
+  if (lower < 0) {
+    fail("no tab for the lower half among " + tabs.join(", "));
+    return -1;
+  }
+  await page.click(`#fields [role=tab][data-entry="${lower}"]`);
+  return lower;
+}
+
 // Runs one browser test on the page served from the folder named first on the command line (the web
 // build's page by default), at the address's query when one is given. The body gets the page and returns what passed, or nothing after a fail();
 // anything the page reported as an error fails the test too.
@@ -122,4 +135,4 @@ function runPageTest(body, query = "") {
   })().catch((error) => fail(error.stack || String(error)));
 }
 
-module.exports = { openPage, fail, chooseMenu, pressFrameButton, keepSavedFiles, runPageTest };
+module.exports = { openPage, fail, chooseMenu, pressFrameButton, keepSavedFiles, turnToLowerHalf, runPageTest };
