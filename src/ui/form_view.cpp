@@ -174,7 +174,6 @@ QWidget* FormView::createEditor(Control& control) {
 
 QWidget* FormView::createLinesEditor(Control& control) {
     auto* box = new LinesEditor(hostOf(control));
-    box->setAutoFillBackground(true);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->setLineWrapMode(QPlainTextEdit::WidgetWidth);

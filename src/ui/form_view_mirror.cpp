@@ -88,8 +88,6 @@ void FormView::mirror(Control& control, QWidget* editor) {
             palette.setColor(QPalette::Base, back);
             palette.setColor(QPalette::Active, QPalette::Text, fore);
             palette.setColor(QPalette::Inactive, QPalette::Text, fore);
-            // The room a lines editor keeps free at the right of its lines is the field's too.
-            if (dynamic_cast<LinesEditor*>(editor)) palette.setColor(QPalette::Window, back);
             if (control.kind == ControlKind::ComboBox) {
                 palette.setColor(QPalette::Button, back);
                 palette.setColor(QPalette::Active, QPalette::ButtonText, fore);

@@ -1,5 +1,6 @@
 #include "ui/lines_editor.h"
 
+#include <QEvent>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
@@ -10,6 +11,18 @@ namespace {
 // The narrow margin of a classic edit box, around its text.
 constexpr qreal kTextMargin = 1;
 }  // namespace
+
+LinesEditor::LinesEditor(QWidget* parent) : QPlainTextEdit(parent) { setAutoFillBackground(true); }
+
+void LinesEditor::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    const QColor field = palette().color(QPalette::Base);
+    if (palette().color(QPalette::Window) == field) return;
+    QPalette kept = palette();
+    kept.setColor(QPalette::Window, field);
+    setPalette(kept);
+}
 
 void LinesEditor::setLineWidth(qreal pixels, Qt::Alignment horizontal) {
     const qreal inside = width() - 2 * frameWidth();
